@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/File.h"
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+
+namespace Base
+{
+
+// Makes one process at a time the owner of something, by an advisory lock on a small file
+// that says who holds it. The system drops the lock however the process ends; the file stays,
+// as removing it would let two owners lock two files of one name.
+class FileLock
+{
+public:
+    // Takes the lock, asking again until `patience` is over. Then fails with unavailable:
+    // "WHAT is in use by NAME (process ID)".
+    [[nodiscard]] static Result<FileLock> take(const std::filesystem::path &file,
+                                               std::string_view what,
+                                               std::chrono::milliseconds patience);
+
+private:
+    explicit FileLock(FileDescriptor descriptor) : m_descriptor(std::move(descriptor)) {}
+
+    FileDescriptor m_descriptor;
+};
+
+} // namespace Base

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Base/JsonReader.h"
+
+namespace Base::json
+{
+
+namespace
+{
+
+constexpr std::size_t kLargeDocument = 64 * 1024;
+
+} // namespace
+
+KestError Reader::error() const
+{
+    return KestError::invalidData(m_place.empty() ? m_reason : m_place + ": " + m_reason);
+}
+
+bool Reader::readBytes(ondemand::value value, Bytes &out)
+{
+    std::string_view text;
+    if (!readText(value, text)) {
+        return false;
+    }
+    auto bytes = fromBase64(text);
+    if (!bytes) {
+        return fail("not Base64");
+    }
+    out = *std::move(bytes);
+    return true;
+}
+
+bool Reader::checkText(std::string_view text)
+{
+    if (m_hasEscapes && !simdjson::validate_utf8(text)) {
+        return fail("text is not valid UTF-8");
+    }
+    return true;
+}
+
+// What the record does not know must still be JSON, or a damaged document would pass.
+bool Reader::skip(ondemand::value value, int depth)
+{
+    if (depth > kDeepestUnknown) {
+        return fail("nested too deeply");
+    }
+    ondemand::json_type type{};
+    if (!take(value.type(), type)) {
+        return false;
+    }
+    switch (type) {
+    case ondemand::json_type::array: {
+        ondemand::array array;
+        if (!take(value.get_array(), array)) {
+            return false;
+        }
+        for (auto item : array) {
+            ondemand::value inner;
+            if (!take(std::move(item), inner) || !skip(inner, depth + 1)) {
+                return false;
+            }
+        }
+        return true;
+    }
+    case ondemand::json_type::object: {
+        ondemand::object object;
+        if (!take(value.get_object(), object)) {
+            return false;
+        }
+        for (auto entry : object) {
+            ondemand::field field;
+            std::string_view key;
+            if (!take(std::move(entry), field) || !take(field.unescaped_key(), key) ||
+                !skip(field.value(), depth + 1)) {
+                return false;
+            }
+        }
+        return true;
+    }
+    case ondemand::json_type::number: {
+        ondemand::number number;
+        return take(value.get_number(), number);
+    }
+    case ondemand::json_type::string: {
+        std::string_view text;
+        return readText(value, text);
+    }
+    case ondemand::json_type::boolean: {
+        bool boolean = false;
+        return take(value.get_bool(), boolean);
+    }
+    case ondemand::json_type::null:
+        break;
+    }
+    bool isNull = false;
+    return take(value.is_null(), isNull) && (isNull || fail("wrong type"));
+}
+
+bool Reader::atEnd(ondemand::document &document)
+{
+    const char *location = nullptr;
+    const auto code = document.current_location().get(location);
+    return code == simdjson::OUT_OF_BOUNDS || fail("text behind the document");
+}
+
+bool Reader::fail(std::string_view reason)
+{
+    m_reason = reason;
+    return false;
+}
+
+bool Reader::fail(simdjson::error_code code)
+{
+    if (code == simdjson::INCORRECT_TYPE) {
+        return fail("wrong type");
+    }
+    return fail(code == simdjson::NUMBER_ERROR ? "not a number that fits"
+                                               : simdjson::error_message(code));
+}
+
+bool Reader::failAt(std::string_view key, std::string_view reason)
+{
+    fail(reason);
+    return inside(key);
+}
+
+// Called while the failure travels outwards, so the place grows at its front.
+bool Reader::inside(std::string_view key)
+{
+    m_place.insert(0, m_place.empty() ? std::string{key} : std::string{key} + ".");
+    return false;
+}
+
+ParserLoan::ParserLoan(std::size_t documentSize)
+    : m_own(documentSize > kLargeDocument ? std::make_unique<ondemand::parser>() : nullptr)
+{
+}
+
+ondemand::parser &ParserLoan::shared()
+{
+    thread_local ondemand::parser parser;
+    return parser;
+}
+
+} // namespace Base::json

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/Base64.h"
+#include "Base/Instant.h"
+#include "Base/Json.h"
+#include "Base/SharedList.h"
+
+#include <array>
+#include <charconv>
+#include <concepts>
+#include <cstring>
+#include <map>
+#include <optional>
+#include <set>
+
+// The encoder behind json::encode. Include it only where a record's encoder is instantiated.
+namespace Base::json
+{
+
+namespace detail
+{
+
+// ,"name": as one constant, so that a key costs one copy.
+template <std::size_t N>
+struct KeyText {
+    std::array<char, N> chars{};
+};
+
+template <class T, std::size_t I>
+consteval auto keyText()
+{
+    constexpr std::string_view kName = std::get<I>(jsonFields(Of<T>{})).name;
+    KeyText<kName.size() + 4> text;
+    std::size_t at = 0;
+    for (const std::string_view piece : {std::string_view{",\""}, kName, std::string_view{"\":"}}) {
+        for (const char c : piece) {
+            text.chars[at++] = c;
+        }
+    }
+    return text;
+}
+
+} // namespace detail
+
+// Appends JSON to one growing buffer. A value that JSON cannot carry is remembered and
+// reported at the end, since nothing of the text is used then.
+class Writer
+{
+public:
+    enum class SharedLists : std::uint8_t { written, leftOut };
+
+    explicit Writer(SharedLists sharedLists = SharedLists::written)
+        : m_sharedLists(sharedLists)
+    {
+    }
+
+    template <class T>
+    void write(const T &value)
+    {
+        if constexpr (std::same_as<T, bool>) {
+            literal(value ? "true" : "false");
+        } else if constexpr (std::integral<T>) {
+            integer(value);
+        } else if constexpr (std::same_as<T, double>) {
+            number(value);
+        } else if constexpr (std::same_as<T, Instant>) {
+            number(seconds2001(value));
+        } else if constexpr (std::same_as<T, std::string>) {
+            string(value);
+        } else if constexpr (std::same_as<T, Bytes>) {
+            string(toBase64(value));
+        } else if constexpr (TextEnum<T>) {
+            string(textOf(value));
+        } else if constexpr (detail::isA<T, std::optional>) {
+            value ? write(*value) : literal("null");
+        } else if constexpr (detail::isA<T, SharedList>) {
+            sharedList(value);
+        } else if constexpr (detail::isA<T, std::map>) {
+            map(value);
+        } else if constexpr (Record<T>) {
+            record(value);
+        } else {
+            array(value);
+        }
+    }
+
+    // The text, or why there is none. The writer is spent afterwards.
+    [[nodiscard]] Result<std::string> finish();
+    // The two halves around the list that was left out.
+    [[nodiscard]] Result<EncodedAround> finishAround();
+
+private:
+    char *room(std::size_t count)
+    {
+        if (m_text.size() - m_size < count) [[unlikely]] {
+            grow(count);
+        }
+        return m_text.data() + m_size;
+    }
+    void grow(std::size_t count);
+    [[nodiscard]] Result<void> checkText() const;
+
+    void literal(std::string_view text)
+    {
+        std::memcpy(room(text.size()), text.data(), text.size());
+        m_size += text.size();
+    }
+    void string(std::string_view text);
+    void escapedCharacter(char c);
+    void number(double value);
+
+    template <std::integral T>
+    void integer(T value)
+    {
+        char *at = room(24);
+        m_size += static_cast<std::size_t>(std::to_chars(at, at + 24, value).ptr - at);
+    }
+
+    template <class List>
+    void array(const List &list)
+    {
+        literal("[");
+        bool first = true;
+        for (const auto &item : list) {
+            if (!first) {
+                literal(",");
+            }
+            first = false;
+            write(item);
+        }
+        literal("]");
+    }
+
+    template <class T>
+    void sharedList(const SharedList<T> &list)
+    {
+        if (m_sharedLists == SharedLists::written) {
+            array(list);
+            return;
+        }
+        m_cutAt = m_size;
+    }
+
+    template <class Map>
+    void map(const Map &entries)
+    {
+        literal("{");
+        bool first = true;
+        for (const auto &[key, value] : entries) {
+            if (!first) {
+                literal(",");
+            }
+            first = false;
+            string(key);
+            literal(":");
+            write(value);
+        }
+        literal("}");
+    }
+
+    template <class T>
+    void record(const T &value)
+    {
+        literal("{");
+        [&]<std::size_t... I>(std::index_sequence<I...>) {
+            constexpr auto kFields = jsonFields(Of<T>{});
+            bool first = true;
+            (member<T, I>(value.*(std::get<I>(kFields).member), first), ...);
+        }(std::make_index_sequence<std::tuple_size_v<decltype(jsonFields(Of<T>{}))>>{});
+        literal("}");
+    }
+
+    template <class T, std::size_t I, class Member>
+    void member(const Member &value, bool &first)
+    {
+        if constexpr (detail::isA<Member, std::optional>) {
+            if (!value) {
+                return;
+            }
+        }
+        static constexpr auto kKey = detail::keyText<T, I>();
+        const std::size_t skipComma = first ? 1 : 0;
+        literal({kKey.chars.data() + skipComma, kKey.chars.size() - skipComma});
+        first = false;
+        write(value);
+    }
+
+    SharedLists m_sharedLists;
+    std::string m_text;
+    std::size_t m_size = 0;
+    std::optional<std::size_t> m_cutAt;
+    bool m_hasNonFinite = false;
+};
+
+template <class T>
+Result<std::string> encode(const T &value)
+{
+    Writer writer;
+    writer.write(value);
+    return writer.finish();
+}
+
+template <class T>
+Result<EncodedAround> encodeAroundSharedList(const T &value)
+{
+    Writer writer{Writer::SharedLists::leftOut};
+    writer.write(value);
+    return writer.finishAround();
+}
+
+} // namespace Base::json

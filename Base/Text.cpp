@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Base/Text.h"
+
+#include "Base/Fault.h"
+
+#include <unicode/locid.h>
+#include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+
+namespace Base
+{
+
+namespace
+{
+
+const icu::Normalizer2 &normalizer(const icu::Normalizer2 *(*get)(UErrorCode &))
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2 *found = get(status);
+    if (U_FAILURE(status) || found == nullptr) {
+        fatalFault("Base/Text", "the Unicode normalisation data is missing");
+    }
+    return *found;
+}
+
+icu::UnicodeString decompose(const icu::UnicodeString &text)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    return normalizer(icu::Normalizer2::getNFDInstance).normalize(text, status);
+}
+
+std::uint32_t foldOptions()
+{
+    const std::string_view language = icu::Locale::getDefault().getLanguage();
+    const bool hasDotlessI = language == "tr" || language == "az";
+    return hasDotlessI ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT;
+}
+
+} // namespace
+
+std::size_t countCodePoints(std::string_view text)
+{
+    return static_cast<std::size_t>(std::ranges::count_if(
+        text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+}
+
+std::string foldCaseAndDiacritics(std::string_view text)
+{
+    auto folded = icu::UnicodeString::fromUTF8(text).foldCase(foldOptions());
+    const auto decomposed = decompose(folded);
+    icu::UnicodeString bare;
+    for (std::int32_t at = 0; at < decomposed.length(); at = decomposed.moveIndex32(at, 1)) {
+        const UChar32 character = decomposed.char32At(at);
+        if (u_charType(character) != U_NON_SPACING_MARK) {
+            bare.append(character);
+        }
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    std::string out;
+    normalizer(icu::Normalizer2::getNFCInstance).normalize(bare, status).toUTF8String(out);
+    return out;
+}
+
+std::vector<std::string_view> split(std::string_view text, char separator)
+{
+    std::vector<std::string_view> pieces;
+    while (true) {
+        const std::size_t end = text.find(separator);
+        pieces.push_back(text.substr(0, end));
+        if (end == std::string_view::npos) {
+            return pieces;
+        }
+        text.remove_prefix(end + 1);
+    }
+}
+
+} // namespace Base

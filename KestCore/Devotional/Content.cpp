@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/Devotional/Content.h"
+
+#include "Base/Fault.h"
+#include "Base/JsonReader.h"
+#include "Base/JsonWriter.h"
+#include "Base/Text.h"
+#include "KestCore/Resources.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+template Base::Result<KestCore::Content>
+Base::json::decode<KestCore::Content>(const Base::json::PaddedText &);
+template Base::Result<std::string> Base::json::encode(const KestCore::Content &);
+template Base::Result<std::string> Base::json::encode(const KestCore::Phrase &);
+template Base::Result<std::string> Base::json::encode(const std::vector<KestCore::Phrase> &);
+
+namespace KestCore
+{
+
+namespace
+{
+
+using IdSet = std::unordered_set<std::string_view>;
+
+IdSet idsOf(std::span<const Phrase> phrases)
+{
+    IdSet ids;
+    for (const Phrase &phrase : phrases) {
+        ids.insert(phrase.id);
+    }
+    return ids;
+}
+
+void replaceAll(std::string &text, std::string_view from, std::string_view to)
+{
+    for (std::size_t at = text.find(from); at != std::string::npos;
+         at = text.find(from, at + to.size())) {
+        text.replace(at, from.size(), to);
+    }
+}
+
+constexpr std::string_view kPlainAlef = "\u0627";
+
+// Harakat and Quranic marks U+064B to U+065F are D9 8B to D9 9F in UTF-8.
+void removeArabicMarks(std::string &text)
+{
+    std::string kept;
+    kept.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const auto lead = static_cast<unsigned char>(text[at]);
+        const auto next = at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) : 0;
+        const bool isHaraka = lead == 0xD9 && next >= 0x8B && next <= 0x9F;
+        const bool isSuperscriptAlef = lead == 0xD9 && next == 0xB0;
+        const bool isTatweel = lead == 0xD9 && next == 0x80;
+        if (isHaraka || isSuperscriptAlef || isTatweel) {
+            ++at;
+            continue;
+        }
+        kept += text[at];
+    }
+    text = std::move(kept);
+}
+
+// Beyond the normal form: what a keyboard does not offer or people leave out.
+std::string looseForm(std::string_view text)
+{
+    std::string form = normalizeForSearch(text);
+    replaceAll(form, "\u0671", kPlainAlef);
+    for (const std::string_view dropped :
+         {"\u02BE", "\u02BF", "\u2018", "\u2019", "'", "`", "-", "\u2013", "\u2014"}) {
+        replaceAll(form, dropped, "");
+    }
+    return form;
+}
+
+std::string searchableText(const Phrase &phrase)
+{
+    std::string text = phrase.id;
+    for (const std::string_view field :
+         {std::string_view{phrase.arabic}, std::string_view{phrase.transliteration},
+          std::string_view{phrase.translation ? *phrase.translation : ""},
+          std::string_view{phrase.meaning ? *phrase.meaning : ""},
+          std::string_view{phrase.source}}) {
+        text += '\n';
+        text += field;
+    }
+    return looseForm(text);
+}
+
+} // namespace
+
+const Content &contentCatalogue()
+{
+    static const Content kContent =
+        decodeResource<Content>("content", "KestCore/Models");
+    return kContent;
+}
+
+bool isPhraseId(std::string_view id)
+{
+    static const IdSet kIds = idsOf(contentCatalogue().dhikr);
+    return kIds.contains(id);
+}
+
+bool isNameId(std::string_view id)
+{
+    static const IdSet kIds = idsOf(contentCatalogue().names);
+    return kIds.contains(id);
+}
+
+const Phrase &phraseById(std::string_view id, std::span<const Phrase> phrases,
+                         const Phrase &fallback)
+{
+    const auto found = std::ranges::find(phrases, id, &Phrase::id);
+    return found == phrases.end() ? fallback : *found;
+}
+
+std::string normalizeForSearch(std::string_view text)
+{
+    std::string form = Base::foldCaseAndDiacritics(text);
+    removeArabicMarks(form);
+    for (const std::string_view alef : {"\u0623", "\u0625", "\u0622"}) {
+        replaceAll(form, alef, kPlainAlef);
+    }
+    return form;
+}
+
+std::vector<const Phrase *> searchPhrases(std::span<const Phrase> phrases,
+                                          std::string_view query)
+{
+    const std::string wanted = looseForm(query);
+    const auto words = Base::split(wanted, ' ');
+    std::vector<const Phrase *> found;
+    for (const Phrase &phrase : phrases) {
+        const std::string text = searchableText(phrase);
+        if (std::ranges::all_of(words, [&](auto word) { return text.contains(word); })) {
+            found.push_back(&phrase);
+        }
+    }
+    return found;
+}
+
+} // namespace KestCore

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/FileLock.h"
+#include "Base/Sqlite.h"
+#include "KestCore/Models/Snapshot.h"
+#include "KestCore/Store/StateEncoder.h"
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+namespace KestCore
+{
+
+// The only writer of the state database. Has no lock of its own: lives in a
+// Serial<StateStore> or on one thread. Every mutation raises the state's revision by one and
+// writes it in the same transaction; on any failure the file and the memory are as before.
+class StateStore
+{
+public:
+    using StateMutation = std::function<Result<void>(NativeState &)>;
+    using RecordMutation = std::function<Result<void>(LocalRecord &)>;
+
+    static constexpr std::chrono::milliseconds kLockPatience{5000};
+
+    // Opens, creates or migrates the file and becomes its owner. Waits `patience` for another
+    // owner, then fails with unavailable, saying who that is.
+    [[nodiscard]] static Result<StateStore>
+    open(const std::filesystem::path &file,
+         std::chrono::milliseconds patience = kLockPatience);
+
+    const NativeState &state() const { return m_state; }
+    const CompanionState &companion() const { return m_companion; }
+
+    // Everything, all records included. One row that does not decode fails the whole call.
+    [[nodiscard]] Result<Snapshot> snapshot();
+
+    [[nodiscard]] Result<Snapshot> update(const StateMutation &mutation);
+    // The same change for a caller that needs only `state()`: reads no records at all.
+    [[nodiscard]] Result<void> change(const StateMutation &mutation);
+
+    // Takes over the document of an older product, once.
+    [[nodiscard]] Result<Snapshot> migrateLegacy(std::string_view document);
+    [[nodiscard]] Result<Snapshot> saveCompanion(CompanionState companion);
+
+    [[nodiscard]] Result<Snapshot> upsertRecord(const LocalRecord &record);
+    [[nodiscard]] Result<Snapshot> deleteRecord(std::string_view id);
+    // Fails with "This item was removed." for an unknown id and "Cannot change an item's
+    // identity." when the mutation changes it.
+    [[nodiscard]] Result<Snapshot> updateRecord(std::string_view id,
+                                                const RecordMutation &mutation);
+
+    // Forgets finished sessions and the records of use, clipboard and completion.
+    [[nodiscard]] Result<Snapshot> clearHistory();
+    // Forgets the devotional data, the companion and every record; keeps the settings, the
+    // enabled tools, their order and the pin.
+    [[nodiscard]] Result<Snapshot> resetAll();
+
+    // SQLite's own findings about the file, "ok" when it is sound.
+    [[nodiscard]] Result<std::string> checkIntegrity();
+
+private:
+    using Write = std::function<Result<void>()>;
+    using RecordList = std::vector<RecordRef>;
+    using RecordEdit = std::function<void(RecordList &)>;
+
+    StateStore(Base::FileLock lock, Base::Database database);
+
+    [[nodiscard]] Result<void> load(const std::filesystem::path &file);
+    [[nodiscard]] Result<void> refuseNewerFile();
+    [[nodiscard]] Result<void> loadCompanion();
+
+    enum class Records : std::uint8_t { asTheyAre, readForSnapshot };
+    // Writes `next` with what else belongs to the change, and only then replaces the memory.
+    [[nodiscard]] Result<void> commit(NativeState next, const Write &alsoWrite,
+                                      const RecordEdit &edit, Records records);
+    [[nodiscard]] Result<Snapshot> commitForSnapshot(NativeState next, const Write &alsoWrite,
+                                                     const RecordEdit &edit);
+    [[nodiscard]] Result<bool> hasFreshRecords();
+    [[nodiscard]] Result<void> readRecords();
+    Snapshot currentSnapshot() const;
+
+    Base::FileLock m_lock; // before the database, so that it is given up after it
+    Base::Database m_database;
+    NativeState m_state{};
+    CompanionState m_companion{};
+    StateEncoder m_encoder;
+
+    // The decoded rows, while no other connection has written since they were read.
+    Base::SharedList<RecordRef> m_records;
+    std::string m_recordsVersion; // SQLite's data version then; empty: not read yet
+};
+
+} // namespace KestCore

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "KestCore/Devotional/Content.h"
+#include "KestCore/Models/NativeState.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+// The JSON documents that commands answer with. Scripts rely on their shapes: only add.
+namespace Cli
+{
+
+namespace json = Base::json;
+using Base::Of;
+
+// Of show and select.
+struct ShowAnswer {
+    KestCore::Phrase phrase{};
+    KestCore::Session session{};
+    std::int64_t revision{};
+};
+consteval auto jsonFields(Of<ShowAnswer>)
+{
+    using R = ShowAnswer;
+    return std::tuple{json::Field{"phrase", &R::phrase}, json::Field{"session", &R::session},
+                      json::Field{"revision", &R::revision}};
+}
+static_assert(json::coversAllMembers<ShowAnswer>());
+
+// Of count, undo, target, pause, finish and reset.
+struct CountAnswer {
+    std::int64_t count{};
+    std::optional<std::int64_t> target{};
+    bool targetReached{}; // by this command
+    bool paused{};
+    std::int64_t revision{};
+};
+consteval auto jsonFields(Of<CountAnswer>)
+{
+    using R = CountAnswer;
+    return std::tuple{json::Field{"count", &R::count}, json::Field{"target", &R::target},
+                      json::Field{"targetReached", &R::targetReached},
+                      json::Field{"paused", &R::paused}, json::Field{"revision", &R::revision}};
+}
+static_assert(json::coversAllMembers<CountAnswer>());
+
+// One finding of doctor.
+struct Finding {
+    enum class State : std::uint8_t { full, degraded, off };
+
+    std::string check{};
+    State state{};
+    std::string detail{};
+    std::optional<std::string> advice{}; // the way out
+};
+constexpr auto enumTexts(Of<Finding::State>)
+{
+    using enum Finding::State;
+    return Base::EnumTexts<Finding::State, 3>{
+        {{full, "full"}, {degraded, "degraded"}, {off, "off"}}};
+}
+consteval auto jsonFields(Of<Finding>)
+{
+    using R = Finding;
+    return std::tuple{json::Field{"check", &R::check}, json::Field{"state", &R::state},
+                      json::Field{"detail", &R::detail}, json::Field{"advice", &R::advice}};
+}
+static_assert(json::coversAllMembers<Finding>());
+
+} // namespace Cli

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "cli/Console.h"
+
+#include "Base/Text.h"
+
+#include <fmt/format.h>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <iostream>
+
+namespace Cli
+{
+
+namespace
+{
+
+bool mayColour()
+{
+    static const bool kMay = isatty(STDOUT_FILENO) != 0 &&
+                             (std::getenv("NO_COLOR") == nullptr ||
+                              *std::getenv("NO_COLOR") == '\0');
+    return kMay;
+}
+
+std::string_view escapeOf(Style style)
+{
+    switch (style) {
+    case Style::strong:
+        return "\x1b[1m";
+    case Style::faint:
+        return "\x1b[2m";
+    case Style::good:
+        return "\x1b[32m";
+    case Style::warning:
+        return "\x1b[33m";
+    case Style::plain:
+        break;
+    }
+    return "";
+}
+
+// Escape sequences take no room on the screen.
+std::size_t displayWidth(std::string_view cell)
+{
+    std::size_t width = Base::countCodePoints(cell);
+    for (std::size_t at = cell.find('\x1b'); at != std::string_view::npos;
+         at = cell.find('\x1b', at + 1)) {
+        width -= cell.find('m', at) - at + 1;
+    }
+    return width;
+}
+
+} // namespace
+
+std::string Console::styled(std::string_view text, Style style) const
+{
+    if (isJson || !mayColour() || style == Style::plain) {
+        return std::string{text};
+    }
+    return fmt::format("{}{}\x1b[0m", escapeOf(style), text);
+}
+
+void Console::table(const std::vector<std::vector<std::string>> &rows) const
+{
+    std::vector<std::size_t> widths;
+    for (const auto &row : rows) {
+        widths.resize(std::max(widths.size(), row.size()));
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            widths[column] = std::max(widths[column], displayWidth(row[column]));
+        }
+    }
+    for (const auto &row : rows) {
+        std::string text;
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            text += row[column];
+            if (column + 1 < row.size()) {
+                text.append(widths[column] - displayWidth(row[column]) + 2, ' ');
+            }
+        }
+        line(text);
+    }
+}
+
+void Console::line(std::string_view text) const
+{
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    std::fputc('\n', stdout);
+}
+
+bool Console::isInteractive()
+{
+    return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
+}
+
+bool Console::confirms(std::string_view question)
+{
+    std::fprintf(stderr, "%.*s [y/N] ", static_cast<int>(question.size()), question.data());
+    std::string answer;
+    std::getline(std::cin, answer);
+    return answer == "y" || answer == "Y" || answer == "yes";
+}
+
+Result<void> Console::flush()
+{
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        return std::unexpected(KestError::unavailable(
+            std::string{"Standard output cannot be written: "} + std::strerror(errno)));
+    }
+    return {};
+}
+
+std::string localTime(double milliseconds)
+{
+    const auto seconds = static_cast<std::time_t>(milliseconds / 1000.0);
+    std::tm fields{};
+    char text[64] = {};
+    if (localtime_r(&seconds, &fields) == nullptr) {
+        return "?";
+    }
+    const std::size_t size = std::strftime(text, sizeof text, "%e %b %Y, %H:%M", &fields);
+    return {text, size};
+}
+
+} // namespace Cli

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/Devotional/Content.h"
+#include "KestCore/Registry/ToolRegistry.h"
+#include "KestCore/Resources.h"
+#include "cli/Answers.h"
+#include "cli/Session.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <langinfo.h>
+
+#include <algorithm>
+#include <clocale>
+#include <filesystem>
+
+// What works on this machine and what does not, each with the way out.
+namespace Cli
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+using State = Finding::State;
+
+Finding checkResources()
+{
+    const auto &content = KestCore::contentCatalogue();
+    return {.check = "resources",
+            .state = State::full,
+            .detail = fmt::format("{} phrases, {} Names, {} tools in {}", content.dhikr.size(),
+                                  content.names.size(), KestCore::ToolRegistry::tools().size(),
+                                  KestCore::coreBundle().folder().string())};
+}
+
+Finding checkFolder(const fs::path &folder)
+{
+    std::error_code error;
+    const auto status = fs::status(folder, error);
+    Finding finding{.check = "data folder", .state = State::full, .detail = folder.string()};
+    if (!fs::is_directory(status)) {
+        finding.state = State::off;
+        finding.detail += " is not there";
+        finding.advice = "Look at its permissions, or choose another with --data-dir";
+    } else if ((status.permissions() & (fs::perms::group_all | fs::perms::others_all)) !=
+               fs::perms::none) {
+        finding.state = State::degraded;
+        finding.detail += " can be read by other users";
+        finding.advice = fmt::format("chmod 700 '{}'", folder.string());
+    }
+    return finding;
+}
+
+Finding storeFailure(const KestError &error)
+{
+    return {.check = "store",
+            .state = State::off,
+            .detail = "Velvetnook could not open its local data: " + error.message,
+            .advice = "Nothing was changed. Keep a copy of the data folder before you try "
+                      "anything else"};
+}
+
+std::vector<Finding> checkStore(const Session &session)
+{
+    auto store = session.openStore();
+    if (!store) {
+        return {storeFailure(store.error())};
+    }
+    std::vector<Finding> findings;
+    const auto &state = store->state();
+    findings.push_back({.check = "store",
+                        .state = State::full,
+                        .detail = fmt::format("revision {}, {} finished sessions",
+                                              state.revision, state.devotional.records.size())});
+    const auto integrity = store->checkIntegrity();
+    const bool isSound = integrity && *integrity == "ok";
+    findings.push_back({.check = "database file",
+                        .state = isSound ? State::full : State::off,
+                        .detail = integrity ? *integrity : integrity.error().message});
+    const auto snapshot = store->snapshot();
+    findings.push_back({.check = "records",
+                        .state = snapshot ? State::full : State::degraded,
+                        .detail = snapshot ? fmt::format("{} readable", snapshot->records.size())
+                                           : snapshot.error().message});
+    return findings;
+}
+
+Finding checkTerminal()
+{
+    const std::string_view charset = nl_langinfo(CODESET);
+    if (charset == "UTF-8") {
+        return {.check = "terminal text", .state = State::full, .detail = "UTF-8"};
+    }
+    return {.check = "terminal text",
+            .state = State::degraded,
+            .detail = fmt::format("the locale's text is {}, so Arabic may not show", charset),
+            .advice = "Set a UTF-8 locale, such as LANG=C.UTF-8"};
+}
+
+Result<void> runDoctor(const Session &session)
+{
+    std::vector<Finding> findings = checkStore(session);
+    findings.push_back(checkFolder(session.databaseFile().parent_path()));
+    findings.push_back(checkResources());
+    findings.push_back(checkTerminal());
+    KEST_CHECK(session.console.answer(findings, [&] {
+        const Console &console = session.console;
+        std::vector<std::vector<std::string>> rows;
+        for (const Finding &finding : findings) {
+            const bool isFull = finding.state == State::full;
+            rows.push_back({console.styled(Base::textOf(finding.state),
+                                           isFull ? Style::good : Style::warning),
+                            finding.check,
+                            finding.detail + (finding.advice ? ". " + *finding.advice : "")});
+        }
+        console.table(rows);
+    }));
+    if (std::ranges::find(findings, State::off, &Finding::state) != findings.end()) {
+        return std::unexpected(KestError::unavailable("something does not work; see above"));
+    }
+    return {};
+}
+
+} // namespace
+
+void addDoctorCommand(CLI::App &program, Session &session)
+{
+    program.add_subcommand("doctor", "Checks what works here")->callback([&session] {
+        session.command = [&session] { return runDoctor(session); };
+    });
+}
+
+} // namespace Cli

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "cli/Session.h"
+
+#include "KestCore/Store/StoreLocation.h"
+
+namespace Cli
+{
+
+std::filesystem::path Session::databaseFile() const
+{
+    const std::filesystem::path directory =
+        dataDirectory ? std::filesystem::path{*dataDirectory} : KestCore::dataDirectory();
+    return directory / KestCore::kDatabaseName;
+}
+
+Result<KestCore::StateStore> Session::openStore() const
+{
+    return KestCore::StateStore::open(databaseFile());
+}
+
+} // namespace Cli

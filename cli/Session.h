@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "KestCore/Store/StateStore.h"
+#include "cli/Console.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace CLI
+{
+class App;
+}
+
+namespace Cli
+{
+
+// What one run of the program works with: where the data is, how to answer, and the command
+// that the arguments chose.
+struct Session {
+    Console console{};
+    std::optional<std::string> dataDirectory{};
+    std::function<Result<void>()> command{};
+
+    std::filesystem::path databaseFile() const;
+    [[nodiscard]] Result<KestCore::StateStore> openStore() const;
+};
+
+// Each adds its commands to the program; chosen, they set `session.command`.
+void addCounterCommands(CLI::App &program, Session &session);
+void addCatalogueCommands(CLI::App &program, Session &session);
+void addDocumentCommands(CLI::App &program, Session &session);
+void addSettingsCommand(CLI::App &program, Session &session);
+void addDoctorCommand(CLI::App &program, Session &session);
+void addCompletionCommands(CLI::App &program, Session &session);
+
+// The counter on the whole terminal. Fails when there is no terminal.
+[[nodiscard]] Result<void> runTerminalCounter(Session &session);
+
+} // namespace Cli

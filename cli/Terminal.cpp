@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "cli/Terminal.h"
+
+#include <curses.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cwchar>
+
+namespace Cli
+{
+
+namespace
+{
+
+constexpr short kAccentPair = 1;
+constexpr int kEscape = 27;
+
+std::wstring wide(std::string_view text)
+{
+    std::wstring out(text.size(), L'\0');
+    const std::string copy{text};
+    const std::size_t size = std::mbstowcs(out.data(), copy.c_str(), out.size());
+    out.resize(size == static_cast<std::size_t>(-1) ? 0 : size);
+    return out;
+}
+
+int cellsOf(const std::wstring &text)
+{
+    return std::max(0, wcswidth(text.c_str(), text.size()));
+}
+
+attr_t attributesOf(Terminal::Ink ink)
+{
+    switch (ink) {
+    case Terminal::Ink::strong:
+        return A_BOLD;
+    case Terminal::Ink::faint:
+        return A_DIM;
+    case Terminal::Ink::accent:
+        return has_colors() ? static_cast<attr_t>(COLOR_PAIR(kAccentPair)) : A_BOLD;
+    case Terminal::Ink::plain:
+        break;
+    }
+    return A_NORMAL;
+}
+
+} // namespace
+
+Terminal::Terminal()
+{
+    setenv("ESCDELAY", "25", 0); // a lone Esc must not feel slow
+    initscr();
+    cbreak();
+    noecho();
+    nonl();
+    keypad(stdscr, TRUE);
+    curs_set(0);
+    if (has_colors() && std::getenv("NO_COLOR") == nullptr) {
+        start_color();
+        use_default_colors();
+        init_pair(kAccentPair, COLOR_GREEN, -1);
+    }
+}
+
+Terminal::~Terminal() { endwin(); }
+
+int Terminal::width() const { return COLS; }
+
+int Terminal::height() const { return LINES; }
+
+void Terminal::clear() const { erase(); }
+
+void Terminal::centre(int row, std::string_view text, Ink ink) const
+{
+    std::wstring line = wide(text);
+    while (cellsOf(line) > COLS) {
+        line.pop_back();
+    }
+    if (row < 0 || row >= LINES || line.empty()) {
+        return;
+    }
+    attrset(static_cast<int>(attributesOf(ink)));
+    mvaddwstr(row, (COLS - cellsOf(line)) / 2, line.c_str());
+    attrset(A_NORMAL);
+}
+
+void Terminal::show() const { refresh(); }
+
+std::optional<int> Terminal::waitForKey(int milliseconds) const
+{
+    timeout(milliseconds);
+    const int key = getch();
+    if (key == '\r' || key == KEY_ENTER) {
+        return '\n';
+    }
+    return key == ERR || key == KEY_RESIZE ? std::nullopt : std::optional{key};
+}
+
+std::optional<std::string> Terminal::readDigits(std::string_view question,
+                                                std::size_t longest) const
+{
+    std::string digits;
+    while (true) {
+        move(LINES - 1, 0);
+        clrtoeol();
+        centre(LINES - 1, std::string{question} + digits + "▏", Ink::plain);
+        show();
+        const auto key = waitForKey(-1);
+        if (!key) {
+            continue;
+        }
+        if (*key == '\n') {
+            return digits;
+        }
+        if (*key == kEscape) {
+            return std::nullopt;
+        }
+        const bool isErase = *key == KEY_BACKSPACE || *key == 127 || *key == '\b';
+        if (isErase && !digits.empty()) {
+            digits.pop_back();
+        } else if (*key >= '0' && *key <= '9' && digits.size() < longest) {
+            digits += static_cast<char>(*key);
+        }
+    }
+}
+
+void Terminal::ring() { beep(); }
+
+} // namespace Cli

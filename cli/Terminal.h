@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Cli
+{
+
+// The whole terminal as a page of centred lines, given back on destruction. One at a time.
+class Terminal
+{
+public:
+    enum class Ink { plain, strong, faint, accent };
+
+    Terminal();
+    ~Terminal();
+    Terminal(const Terminal &) = delete;
+    Terminal &operator=(const Terminal &) = delete;
+
+    int width() const;
+    int height() const;
+
+    void clear() const;
+    // Writes the text in the middle of a row, cut where the row ends. Rows outside the page
+    // are left out.
+    void centre(int row, std::string_view text, Ink ink) const;
+    void show() const;
+
+    // The next key, or nothing when none came in time (or the page was resized).
+    std::optional<int> waitForKey(int milliseconds) const;
+    // Digits typed behind the question on the last row; nothing when the user gave up (Esc).
+    std::optional<std::string> readDigits(std::string_view question,
+                                          std::size_t longest) const;
+
+    static void ring();
+};
+
+} // namespace Cli

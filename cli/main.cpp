@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "cli/Session.h"
+
+#include <CLI/CLI.hpp>
+
+#include <clocale>
+#include <cstdio>
+#include <exception>
+
+namespace
+{
+
+int refuse(const Base::KestError &error)
+{
+    std::fflush(stdout);
+    std::fprintf(stderr, "kest: %s\n", error.message.c_str());
+    return 1;
+}
+
+int run(int argc, char **argv)
+{
+    std::setlocale(LC_ALL, "");
+    Cli::Session session;
+    CLI::App program{"Counts remembrance and keeps what Velvetnook keeps, from the terminal."};
+    program.name("kest");
+    program.set_version_flag("--version", "kest " KEST_VERSION);
+    program.add_flag("--json", session.console.isJson, "One JSON document instead of text");
+    program.add_option("--data-dir", session.dataDirectory,
+                       "The folder that holds kest.sqlite (also KEST_DATA_DIR)");
+    program.require_subcommand(1);
+    program.fallthrough();
+    Cli::addCounterCommands(program, session);
+    Cli::addCatalogueCommands(program, session);
+    Cli::addDocumentCommands(program, session);
+    Cli::addSettingsCommand(program, session);
+    Cli::addDoctorCommand(program, session);
+    Cli::addCompletionCommands(program, session);
+
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        // Help and version are parse errors of status 0 to the library; the rest is usage.
+        return program.exit(error) == 0 ? 0 : 2;
+    }
+    Base::Result<void> outcome = session.command();
+    if (outcome) {
+        outcome = Cli::Console::flush();
+    }
+    return outcome ? 0 : refuse(outcome.error());
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const std::exception &error) {
+        // Memory or the file system gave out below the program's own errors.
+        return refuse(Base::KestError::unavailable(error.what()));
+    }
+}
