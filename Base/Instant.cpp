@@ -117,6 +117,7 @@ Result<Instant> fromIso8601(std::string_view text)
     const double fraction = scan.accept('.') ? scan.fraction() : 0.0;
 
     int offsetMinutes = 0;
+    int minutesPart = 0;
     if (!scan.accept('Z')) {
         const int sign = scan.accept('-') ? -1 : 1;
         if (sign > 0) {
@@ -124,14 +125,15 @@ Result<Instant> fromIso8601(std::string_view text)
         }
         const int hours = scan.digits(2);
         scan.expect(':');
-        offsetMinutes = sign * (hours * 60 + scan.digits(2));
+        minutesPart = scan.digits(2);
+        offsetMinutes = sign * (hours * 60 + minutesPart);
     }
 
     const chrono::year_month_day date{chrono::year{year},
                                       chrono::month{static_cast<unsigned>(month)},
                                       chrono::day{static_cast<unsigned>(day)}};
     const bool inRange = date.ok() && hour < 24 && minute < 60 && second < 60 &&
-                         std::abs(offsetMinutes) < 24 * 60;
+                         minutesPart < 60 && std::abs(offsetMinutes) < 24 * 60;
     if (!scan.finished() || !inRange) {
         return std::unexpected(KestError::invalidData(
             "Write a time as 2026-11-21T08:30:00Z or with an offset such as +03:00"));

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 // Records and JSON. A record declares its keys once, beside the struct:
@@ -55,7 +56,7 @@ struct ConvertsToAnything {
     template <class T>
     constexpr operator T() const noexcept // NOLINT(*-explicit-*): it must convert silently
     {
-        return *static_cast<T *>(nullptr);
+        std::unreachable();
     }
 };
 

@@ -300,9 +300,10 @@ private:
         return [&]<std::size_t... I>(std::index_sequence<I...>) {
             constexpr auto kFields = jsonFields(Of<T>{});
             bool isRead = false;
-            ((index == I &&
-              (isRead = read(value, out.*(std::get<I>(kFields).member)), true)) ||
-             ...);
+            static_cast<void>(
+                ((index == I &&
+                  (isRead = read(value, out.*(std::get<I>(kFields).member)), true)) ||
+                 ...));
             return isRead;
         }(std::make_index_sequence<detail::kFieldCount<T>>{});
     }

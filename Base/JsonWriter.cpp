@@ -6,7 +6,6 @@
 
 #include <simdjson.h>
 
-#include <algorithm>
 #include <bit>
 #include <cmath>
 
@@ -51,12 +50,6 @@ std::size_t plainPrefix(std::string_view text)
 }
 
 } // namespace
-
-void Writer::grow(std::size_t count)
-{
-    const std::size_t wanted = std::max({std::size_t{512}, m_text.size() * 2, m_size + count});
-    m_text.resize(wanted);
-}
 
 void Writer::string(std::string_view text)
 {
@@ -108,7 +101,7 @@ void Writer::number(double value)
         return;
     }
     char *at = room(32);
-    m_size += static_cast<std::size_t>(std::to_chars(at, at + 32, value).ptr - at);
+    m_pieceSize += static_cast<std::size_t>(std::to_chars(at, at + 32, value).ptr - at);
 }
 
 Result<void> Writer::checkText() const
@@ -124,14 +117,14 @@ Result<void> Writer::checkText() const
 
 Result<std::string> Writer::finish()
 {
-    m_text.resize(m_size);
+    flush();
     KEST_CHECK(checkText());
     return std::move(m_text);
 }
 
 Result<EncodedAround> Writer::finishAround()
 {
-    m_text.resize(m_size);
+    flush();
     KEST_CHECK(checkText());
     if (!m_cutAt) {
         fatalFault("Base/Json", "the record has no shared list to cut around");

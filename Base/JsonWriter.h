@@ -92,20 +92,33 @@ public:
     [[nodiscard]] Result<EncodedAround> finishAround();
 
 private:
+    // Text is put together in a small piece that stays in the processor's cache and moves to
+    // the whole when it is full: a growing whole would be cleared and copied again and again.
+    static constexpr std::size_t kPieceSize = 16'384;
+
     char *room(std::size_t count)
     {
-        if (m_text.size() - m_size < count) [[unlikely]] {
-            grow(count);
+        if (kPieceSize - m_pieceSize < count) [[unlikely]] {
+            flush();
         }
-        return m_text.data() + m_size;
+        return m_piece.data() + m_pieceSize;
     }
-    void grow(std::size_t count);
+    void flush()
+    {
+        m_text.append(m_piece.data(), m_pieceSize);
+        m_pieceSize = 0;
+    }
     [[nodiscard]] Result<void> checkText() const;
 
     void literal(std::string_view text)
     {
+        if (text.size() > kPieceSize) [[unlikely]] {
+            flush();
+            m_text += text;
+            return;
+        }
         std::memcpy(room(text.size()), text.data(), text.size());
-        m_size += text.size();
+        m_pieceSize += text.size();
     }
     void string(std::string_view text);
     void escapedCharacter(char c);
@@ -115,7 +128,7 @@ private:
     void integer(T value)
     {
         char *at = room(24);
-        m_size += static_cast<std::size_t>(std::to_chars(at, at + 24, value).ptr - at);
+        m_pieceSize += static_cast<std::size_t>(std::to_chars(at, at + 24, value).ptr - at);
     }
 
     template <class List>
@@ -137,10 +150,11 @@ private:
     void sharedList(const SharedList<T> &list)
     {
         if (m_sharedLists == SharedLists::written) {
+            m_text.reserve(m_text.size() + list.size() * kUsualEntrySize);
             array(list);
             return;
         }
-        m_cutAt = m_size;
+        m_cutAt = m_text.size() + m_pieceSize;
     }
 
     template <class Map>
@@ -187,9 +201,12 @@ private:
         write(value);
     }
 
+    static constexpr std::size_t kUsualEntrySize = 128; // of a long list, so that it grows once
+
     SharedLists m_sharedLists;
     std::string m_text;
-    std::size_t m_size = 0;
+    std::array<char, kPieceSize> m_piece; // NOLINT(*-member-init): written before it is read
+    std::size_t m_pieceSize = 0;
     std::optional<std::size_t> m_cutAt;
     bool m_hasNonFinite = false;
 };

@@ -81,7 +81,12 @@ Result<void> Database::forEachRow(std::string_view sql, Parameters parameters,
         KEST_CHECK(take(row));
     }
     if (code != SQLITE_DONE) {
-        return std::unexpected(lastError());
+        KestError error = lastError();
+        sqlite3_reset(statement.get());
+        // A read that came up short left a page of zeros in the cache, and the next statement
+        // would take it for the file's.
+        sqlite3_db_release_memory(m_handle.get());
+        return std::unexpected(std::move(error));
     }
     return {};
 }

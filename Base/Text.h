@@ -14,7 +14,7 @@ namespace Base
 std::size_t countCodePoints(std::string_view text);
 
 // The text without differences of case and of diacritics, by the rules of the user's
-// language (LC_ALL, LC_CTYPE, LANG): a Turkish dotless i stays itself there.
+// language (LC_ALL, LC_MESSAGES, LANG): a Turkish dotless i stays itself there.
 std::string foldCaseAndDiacritics(std::string_view text);
 
 // Splits at each separator. "a,,b" gives "a", "", "b"; an empty text gives one empty piece.

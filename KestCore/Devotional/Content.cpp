@@ -76,18 +76,24 @@ std::string looseForm(std::string_view text)
     return form;
 }
 
+std::string_view orEmpty(const std::optional<std::string> &text)
+{
+    return text ? std::string_view{*text} : std::string_view{};
+}
+
 std::string searchableText(const Phrase &phrase)
 {
     std::string text = phrase.id;
     for (const std::string_view field :
          {std::string_view{phrase.arabic}, std::string_view{phrase.transliteration},
-          std::string_view{phrase.translation ? *phrase.translation : ""},
-          std::string_view{phrase.meaning ? *phrase.meaning : ""},
+          orEmpty(phrase.translation), orEmpty(phrase.meaning),
           std::string_view{phrase.source}}) {
         text += '\n';
         text += field;
     }
-    return looseForm(text);
+    std::string form = looseForm(text);
+    std::erase(form, ' ');
+    return form;
 }
 
 } // namespace

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/Store/StateStore.h"
+#include "bench/Bench.h"
+#include "bench/Samples.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+extern char **environ;
+
+namespace Bench
+{
+
+namespace
+{
+
+// Runs a program with its output thrown away and gives its resource use.
+rusage runProgram(std::vector<char *> argv)
+{
+    argv.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    pid_t child = 0;
+    if (posix_spawn(&child, argv[0], &actions, nullptr, argv.data(), environ) != 0) {
+        giveUp(std::string{"cannot start "} + argv[0]);
+    }
+    posix_spawn_file_actions_destroy(&actions);
+    int status = 0;
+    rusage usage{};
+    if (wait4(child, &status, 0, &usage) != child || status != 0) {
+        giveUp(std::string{argv[0]} + " failed");
+    }
+    return usage;
+}
+
+std::vector<char *> pointersTo(std::vector<std::string> &arguments)
+{
+    std::vector<char *> pointers;
+    for (std::string &argument : arguments) {
+        pointers.push_back(argument.data());
+    }
+    return pointers;
+}
+
+Row memoryRow(std::string name, double value, double floor, double most)
+{
+    Row row{.name = std::move(name),
+            .value = value / 1e6,
+            .unit = "MB",
+            .floor = floor / 1e6,
+            .ratio = value / floor,
+            .goal = "< 20 MB",
+            .met = value < most};
+    return row;
+}
+
+} // namespace
+
+int printPeakMemory(char **arguments)
+{
+    std::vector<char *> argv;
+    for (; *arguments != nullptr; ++arguments) {
+        argv.push_back(*arguments);
+    }
+    std::printf("%ld\n", runProgram(std::move(argv)).ru_maxrss * 1024);
+    return 0;
+}
+
+double peakMemory(const std::vector<std::string> &arguments)
+{
+    std::string command = "/proc/self/exe";
+    command = std::filesystem::read_symlink(command).string() + " --peak-memory";
+    for (const std::string &argument : arguments) {
+        command += " '" + argument + "'";
+    }
+    FILE *pipe = popen(command.c_str(), "r");
+    double bytes = 0;
+    if (pipe == nullptr || std::fscanf(pipe, "%lf", &bytes) != 1 || pclose(pipe) != 0) {
+        giveUp("cannot measure " + arguments[0]);
+    }
+    return bytes;
+}
+
+// The floor of a program that starts, answers and ends is one that does nothing.
+std::vector<Row> programSuite()
+{
+    const auto folder = freshFolder("program");
+    {
+        auto store = must(KestCore::StateStore::open(folder / "kest.sqlite"));
+        must(store.update([](KestCore::NativeState &state) -> Base::Result<void> {
+            state = stateWithSessions(1'000); // a year of an ordinary user
+            return {};
+        }));
+    }
+    std::vector<std::string> show{KEST_PROGRAM, "--data-dir", folder.string(), "show"};
+    std::vector<std::string> nothing{"/bin/true"};
+    const Pair seconds = measureByTurns(
+        60, [&] { runProgram(pointersTo(show)); }, [&] { runProgram(pointersTo(nothing)); });
+    return {durationRow("kest show as a whole process, 1,000 sessions", seconds, 0.010),
+            memoryRow("memory of kest show, 1,000 sessions", peakMemory(show),
+                      peakMemory(nothing), 20e6)};
+}
+
+} // namespace Bench

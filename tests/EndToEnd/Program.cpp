@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "tests/EndToEnd/Program.h"
+
+#include "Base/File.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <stdexcept>
+
+extern char **environ;
+
+Outcome runKest(const std::filesystem::path &folder, std::vector<std::string> arguments)
+{
+    // Outputs go through files, so that neither can fill up while the other is read.
+    const auto out = folder / ("out-" + std::to_string(gettid()));
+    const auto err = folder / ("err-" + std::to_string(gettid()));
+    arguments.insert(arguments.begin(), {KEST_PROGRAM, "--data-dir", folder.string()});
+    std::vector<char *> argv;
+    for (std::string &argument : arguments) {
+        argv.push_back(argument.data());
+    }
+    argv.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_TRUNC;
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(), kFlags, 0600);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err.c_str(), kFlags, 0600);
+    pid_t process = 0;
+    const int code = posix_spawn(&process, argv[0], &actions, nullptr, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    int status = 0;
+    if (code != 0 || waitpid(process, &status, 0) != process) {
+        throw std::runtime_error("kest did not start");
+    }
+    Outcome outcome{.status = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status),
+                    .out = Base::readFile(out).value_or(""),
+                    .err = Base::readFile(err).value_or("")};
+    std::filesystem::remove(out);
+    std::filesystem::remove(err);
+    return outcome;
+}
