@@ -40,6 +40,14 @@ struct Field {
     Member Record::*member;
 };
 
+// An optional that is written as null when it is absent, for documents that promise the key.
+template <class T>
+struct OrNull {
+    std::optional<T> value{};
+
+    bool operator==(const OrNull &) const = default;
+};
+
 template <class T>
 concept Record = std::is_class_v<T> && requires { jsonFields(Of<T>{}); };
 

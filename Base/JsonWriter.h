@@ -73,8 +73,10 @@ public:
             string(toBase64(value));
         } else if constexpr (TextEnum<T>) {
             string(textOf(value));
+        } else if constexpr (detail::isA<T, OrNull>) {
+            value.value ? write(*value.value) : literal("null");
         } else if constexpr (detail::isA<T, std::optional>) {
-            value ? write(*value) : literal("null");
+            write(*value); // a member that is absent is not written at all
         } else if constexpr (detail::isA<T, SharedList>) {
             sharedList(value);
         } else if constexpr (detail::isA<T, std::map>) {

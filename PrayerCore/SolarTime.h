@@ -82,7 +82,7 @@ public:
     double timeForAltitude(Angle altitude, Side side) const;
 
     // The same for several altitudes. Each step is taken for all of them before the next, so
-    // that the processor works on them side by side: a third faster than one after another.
+    // that the processor works on them side by side.
     struct Crossing {
         Angle altitude{};
         Side side{};

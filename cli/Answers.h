@@ -16,6 +16,7 @@ namespace Cli
 
 namespace json = Base::json;
 using Base::Of;
+using Base::Result;
 
 // Of show and select.
 struct ShowAnswer {

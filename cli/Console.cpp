@@ -89,10 +89,15 @@ void Console::table(const std::vector<std::vector<std::string>> &rows) const
     }
 }
 
-void Console::line(std::string_view text) const
+void Console::line(std::string_view content) const
 {
-    std::fwrite(text.data(), 1, text.size(), stdout);
-    std::fputc('\n', stdout);
+    text(content);
+    text("\n");
+}
+
+void Console::text(std::string_view content) const
+{
+    std::fwrite(content.data(), 1, content.size(), stdout);
 }
 
 bool Console::isInteractive()

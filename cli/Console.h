@@ -26,7 +26,9 @@ public:
     std::string styled(std::string_view text, Style style) const;
     // Rows under each other, each column as wide as its widest cell; the last is left ragged.
     void table(const std::vector<std::vector<std::string>> &rows) const;
-    void line(std::string_view text) const;
+    void line(std::string_view content) const;
+    // Without a line's end: a document that has its own.
+    void text(std::string_view content) const;
 
     // Prints the JSON of an answer, or lets `text` print it for people.
     template <class Answer, class Text>

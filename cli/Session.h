@@ -33,6 +33,9 @@ void addCounterCommands(CLI::App &program, Session &session);
 void addCatalogueCommands(CLI::App &program, Session &session);
 void addDocumentCommands(CLI::App &program, Session &session);
 void addSettingsCommand(CLI::App &program, Session &session);
+void addPrayerCommands(CLI::App &program, Session &session);
+void addPlaceCommands(CLI::App &program, Session &session);
+void addReminderCommands(CLI::App &program, Session &session);
 void addDoctorCommand(CLI::App &program, Session &session);
 void addCompletionCommands(CLI::App &program, Session &session);
 

@@ -34,6 +34,9 @@ int run(int argc, char **argv)
     Cli::addCatalogueCommands(program, session);
     Cli::addDocumentCommands(program, session);
     Cli::addSettingsCommand(program, session);
+    Cli::addPrayerCommands(program, session);
+    Cli::addPlaceCommands(program, session);
+    Cli::addReminderCommands(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 

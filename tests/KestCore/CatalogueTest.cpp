@@ -223,7 +223,7 @@ TEST(Catalogue, LinksToTheSourceThatItNames)
         const std::string path = phrase.sourceUrl->substr(at->address.size());
         ASSERT_TRUE(std::regex_match(where, named, place));
         ASSERT_TRUE(std::regex_match(path, linked, link));
-        for (const std::size_t number : {1, 3, 5}) {
+        for (const std::size_t number : {1U, 3U, 5U}) {
             EXPECT_EQ(named[number], linked[number]) << path;
         }
         EXPECT_EQ(named[3].matched, at == kCollections.begin());

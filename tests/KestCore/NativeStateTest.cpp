@@ -111,16 +111,16 @@ TEST(NativeState, RefusesWhatBreaksARule)
 
 TEST(NativeState, WritesItsKeysInTheirOrder)
 {
-    EXPECT_EQ(
-        joinedKeys(json::encode(fullState()).value()),
-        "version revision migrated devotional schemaVersion revision migrated mode tab "
-        "selectedDhikrId selectedNameId session id count target isPaused history "
-        "completedTargets startedAt favorites preferences showTransliteration showTranslation "
-        "textSize reminderEnabled reminderInterval activeHoursStart activeHoursEnd soundEnabled "
-        "completionSound reminderSound pinEnabled pinMode pinDisplay pinSize rotationMinutes "
-        "weekdays pinnedReminder historyEnabled savedTargets onboardingComplete records id "
-        "dhikrId count target endedAt pausedUntil presentation notificationStatus enabled order "
-        "navigationFavorites pin tool item displayID settings");
+    EXPECT_EQ(joinedKeys(json::encode(fullState()).value()),
+              "version revision migrated devotional schemaVersion revision migrated mode tab "
+              "selectedDhikrId selectedNameId session id count target isPaused history "
+              "completedTargets startedAt favorites preferences showTransliteration "
+              "showTranslation textSize reminderEnabled reminderInterval activeHoursStart "
+              "activeHoursEnd soundEnabled completionSound reminderSound pinEnabled pinMode "
+              "pinDisplay pinSize rotationMinutes weekdays pinnedReminder historyEnabled "
+              "savedTargets onboardingComplete records id dhikrId count target endedAt "
+              "pausedUntil presentation notificationStatus enabled order navigationFavorites "
+              "pin tool item displayID settings");
 }
 
 TEST(NativeState, NeedsEveryKeyButTheOptionalOnes)

@@ -74,8 +74,8 @@ TEST(JulianDateDeathTest, EndsTheProgramWhereItsWholeNumbersDo)
 TEST(SolarCoordinates, AreThoseOfTheBook)
 {
     const auto sun = solarCoordinates(julianDate({.year = 1992, .month = 10, .day = 13}));
-    EXPECT_NEAR(sun.rightAscension.degrees, 198.38083, 2e-4);
-    EXPECT_NEAR(sun.declination.degrees, -7.78507, 2e-4);
+    EXPECT_NEAR(sun.rightAscension.degrees, 198.38083, 2e-5);
+    EXPECT_NEAR(sun.declination.degrees, -7.78507, 2e-5);
     const auto earth = solarCoordinates(julianDate({.year = 1987, .month = 4, .day = 10}));
     EXPECT_NEAR(earth.apparentSiderealTime.degrees, 197.692229, 2e-5);
     const ThreePoints mars{0.877366, 0.877366 - 0.884226, 0.870531 - 0.877366};
