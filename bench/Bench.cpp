@@ -147,6 +147,7 @@ int main(int argc, char **argv)
     const std::pair<std::string_view, Bench::Suite> suites[] = {
         {"json", Bench::jsonSuite},
         {"store", Bench::storeSuite},
+        {"prayer", Bench::prayerSuite},
         {"program", Bench::programSuite},
     };
     std::vector<Bench::Row> rows;

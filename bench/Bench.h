@@ -69,6 +69,7 @@ int printPeakMemory(char **arguments);
 using Suite = std::vector<Row> (*)();
 std::vector<Row> storeSuite();
 std::vector<Row> jsonSuite();
+std::vector<Row> prayerSuite();
 std::vector<Row> programSuite();
 
 } // namespace Bench

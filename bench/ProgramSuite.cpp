@@ -96,14 +96,22 @@ std::vector<Row> programSuite()
         auto store = must(KestCore::StateStore::open(folder / "kest.sqlite"));
         must(store.update([](KestCore::NativeState &state) -> Base::Result<void> {
             state = stateWithSessions(1'000); // a year of an ordinary user
+            state.settings = {{"prayer.latitude", "30.06"},
+                              {"prayer.longitude", "31.25"},
+                              {"prayer.timezone", "Africa/Cairo"},
+                              {"prayer.country", "EG"}};
             return {};
         }));
     }
     std::vector<std::string> show{KEST_PROGRAM, "--data-dir", folder.string(), "show"};
+    std::vector<std::string> prayer{KEST_PROGRAM, "--data-dir", folder.string(), "prayer"};
     std::vector<std::string> nothing{"/bin/true"};
     const Pair seconds = measureByTurns(
         60, [&] { runProgram(pointersTo(show)); }, [&] { runProgram(pointersTo(nothing)); });
-    return {durationRow("kest show as a whole process, 1,000 sessions", seconds, 0.010),
+    const Pair prayerSeconds = measureByTurns(
+        60, [&] { runProgram(pointersTo(prayer)); }, [&] { runProgram(pointersTo(nothing)); });
+    return {durationRow("kest prayer as a whole process", prayerSeconds, 0.010),
+            durationRow("kest show as a whole process, 1,000 sessions", seconds, 0.010),
             memoryRow("memory of kest show, 1,000 sessions", peakMemory(show),
                       peakMemory(nothing), 20e6)};
 }

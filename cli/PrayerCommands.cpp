@@ -222,10 +222,12 @@ Result<void> runQibla(const Session &session, const Arguments &args)
 void addOverrides(CLI::App *command, const std::shared_ptr<Arguments> &args)
 {
     const auto add = [&](const char *option, const char *setting, const char *help) {
-        command->add_option_function<std::string>(
-            option,
-            [args, setting](const std::string &value) { args->overrides[setting] = value; },
-            help);
+        command
+            ->add_option_function<std::string>(
+                option,
+                [args, setting](const std::string &value) { args->overrides[setting] = value; },
+                help)
+            ->take_last();
     };
     add("--latitude", "prayer.latitude", "Degrees, north positive");
     add("--longitude", "prayer.longitude", "Degrees, east positive");
@@ -244,7 +246,7 @@ void addPrayerCommands(CLI::App &program, Session &session)
     const auto args = std::make_shared<Arguments>();
     CLI::App *prayer = program.add_subcommand("prayer", "Shows the prayer times");
     addOverrides(prayer, args);
-    prayer->add_option("--date", args->date, "Of this date, such as 2026-11-21");
+    prayer->add_option("--date", args->date, "Of this date, such as 2026-11-21")->take_last();
     prayer->add_option("--days", args->days, "So many days, 1 to 7")
         ->check(CLI::Range(1, PrayerCalculator::kMostDays));
     prayer->require_subcommand(0, 1);
