@@ -4,7 +4,7 @@
 
 #include <openssl/evp.h>
 
-#include <climits>
+#include <algorithm>
 
 namespace Base
 {
@@ -48,7 +48,12 @@ std::optional<Bytes> fromBase64(std::string_view text)
         }
         at += static_cast<std::size_t>(written);
     }
-    const std::size_t padding = text.ends_with("==") ? 2 : text.ends_with('=') ? 1 : 0;
+    // The decoder counts each padding character as a byte of its own.
+    const std::size_t padding =
+        text.size() - std::min(text.size(), text.find_last_not_of('=') + 1);
+    if (padding > 2) {
+        return std::nullopt;
+    }
     bytes.resize(at - padding);
     // OpenSSL trims blanks and forgives padding bits; only the canonical text is accepted.
     return toBase64(bytes) == text ? std::optional{std::move(bytes)} : std::nullopt;

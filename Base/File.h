@@ -24,6 +24,8 @@ class FileDescriptor
 public:
     FileDescriptor() = default;
     explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
+    FileDescriptor(const FileDescriptor &) = delete;
+    FileDescriptor &operator=(const FileDescriptor &) = delete;
     FileDescriptor(FileDescriptor &&other) noexcept
         : m_descriptor(std::exchange(other.m_descriptor, -1))
     {

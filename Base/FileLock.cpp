@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <thread>
+#include <tuple>
 
 namespace Base
 {
@@ -31,7 +32,7 @@ void writeHolder(int descriptor)
 {
     const std::string holder = ownName();
     if (ftruncate(descriptor, 0) == 0) {
-        (void)!pwrite(descriptor, holder.data(), holder.size(), 0);
+        std::ignore = pwrite(descriptor, holder.data(), holder.size(), 0);
     }
 }
 

@@ -70,16 +70,28 @@ private:
     bool m_failed = false;
 };
 
+constexpr int kMinutesOfDay = 24 * 60;
+
+// ±HH:MM; a whole day, which no offset is, for minutes beyond the hour.
+int offsetMinutes(Scanner &scan)
+{
+    const int sign = scan.accept('-') ? -1 : 1;
+    if (sign > 0) {
+        scan.expect('+');
+    }
+    const int hours = scan.digits(2);
+    scan.expect(':');
+    const int minutes = scan.digits(2);
+    return minutes < 60 ? sign * (hours * 60 + minutes) : kMinutesOfDay;
+}
+
 } // namespace
 
-Instant wallClock()
-{
-    return chrono::time_point_cast<Seconds>(chrono::system_clock::now());
-}
+Instant wallClock() { return chrono::time_point_cast<Seconds>(chrono::system_clock::now()); }
 
 Result<std::string> toIso8601(Instant instant)
 {
-    constexpr double kYear1 = -62'135'596'800.0;    // 0001-01-01T00:00:00Z
+    constexpr double kYear1 = -62'135'596'800.0;     // 0001-01-01T00:00:00Z
     constexpr double kYear10000 = 253'402'300'800.0; // 10000-01-01T00:00:00Z
     const double ms = std::round(seconds1970(instant) * 1000.0);
     if (!(ms >= kYear1 * 1000.0 && ms < kYear10000 * 1000.0)) {
@@ -90,10 +102,10 @@ Result<std::string> toIso8601(Instant instant)
     const auto day = chrono::floor<chrono::days>(time);
     const chrono::year_month_day date{day};
     const chrono::hh_mm_ss clock{time - day};
-    auto text = fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}", static_cast<int>(date.year()),
-                            static_cast<unsigned>(date.month()),
-                            static_cast<unsigned>(date.day()), clock.hours().count(),
-                            clock.minutes().count(), clock.seconds().count());
+    auto text =
+        fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}", static_cast<int>(date.year()),
+                    static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                    clock.hours().count(), clock.minutes().count(), clock.seconds().count());
     if (clock.subseconds().count() != 0) {
         text += fmt::format(".{:03}", clock.subseconds().count());
     }
@@ -116,31 +128,20 @@ Result<Instant> fromIso8601(std::string_view text)
     const int second = scan.digits(2);
     const double fraction = scan.accept('.') ? scan.fraction() : 0.0;
 
-    int offsetMinutes = 0;
-    int minutesPart = 0;
-    if (!scan.accept('Z')) {
-        const int sign = scan.accept('-') ? -1 : 1;
-        if (sign > 0) {
-            scan.expect('+');
-        }
-        const int hours = scan.digits(2);
-        scan.expect(':');
-        minutesPart = scan.digits(2);
-        offsetMinutes = sign * (hours * 60 + minutesPart);
-    }
+    const int offset = scan.accept('Z') ? 0 : offsetMinutes(scan);
 
     const chrono::year_month_day date{chrono::year{year},
                                       chrono::month{static_cast<unsigned>(month)},
                                       chrono::day{static_cast<unsigned>(day)}};
     const bool inRange = date.ok() && hour < 24 && minute < 60 && second < 60 &&
-                         minutesPart < 60 && std::abs(offsetMinutes) < 24 * 60;
+                         std::abs(offset) < kMinutesOfDay;
     if (!scan.finished() || !inRange) {
         return std::unexpected(KestError::invalidData(
             "Write a time as 2026-11-21T08:30:00Z or with an offset such as +03:00"));
     }
     const double dayStart =
         static_cast<double>(chrono::sys_days{date}.time_since_epoch().count()) * 86'400.0;
-    const double inDay = (hour * 60.0 + minute - offsetMinutes) * 60.0 + second + fraction;
+    const double inDay = (hour * 60.0 + minute - offset) * 60.0 + second + fraction;
     return fromSeconds1970(dayStart + inDay);
 }
 

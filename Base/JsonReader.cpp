@@ -8,7 +8,7 @@ namespace Base::json
 namespace
 {
 
-constexpr std::size_t kLargeDocument = 64 * 1024;
+constexpr std::size_t kLargeDocument = std::size_t{64} * 1024;
 
 } // namespace
 
@@ -50,34 +50,10 @@ bool Reader::skip(ondemand::value value, int depth)
         return false;
     }
     switch (type) {
-    case ondemand::json_type::array: {
-        ondemand::array array;
-        if (!take(value.get_array(), array)) {
-            return false;
-        }
-        for (auto item : array) {
-            ondemand::value inner;
-            if (!take(std::move(item), inner) || !skip(inner, depth + 1)) {
-                return false;
-            }
-        }
-        return true;
-    }
-    case ondemand::json_type::object: {
-        ondemand::object object;
-        if (!take(value.get_object(), object)) {
-            return false;
-        }
-        for (auto entry : object) {
-            ondemand::field field;
-            std::string_view key;
-            if (!take(std::move(entry), field) || !take(field.unescaped_key(), key) ||
-                !skip(field.value(), depth + 1)) {
-                return false;
-            }
-        }
-        return true;
-    }
+    case ondemand::json_type::array:
+        return skipArray(value, depth);
+    case ondemand::json_type::object:
+        return skipObject(value, depth);
     case ondemand::json_type::number: {
         ondemand::number number;
         return take(value.get_number(), number);
@@ -95,6 +71,38 @@ bool Reader::skip(ondemand::value value, int depth)
     }
     bool isNull = false;
     return take(value.is_null(), isNull) && (isNull || fail("wrong type"));
+}
+
+bool Reader::skipArray(ondemand::value value, int depth)
+{
+    ondemand::array array;
+    if (!take(value.get_array(), array)) {
+        return false;
+    }
+    for (auto item : array) {
+        ondemand::value inner;
+        if (!take(std::move(item), inner) || !skip(inner, depth + 1)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Reader::skipObject(ondemand::value value, int depth)
+{
+    ondemand::object object;
+    if (!take(value.get_object(), object)) {
+        return false;
+    }
+    for (auto entry : object) {
+        ondemand::field field;
+        std::string_view key;
+        if (!take(std::move(entry), field) || !take(field.unescaped_key(), key) ||
+            !skip(field.value(), depth + 1)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool Reader::atEnd(ondemand::document &document)
@@ -139,7 +147,7 @@ ParserLoan::ParserLoan(std::size_t documentSize)
 
 ondemand::parser &ParserLoan::shared()
 {
-    thread_local ondemand::parser parser;
+    thread_local ondemand::parser parser; // NOLINT(misc-const-correctness): it is lent out
     return parser;
 }
 

@@ -47,8 +47,8 @@ inline constexpr std::uint64_t kRequired = []<std::size_t... I>(std::index_seque
     static_assert(sizeof...(I) <= 64);
     constexpr auto kFields = jsonFields(Of<T>{});
     using Sample = T;
-    return ((isOptional<std::remove_cvref_t<
-                 decltype(std::declval<Sample>().*(std::get<I>(kFields).member))>>
+    return ((isOptional<std::remove_cvref_t<decltype(std::declval<Sample>().*
+                                                     (std::get<I>(kFields).member))>>
                  ? std::uint64_t{0}
                  : std::uint64_t{1} << I) |
             ...);
@@ -324,6 +324,8 @@ private:
     bool readBytes(ondemand::value value, Bytes &out);
     bool checkText(std::string_view text);
     bool skip(ondemand::value value, int depth);
+    bool skipArray(ondemand::value value, int depth);
+    bool skipObject(ondemand::value value, int depth);
     bool atEnd(ondemand::document &document);
 
     bool fail(std::string_view reason);

@@ -107,10 +107,12 @@ void Writer::number(double value)
 Result<void> Writer::checkText() const
 {
     if (m_hasNonFinite) {
-        return std::unexpected(KestError::invalidData("A number that is not finite cannot be saved"));
+        return std::unexpected(
+            KestError::invalidData("A number that is not finite cannot be saved"));
     }
     if (!simdjson::validate_utf8(m_text.data(), m_text.size())) {
-        return std::unexpected(KestError::invalidData("Text that is not valid UTF-8 cannot be saved"));
+        return std::unexpected(
+            KestError::invalidData("Text that is not valid UTF-8 cannot be saved"));
     }
     return {};
 }

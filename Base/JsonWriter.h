@@ -34,7 +34,8 @@ consteval auto keyText()
     constexpr std::string_view kName = std::get<I>(jsonFields(Of<T>{})).name;
     KeyText<kName.size() + 4> text;
     std::size_t at = 0;
-    for (const std::string_view piece : {std::string_view{",\""}, kName, std::string_view{"\":"}}) {
+    for (const std::string_view piece :
+         {std::string_view{",\""}, kName, std::string_view{"\":"}}) {
         for (const char c : piece) {
             text.chars[at++] = c;
         }
@@ -51,8 +52,7 @@ class Writer
 public:
     enum class SharedLists : std::uint8_t { written, leftOut };
 
-    explicit Writer(SharedLists sharedLists = SharedLists::written)
-        : m_sharedLists(sharedLists)
+    explicit Writer(SharedLists sharedLists = SharedLists::written) : m_sharedLists(sharedLists)
     {
     }
 

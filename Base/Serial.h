@@ -24,9 +24,11 @@ class Serial
 {
 public:
     explicit Serial(T owned)
-        : m_owned(std::move(owned)), m_worker([this](const std::stop_token &stop) { run(stop); })
+        : m_owned(std::move(owned)),
+          m_worker([this](const std::stop_token &stop) { run(stop); })
     {
     }
+    ~Serial() = default;
     Serial(const Serial &) = delete;
     Serial &operator=(const Serial &) = delete;
 

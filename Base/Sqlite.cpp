@@ -117,7 +117,7 @@ void Database::rollBack()
 Result<void> Database::backUpTo(const std::filesystem::path &file)
 {
     const char *const kCannotOpen = "Cannot back up local storage";
-    KEST_TRY(Database target, open(file, kCannotOpen));
+    KEST_TRY(const Database target, open(file, kCannotOpen));
     sqlite3_busy_timeout(target.m_handle.get(), 5000);
     sqlite3_backup *backup =
         sqlite3_backup_init(target.m_handle.get(), "main", m_handle.get(), "main");

@@ -21,7 +21,7 @@ const icu::Normalizer2 &normalizer(const icu::Normalizer2 *(*get)(UErrorCode &))
 {
     UErrorCode status = U_ZERO_ERROR;
     const icu::Normalizer2 *found = get(status);
-    if (U_FAILURE(status) || found == nullptr) {
+    if (U_FAILURE(status) != 0 || found == nullptr) {
         fatalFault("Base/Text", "the Unicode normalisation data is missing");
     }
     return *found;

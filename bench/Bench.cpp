@@ -56,11 +56,11 @@ std::string jsonOf(const Row &row)
 
 void print(const std::vector<Row> &rows)
 {
-    fmt::print("{:<52} {:>10} {:>10} {:<5} {:>7}  {:<14} {}\n", "what", "value", "floor", "unit",
-               "ratio", "goal", "met");
+    fmt::print("{:<52} {:>10} {:>10} {:<5} {:>7}  {:<14} {}\n", "what", "value", "floor",
+               "unit", "ratio", "goal", "met");
     for (const Row &row : rows) {
-        fmt::print("{:<52} {:>10.4g} {:>10.4g} {:<5} {:>7.3f}  {:<14} {}\n", row.name, row.value,
-                   row.floor, row.unit, row.ratio, row.goal, row.met ? "yes" : "NO");
+        fmt::print("{:<52} {:>10.4g} {:>10.4g} {:<5} {:>7.3f}  {:<14} {}\n", row.name,
+                   row.value, row.floor, row.unit, row.ratio, row.goal, row.met ? "yes" : "NO");
     }
 }
 
@@ -77,8 +77,7 @@ void save(const std::vector<Row> &rows, const std::filesystem::path &file)
 } // namespace
 
 Pair measureByTurns(int rounds, const std::function<void()> &work,
-                    const std::function<void()> &floor,
-                    const std::function<void()> &between)
+                    const std::function<void()> &floor, const std::function<void()> &between)
 {
     std::vector<double> works;
     std::vector<double> floors;
@@ -104,7 +103,8 @@ Row ratioRow(std::string name, const Pair &seconds, double highestRatio)
 Row durationRow(std::string name, const Pair &seconds, double longestSeconds)
 {
     Row row = timeRow(std::move(name), seconds);
-    row.goal = fmt::format("<= {} {}", longestSeconds * scaleFor(seconds.value).first, row.unit);
+    row.goal =
+        fmt::format("<= {} {}", longestSeconds * scaleFor(seconds.value).first, row.unit);
     row.met = seconds.value <= longestSeconds;
     return row;
 }
@@ -153,8 +153,9 @@ int main(int argc, char **argv)
     std::vector<Bench::Row> rows;
     for (const auto &[name, suite] : suites) {
         const bool isWanted =
-            argc < 2 || std::any_of(argv + 1, argv + argc,
-                                    [&](const char *wanted) { return name == wanted; });
+            argc < 2 ||
+            std::any_of(
+                argv + 1, argv + argc, [&](const char *wanted) { return name == wanted; });
         if (isWanted) {
             const auto more = suite();
             rows.insert(rows.end(), more.begin(), more.end());

@@ -33,9 +33,9 @@ struct Pair {
 
 // Runs both by turns `rounds` times and gives the median seconds of each. What `between`
 // does, after the work and before the floor, does not count.
-Pair measureByTurns(int rounds, const std::function<void()> &work,
-                    const std::function<void()> &floor,
-                    const std::function<void()> &between = [] {});
+Pair measureByTurns(
+    int rounds, const std::function<void()> &work, const std::function<void()> &floor,
+    const std::function<void()> &between = [] {});
 
 // A row whose goal is to stay within so many times the floor, or under so many seconds.
 Row ratioRow(std::string name, const Pair &seconds, double highestRatio);

@@ -17,8 +17,8 @@ std::vector<Row> jsonSuite()
     std::string copy(text.size(), '\0');
     const auto copyOnce = [&] { std::memcpy(copy.data(), text.data(), text.size()); };
 
-    const Pair encoding = measureByTurns(
-        15, [&] { must(Base::json::encode(state)); }, copyOnce);
+    const Pair encoding =
+        measureByTurns(15, [&] { must(Base::json::encode(state)); }, copyOnce);
     const Pair decoding = measureByTurns(
         15, [&] { must(Base::json::decode<KestCore::NativeState>(padded)); }, copyOnce);
     return {rateRow("encode a state of 100,000 sessions", encoding, text.size(), 700),

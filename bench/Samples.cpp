@@ -14,11 +14,12 @@ KestCore::NativeState stateWithSessions(std::size_t sessions)
     std::vector<KestCore::SessionRecord> records;
     records.reserve(sessions);
     for (std::size_t n = 0; n < sessions; ++n) {
-        records.push_back({.id = Base::makeUuid(),
-                           .dhikrId = phrases[n % 6].id,
-                           .count = 33 + static_cast<std::int64_t>(n % 70),
-                           .target = 33,
-                           .endedAt = 1'700'000'000'000.0 + static_cast<double>(n) * 600'123.0});
+        records.push_back(
+            {.id = Base::makeUuid(),
+             .dhikrId = phrases[n % 6].id,
+             .count = 33 + static_cast<std::int64_t>(n % 70),
+             .target = 33,
+             .endedAt = 1'700'000'000'000.0 + static_cast<double>(n) * 600'123.0});
     }
     auto state = KestCore::defaultNativeState();
     state.devotional.records = Base::SharedList{std::move(records)};

@@ -56,8 +56,9 @@ void addPhraseList(CLI::App &program, Session &session, const char *name, const 
 {
     const auto search = std::make_shared<std::string>();
     CLI::App *command = program.add_subcommand(name, help);
-    command->add_option("--search", *search,
-                        "Words to look for, in Arabic or Latin letters, without regard to marks");
+    command->add_option(
+        "--search", *search,
+        "Words to look for, in Arabic or Latin letters, without regard to marks");
     command->callback([=, &session] {
         session.command = [=, &session] {
             return printPhrases(session.console, list(), *search);

@@ -34,7 +34,11 @@ _kest() {
     found=("${(@f)$(kest complete -- "${(@)words[2,CURRENT-1]}" 2>/dev/null)}")
     compadd -a found
 }
-compdef _kest kest
+if [[ $funcstack[1] == _kest ]]; then
+    _kest "$@"
+else
+    compdef _kest kest
+fi
 )SCRIPT";
 
 constexpr std::string_view kFish = R"SCRIPT(complete -c kest -f -a '(
@@ -93,7 +97,8 @@ Words candidates(CLI::App &program, const Words &typed)
         command = next.empty() ? command : next.front();
     }
     Words found;
-    for (const CLI::App *sub : command->get_subcommands([](const CLI::App *) { return true; })) {
+    for (const CLI::App *sub :
+         command->get_subcommands([](const CLI::App *) { return true; })) {
         if (!sub->get_group().empty()) {
             found.push_back(sub->get_name());
         }

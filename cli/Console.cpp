@@ -22,14 +22,6 @@ namespace Cli
 namespace
 {
 
-bool mayColour()
-{
-    static const bool kMay = isatty(STDOUT_FILENO) != 0 &&
-                             (std::getenv("NO_COLOR") == nullptr ||
-                              *std::getenv("NO_COLOR") == '\0');
-    return kMay;
-}
-
 std::string_view escapeOf(Style style)
 {
     switch (style) {
@@ -98,6 +90,12 @@ void Console::line(std::string_view content) const
 void Console::text(std::string_view content) const
 {
     std::fwrite(content.data(), 1, content.size(), stdout);
+}
+
+bool Console::mayColour()
+{
+    const char *noColour = std::getenv("NO_COLOR");
+    return isatty(STDOUT_FILENO) != 0 && (noColour == nullptr || *noColour == '\0');
 }
 
 bool Console::isInteractive()

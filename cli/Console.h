@@ -4,6 +4,7 @@
 
 #include "KestCore/Vocabulary.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +15,7 @@ namespace Cli
 using Base::KestError;
 using Base::Result;
 
-enum class Style { plain, strong, faint, good, warning };
+enum class Style : std::uint8_t { plain, strong, faint, good, warning };
 
 // Standard output for people and for scripts.
 class Console
@@ -43,6 +44,8 @@ public:
         return {};
     }
 
+    // Whether standard output is a terminal and NO_COLOR does not forbid colours.
+    static bool mayColour();
     // Whether a person sits at both ends.
     static bool isInteractive();
     // Asks a yes-or-no question on the terminal; anything but a yes is a no.

@@ -74,7 +74,8 @@ Result<void> runSteps(const Session &session, const CountAction &action, std::in
         if (!all.hasChanged) {
             session.console.line(fmt::format("{} · {}", text, whenNothingChanges));
         } else if (all.targetReached) {
-            session.console.line(text + session.console.styled(" · target reached", Style::good));
+            session.console.line(text +
+                                 session.console.styled(" · target reached", Style::good));
         } else {
             session.console.line(text);
         }
@@ -100,8 +101,8 @@ Result<void> runReset(const Session &session, bool isConfirmed)
     if (!isConfirmed && Console::isInteractive()) {
         KEST_TRY(const StateStore store, session.openStore());
         const auto count = store.state().devotional.session.count;
-        isConfirmed = count == 0 ||
-                      Console::confirms(fmt::format("Give up the {} counted?", count));
+        isConfirmed =
+            count == 0 || Console::confirms(fmt::format("Give up the {} counted?", count));
     }
     return runSteps(session, KestCore::ResetSession{isConfirmed}, 1, "nothing to reset");
 }

@@ -32,8 +32,9 @@ const KestCore::Phrase &selectedPhrase(const KestCore::NativeState &state)
 
 std::string progressText(const KestCore::Session &session)
 {
-    std::string text = session.target ? fmt::format("{} of {}", session.count, *session.target)
-                                      : fmt::format("{}", session.count);
+    const std::string text = session.target
+                                 ? fmt::format("{} of {}", session.count, *session.target)
+                                 : fmt::format("{}", session.count);
     return session.isPaused ? text + " · paused" : text;
 }
 

@@ -71,10 +71,11 @@ std::vector<Finding> checkStore(const Session &session)
     }
     std::vector<Finding> findings;
     const auto &state = store->state();
-    findings.push_back({.check = "store",
-                        .state = State::full,
-                        .detail = fmt::format("revision {}, {} finished sessions",
-                                              state.revision, state.devotional.records.size())});
+    findings.push_back(
+        {.check = "store",
+         .state = State::full,
+         .detail = fmt::format("revision {}, {} finished sessions", state.revision,
+                               state.devotional.records.size())});
     const auto integrity = store->checkIntegrity();
     const bool isSound = integrity && *integrity == "ok";
     findings.push_back({.check = "database file",
@@ -83,8 +84,9 @@ std::vector<Finding> checkStore(const Session &session)
     const auto snapshot = store->snapshot();
     findings.push_back({.check = "records",
                         .state = snapshot ? State::full : State::degraded,
-                        .detail = snapshot ? fmt::format("{} readable", snapshot->records.size())
-                                           : snapshot.error().message});
+                        .detail = snapshot
+                                      ? fmt::format("{} readable", snapshot->records.size())
+                                      : snapshot.error().message});
     return findings;
 }
 

@@ -137,9 +137,8 @@ void addPlaceSet(CLI::App *place, Session &session, const std::shared_ptr<Argume
     add("--longitude", "prayer.longitude", "Degrees, east positive");
     add("--timezone", "prayer.timezone", "Such as Africa/Cairo");
     add("--country", "prayer.country", "Two letters, for the automatic method");
-    set->callback([=, &session] {
-        session.command = [=, &session] { return runSet(session, *args); };
-    });
+    set->callback(
+        [=, &session] { session.command = [=, &session] { return runSet(session, *args); }; });
 }
 
 } // namespace

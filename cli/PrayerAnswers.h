@@ -64,7 +64,8 @@ struct DayAnswer {
 consteval auto jsonFields(Of<DayAnswer>)
 {
     using R = DayAnswer;
-    return std::tuple{json::Field{"date", &R::date}, json::Field{"islamicDate", &R::islamicDate},
+    return std::tuple{json::Field{"date", &R::date},
+                      json::Field{"islamicDate", &R::islamicDate},
                       json::Field{"times", &R::times}, json::Field{"sunnah", &R::sunnah}};
 }
 static_assert(json::coversAllMembers<DayAnswer>());
@@ -123,11 +124,10 @@ struct PlaceAnswer {
 consteval auto jsonFields(Of<PlaceAnswer>)
 {
     using R = PlaceAnswer;
-    return std::tuple{json::Field{"name", &R::name}, json::Field{"region", &R::region},
-                      json::Field{"country", &R::country},
-                      json::Field{"timezone", &R::timezone},
-                      json::Field{"latitude", &R::latitude},
-                      json::Field{"longitude", &R::longitude}};
+    return std::tuple{
+        json::Field{"name", &R::name},         json::Field{"region", &R::region},
+        json::Field{"country", &R::country},   json::Field{"timezone", &R::timezone},
+        json::Field{"latitude", &R::latitude}, json::Field{"longitude", &R::longitude}};
 }
 static_assert(json::coversAllMembers<PlaceAnswer>());
 

@@ -44,9 +44,9 @@ Result<LocalDate> parseDate(const std::string &text)
     unsigned month = 0;
     unsigned day = 0;
     int end = 0;
-    const bool isDate = std::sscanf(text.c_str(), "%4d-%2u-%2u%n", &year, &month, &day, &end) ==
-                            3 &&
-                        static_cast<std::size_t>(end) == text.size() && text.size() == 10;
+    const bool isDate =
+        std::sscanf(text.c_str(), "%4d-%2u-%2u%n", &year, &month, &day, &end) == 3 &&
+        static_cast<std::size_t>(end) == text.size() && text.size() == 10;
     if (!isDate) {
         return std::unexpected(
             KestError::invalidData("Write a date as year-month-day, such as 2026-11-21"));
@@ -79,9 +79,9 @@ double qiblaDegrees(const PrayerInputs &inputs)
 
 std::string compassPoint(double degrees)
 {
-    constexpr std::array<std::string_view, 16> kPoints{"N", "NNE", "NE", "ENE", "E", "ESE",
-                                                       "SE", "SSE", "S", "SSW", "SW", "WSW",
-                                                       "W", "WNW", "NW", "NNW"};
+    constexpr std::array<std::string_view, 16> kPoints{"N",  "NNE", "NE", "ENE", "E",  "ESE",
+                                                       "SE", "SSE", "S",  "SSW", "SW", "WSW",
+                                                       "W",  "WNW", "NW", "NNW"};
     return std::string{kPoints.at(static_cast<std::size_t>(degrees / 22.5 + 0.5) % 16)};
 }
 
@@ -90,9 +90,9 @@ std::vector<std::string> rowOf(const PrayerInputs &inputs, const PrayerDay &day,
 {
     std::vector<std::string> row{std::move(label)};
     for (const auto &[prayer, text] : enumTexts(Base::Of<PrayerCore::Prayer>{})) {
-        row.push_back(clockText(
-            inputs.calendar,
-            day.times ? PrayerCore::instantOf(*day.times, prayer) : std::nullopt));
+        row.push_back(clockText(inputs.calendar, day.times
+                                                     ? PrayerCore::instantOf(*day.times, prayer)
+                                                     : std::nullopt));
     }
     return row;
 }
@@ -106,9 +106,9 @@ void printTable(const Console &console, const PrayerInputs &inputs,
     }
     for (const PrayerDay &day : days) {
         const auto weekday = dateText(day.date).substr(0, 3);
-        rows.push_back(rowOf(inputs, day,
-                             fmt::format("{} {:>2}", weekday,
-                                         static_cast<unsigned>(day.date.day()))));
+        rows.push_back(
+            rowOf(inputs, day,
+                  fmt::format("{} {:>2}", weekday, static_cast<unsigned>(day.date.day()))));
     }
     console.table(rows);
 }

@@ -28,9 +28,8 @@ constexpr std::array<std::string_view, 12> kMonths{
     "January", "February", "March",     "April",   "May",      "June",
     "July",    "August",   "September", "October", "November", "December"};
 constexpr std::array<std::string_view, 12> kIslamicMonths{
-    "Muharram",      "Safar",   "Rabi al-Awwal", "Rabi al-Thani", "Jumada al-Ula",
-    "Jumada al-Akhira", "Rajab", "Shaban",       "Ramadan",       "Shawwal",
-    "Dhu al-Qada",   "Dhu al-Hijja"};
+    "Muharram", "Safar",  "Rabi al-Awwal", "Rabi al-Thani", "Jumada al-Ula", "Jumada al-Akhira",
+    "Rajab",    "Shaban", "Ramadan",       "Shawwal",       "Dhu al-Qada",   "Dhu al-Hijja"};
 
 std::string isoDate(LocalDate date)
 {
@@ -47,8 +46,7 @@ std::string icsInstant(Base::Instant instant)
     const chrono::hh_mm_ss clock{second - day};
     return fmt::format("{:04}{:02}{:02}T{:02}{:02}{:02}Z", static_cast<int>(date.year()),
                        static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                       clock.hours().count(), clock.minutes().count(),
-                       clock.seconds().count());
+                       clock.hours().count(), clock.minutes().count(), clock.seconds().count());
 }
 
 std::string event(LocalDate date, Prayer prayer, Base::Instant at, Base::Instant now)
@@ -83,10 +81,9 @@ std::string clockText(const KestCore::Calendar &calendar, std::optional<Base::In
 std::string dateText(LocalDate date)
 {
     const chrono::weekday weekday{chrono::sys_days{date}};
-    return fmt::format("{} {} {} {}", kWeekdays.at(weekday.c_encoding()),
-                       static_cast<unsigned>(date.day()),
-                       kMonths.at(static_cast<unsigned>(date.month()) - 1),
-                       static_cast<int>(date.year()));
+    return fmt::format(
+        "{} {} {} {}", kWeekdays.at(weekday.c_encoding()), static_cast<unsigned>(date.day()),
+        kMonths.at(static_cast<unsigned>(date.month()) - 1), static_cast<int>(date.year()));
 }
 
 std::string islamicDateText(LocalDate date)

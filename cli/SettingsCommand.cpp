@@ -81,9 +81,8 @@ void addSettingsCommand(CLI::App &program, Session &session)
 
     CLI::App *getOne = settings->add_subcommand("get", "Prints one setting");
     getOne->add_option("KEY", args->key, "Such as prayer.method")->required();
-    getOne->callback([=, &session] {
-        session.command = [=, &session] { return get(session, args->key); };
-    });
+    getOne->callback(
+        [=, &session] { session.command = [=, &session] { return get(session, args->key); }; });
 
     CLI::App *set = settings->add_subcommand("set", "Sets a setting");
     set->add_option("KEY", args->key, "Such as prayer.method")->required();

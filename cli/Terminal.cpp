@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Terminal.h"
 
+#include "cli/Console.h"
+
 #include <curses.h>
 
 #include <algorithm>
@@ -57,7 +59,7 @@ Terminal::Terminal()
     nonl();
     keypad(stdscr, TRUE);
     curs_set(0);
-    if (has_colors() && std::getenv("NO_COLOR") == nullptr) {
+    if (has_colors() && Console::mayColour()) {
         start_color();
         use_default_colors();
         init_pair(kAccentPair, COLOR_GREEN, -1);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,7 +14,7 @@ namespace Cli
 class Terminal
 {
 public:
-    enum class Ink { plain, strong, faint, accent };
+    enum class Ink : std::uint8_t { plain, strong, faint, accent };
 
     Terminal();
     ~Terminal();
@@ -32,8 +33,7 @@ public:
     // The next key, or nothing when none came in time (or the page was resized).
     std::optional<int> waitForKey(int milliseconds) const;
     // Digits typed behind the question on the last row; nothing when the user gave up (Esc).
-    std::optional<std::string> readDigits(std::string_view question,
-                                          std::size_t longest) const;
+    std::optional<std::string> readDigits(std::string_view question, std::size_t longest) const;
 
     static void ring();
 };

@@ -58,11 +58,10 @@ std::string bigRow(std::string_view number, std::size_t row)
     return text;
 }
 
-std::string bar(const KestCore::Session &session, int width)
+std::string bar(std::int64_t count, std::int64_t target, int width)
 {
     const auto cells = static_cast<std::int64_t>(std::max(width, 0));
-    const std::int64_t done =
-        std::clamp<std::int64_t>(session.count, 0, *session.target) * cells / *session.target;
+    const std::int64_t done = std::clamp<std::int64_t>(count, 0, target) * cells / target;
     std::string text;
     for (std::int64_t cell = 0; cell < cells; ++cell) {
         text += cell < done ? "━" : "─";
@@ -112,13 +111,14 @@ private:
         return values;
     }
 
-    Result<void> takeStore()
+    Result<StateStore *> takeStore()
     {
         if (!m_store) {
-            KEST_TRY(m_store, m_session.openStore());
-            m_state = m_store->state();
+            KEST_TRY(StateStore opened, m_session.openStore());
+            m_state = opened.state();
+            m_store = std::move(opened);
         }
-        return {};
+        return &*m_store;
     }
 
     void look()
@@ -132,16 +132,17 @@ private:
 
     void act(const CountAction &action)
     {
-        if (const auto taken = takeStore(); !taken) {
-            m_message = taken.error().message;
+        const auto store = takeStore();
+        if (!store) {
+            m_message = store.error().message;
             return;
         }
-        const auto outcome = step(*m_store, action);
+        const auto outcome = step(**store, action);
         if (!outcome) {
             m_message = outcome.error().message;
             return;
         }
-        m_state = m_store->state();
+        m_state = (*store)->state();
         m_message = outcome->targetReached ? "Target reached" : "";
         const auto &preferences = m_state.devotional.preferences;
         if (outcome->targetReached && preferences.soundEnabled && preferences.completionSound) {
@@ -176,7 +177,8 @@ private:
     {
         const auto digits = terminal.readDigits("Target (empty for an open count): ", 8);
         if (digits) {
-            act(digits->empty() ? KestCore::SetTarget{} : KestCore::SetTarget{std::stoll(*digits)});
+            act(digits->empty() ? KestCore::SetTarget{}
+                                : KestCore::SetTarget{std::stoll(*digits)});
         }
     }
 
@@ -196,8 +198,10 @@ private:
         }
         ++row;
         if (counting.target) {
-            terminal.centre(row++, bar(counting, std::min(40, terminal.width() - 4)),
-                            Terminal::Ink::accent);
+            terminal.centre(
+                row++,
+                bar(counting.count, *counting.target, std::min(40, terminal.width() - 4)),
+                Terminal::Ink::accent);
         }
         terminal.centre(row++, progressText(counting), Terminal::Ink::plain);
         terminal.centre(++row, m_message, Terminal::Ink::strong);

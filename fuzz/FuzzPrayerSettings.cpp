@@ -41,23 +41,22 @@ std::uint32_t checksum(const std::uint8_t *data, std::size_t size)
 // Whatever the settings say, a date from 1900 to 2200 gets finite times near to it or none.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const auto inputs = KestCore::prayerInputs(
-        settingsFrom({reinterpret_cast<const char *>(data), size}));
+    const auto inputs =
+        KestCore::prayerInputs(settingsFrom({reinterpret_cast<const char *>(data), size}));
     if (!inputs) {
         return 0;
     }
     // Of the 110,000 dates, one that depends on the input.
-    const std::chrono::sys_days first{std::chrono::days{
-        -25'567 + static_cast<int>(checksum(data, size) % 109'938)}};
+    const std::chrono::sys_days first{
+        std::chrono::days{-25'567 + static_cast<int>(checksum(data, size) % 109'938)}};
     for (const auto &day : PrayerCalculator::days(*inputs, first, 2)) {
         if (!day.times) {
             continue;
         }
-        const Base::Instant noon =
-            Base::fromSeconds1970(static_cast<double>(
-                                      std::chrono::sys_days{day.date}.time_since_epoch().count()) *
-                                      86'400.0 +
-                                  43'200.0);
+        const Base::Instant noon = Base::fromSeconds1970(
+            static_cast<double>(std::chrono::sys_days{day.date}.time_since_epoch().count()) *
+                86'400.0 +
+            43'200.0);
         for (const auto &[prayer, text] : enumTexts(Base::Of<PrayerCore::Prayer>{})) {
             const auto at = PrayerCore::instantOf(*day.times, prayer);
             if (at && !(std::abs((*at - noon).count()) < 4 * 86'400.0)) {

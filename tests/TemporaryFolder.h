@@ -12,7 +12,8 @@ class TemporaryFolder
 public:
     TemporaryFolder()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "kest-test-XXXXXX").string();
+        std::string name =
+            (std::filesystem::temp_directory_path() / "kest-test-XXXXXX").string();
         m_path = ::mkdtemp(name.data());
     }
     ~TemporaryFolder()

@@ -49,10 +49,7 @@ Result<Calendar> Calendar::inZone(std::string_view identifier)
     return Calendar{std::move(rules)};
 }
 
-Calendar Calendar::ofHost()
-{
-    return Calendar{ZoneRules::ofHost()};
-}
+Calendar Calendar::ofHost() { return Calendar{ZoneRules::ofHost()}; }
 
 LocalTime Calendar::at(Base::Instant instant) const
 {

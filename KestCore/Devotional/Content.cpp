@@ -100,8 +100,7 @@ std::string searchableText(const Phrase &phrase)
 
 const Content &contentCatalogue()
 {
-    static const Content kContent =
-        decodeResource<Content>("content", "KestCore/Models");
+    static const Content kContent = decodeResource<Content>("content", "KestCore/Models");
     return kContent;
 }
 

@@ -26,14 +26,8 @@ using Tail = ZoneRules::Tail;
 
 constexpr std::int64_t kNever = std::numeric_limits<std::int64_t>::max();
 
-bool isLetter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
+bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Reads the rule text at the end of a zone file, such as "EET-2EEST,M4.5.5/0,M10.5.4/24",
 // which TZ may hold too. Any mismatch sticks.

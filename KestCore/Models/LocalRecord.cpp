@@ -26,9 +26,8 @@ constexpr std::string_view kInvalidUtilityRecord = "Invalid utility record";
 
 bool isKindText(std::string_view kind)
 {
-    return !kind.empty() && std::ranges::all_of(kind, [](char c) {
-        return (c >= 'a' && c <= 'z') || c == '-';
-    });
+    return !kind.empty() &&
+           std::ranges::all_of(kind, [](char c) { return (c >= 'a' && c <= 'z') || c == '-'; });
 }
 
 template <class Payload>

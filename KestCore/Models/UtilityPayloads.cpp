@@ -65,8 +65,7 @@ bool isWebAddress(std::string_view url)
 
 bool isAbsolutePath(std::string_view path)
 {
-    return path.starts_with('/') && path.size() <= kLongestAddress &&
-           !path.contains('\0');
+    return path.starts_with('/') && path.size() <= kLongestAddress && !path.contains('\0');
 }
 
 bool isDay(std::string_view text)

@@ -24,7 +24,8 @@ struct SavedLink {
 };
 consteval auto jsonFields(Of<SavedLink>)
 {
-    return std::tuple{json::Field{"url", &SavedLink::url}, json::Field{"note", &SavedLink::note}};
+    return std::tuple{json::Field{"url", &SavedLink::url},
+                      json::Field{"note", &SavedLink::note}};
 }
 static_assert(json::coversAllMembers<SavedLink>());
 bool keepsRules(const SavedLink &link);

@@ -100,7 +100,8 @@ Fit fitOf(const PrayerInputs &inputs, const SunDay &candidate, std::int64_t date
         return Fit::none;
     }
     const auto tomorrow = days->next();
-    const bool isWhole = isInOrder(*today) && (!tomorrow || followsAfterADay(*today, *tomorrow));
+    const bool isWhole =
+        isInOrder(*today) && (!tomorrow || followsAfterADay(*today, *tomorrow));
     return isWhole ? Fit::whole : Fit::dateOnly;
 }
 
@@ -145,10 +146,7 @@ std::optional<PrayerTimes> timesOf(const PrayerInputs &inputs, LocalDate date)
     return local;
 }
 
-LocalDate dateOf(std::int64_t dayNumber)
-{
-    return chrono::sys_days{chrono::days{dayNumber}};
-}
+LocalDate dateOf(std::int64_t dayNumber) { return chrono::sys_days{chrono::days{dayNumber}}; }
 
 } // namespace
 
@@ -176,10 +174,10 @@ std::vector<PrayerDay> PrayerCalculator::days(const PrayerInputs &inputs, LocalD
     for (int number = 0; number < count; ++number) {
         const LocalDate tomorrow{start + chrono::days{number + 1}};
         auto next = timesOf(inputs, tomorrow);
-        days.push_back({.date = start + chrono::days{number},
-                        .times = times,
-                        .sunnah = times && next ? PrayerCore::sunnahTimes(*times, *next)
-                                                : std::nullopt});
+        days.push_back(
+            {.date = start + chrono::days{number},
+             .times = times,
+             .sunnah = times && next ? PrayerCore::sunnahTimes(*times, *next) : std::nullopt});
         times = std::move(next);
     }
     return days;
@@ -213,7 +211,7 @@ IslamicDate PrayerCalculator::islamicDate(LocalDate date)
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::Calendar> calendar{icu::Calendar::createInstance(
         *icu::TimeZone::getGMT(), icu::Locale{"en@calendar=islamic-umalqura"}, status)};
-    if (U_FAILURE(status) || calendar == nullptr) {
+    if (U_FAILURE(status) != 0 || calendar == nullptr) {
         Base::fatalFault("KestCore/Prayer", "the Umm al-Qura calendar is missing");
     }
     constexpr double kMsPerDay = 86'400'000;

@@ -50,8 +50,7 @@ std::string focusConfirmation(std::string_view prayer, std::int64_t bufferMinute
     text += prayer;
     text += ", " + std::to_string(bufferMinutes) + " minutes before ";
     text += timeText;
-    return text +
-           ". Later location or prayer changes will ask you to review the deadline.";
+    return text + ". Later location or prayer changes will ask you to review the deadline.";
 }
 
 std::optional<PrayerFocusPlan> revisedPlan(const PrayerFocusPlan &running,
@@ -66,8 +65,7 @@ std::optional<PrayerFocusPlan> revisedPlan(const PrayerFocusPlan &running,
         if (!at || *at <= now) {
             continue;
         }
-        const auto plan =
-            planFocus({.prayer = *prayer, .at = *at}, running.bufferMinutes, now);
+        const auto plan = planFocus({.prayer = *prayer, .at = *at}, running.bufferMinutes, now);
         return plan && plan->deadline != running.deadline ? std::optional{*plan} : std::nullopt;
     }
     return std::nullopt;

@@ -62,12 +62,18 @@ CalculationMethod methodOfCountry(std::string_view country)
 {
     using enum CalculationMethod;
     constexpr std::pair<std::string_view, CalculationMethod> kRows[] = {
-        {"GB", moonsightingCommittee}, {"US", moonsightingCommittee},
-        {"CA", moonsightingCommittee}, {"SA", ummAlQura},
-        {"AE", dubai},                 {"QA", qatar},
-        {"KW", kuwait},                {"EG", egyptian},
-        {"PK", karachi},               {"SG", singapore},
-        {"MY", singapore},             {"ID", singapore},
+        {"GB", moonsightingCommittee},
+        {"US", moonsightingCommittee},
+        {"CA", moonsightingCommittee},
+        {"SA", ummAlQura},
+        {"AE", dubai},
+        {"QA", qatar},
+        {"KW", kuwait},
+        {"EG", egyptian},
+        {"PK", karachi},
+        {"SG", singapore},
+        {"MY", singapore},
+        {"ID", singapore},
         {"TR", turkey},
     };
     std::string upper{country};

@@ -36,7 +36,8 @@ fs::path backupName(const fs::path &file)
     return name;
 }
 
-Result<void> fillAndMove(Base::Database &database, const fs::path &partial, const fs::path &file)
+Result<void> fillAndMove(Base::Database &database, const fs::path &partial,
+                         const fs::path &file)
 {
     KEST_CHECK(database.backUpTo(partial));
     std::error_code error;
@@ -54,8 +55,7 @@ Result<void> backUp(Base::Database &database, const fs::path &file)
     const Base::FileDescriptor created{
         ::open(partial.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600)};
     if (!created.isOpen()) {
-        return std::unexpected(
-            KestError::storage("Cannot create the pre-upgrade backup"));
+        return std::unexpected(KestError::storage("Cannot create the pre-upgrade backup"));
     }
     auto outcome = fillAndMove(database, partial, file);
     std::error_code ignored;

@@ -201,8 +201,8 @@ Snapshot StateStore::currentSnapshot() const
     return {.companion = m_companion, .state = m_state, .records = m_records};
 }
 
-Result<void> StateStore::commit(NativeState next, const Write &alsoWrite, const RecordEdit &edit,
-                                Records records)
+Result<void> StateStore::commit(NativeState next, const Write &alsoWrite,
+                                const RecordEdit &edit, Records records)
 {
     next.revision = nextRevision(m_state);
     KEST_CHECK(validate(next));
@@ -288,8 +288,7 @@ Result<Snapshot> StateStore::upsertRecord(const LocalRecord &record)
     KEST_CHECK(validate(record));
     KEST_TRY(const std::string body, json::encode(record));
     return commitForSnapshot(
-        m_state,
-        [&] { return m_database.run(kUpsertRecord, {record.id, record.kind, body}); },
+        m_state, [&] { return m_database.run(kUpsertRecord, {record.id, record.kind, body}); },
         [&](RecordList &records) { putRecord(records, record); });
 }
 

@@ -29,8 +29,7 @@ public:
     // Opens, creates or migrates the file and becomes its owner. Waits `patience` for another
     // owner, then fails with unavailable, saying who that is.
     [[nodiscard]] static Result<StateStore>
-    open(const std::filesystem::path &file,
-         std::chrono::milliseconds patience = kLockPatience);
+    open(const std::filesystem::path &file, std::chrono::milliseconds patience = kLockPatience);
 
     const NativeState &state() const { return m_state; }
     const CompanionState &companion() const { return m_companion; }

@@ -10,14 +10,17 @@ namespace KestCore
 namespace
 {
 
-constexpr double kScreenMargin = 8;    // kept free around the panel
-constexpr double kTabGap = 10;         // between the tab and the panel
-constexpr double kCalloutDepth = 14;   // the panel's side that faces the tab has a callout
+constexpr double kScreenMargin = 8;  // kept free around the panel
+constexpr double kTabGap = 10;       // between the tab and the panel
+constexpr double kCalloutDepth = 14; // the panel's side that faces the tab has a callout
 constexpr double kFloatingInset = 2;
 
 double tabThickness(std::string_view iconSize)
 {
-    return iconSize == "large" ? 84 : iconSize == "medium" ? 76 : 68;
+    if (iconSize == "large") {
+        return 84;
+    }
+    return iconSize == "medium" ? 76 : 68;
 }
 
 double atMost(double wanted, double room) { return std::max(0.0, std::min(wanted, room)); }
@@ -50,8 +53,7 @@ EdgeFrames layOutAtBottom(const DockPlace &place, double thickness, double inset
     const double taken = inset + frames.tab.height + kTabGap + kScreenMargin;
     const double height = atMost(place.panel->height + kCalloutDepth, screen.height - taken);
     const double x = startAround(anchor, width, screen.x, screen.maxX());
-    frames.panel = {
-        .x = x, .y = frames.tab.maxY() + kTabGap, .width = width, .height = height};
+    frames.panel = {.x = x, .y = frames.tab.maxY() + kTabGap, .width = width, .height = height};
     frames.pointer = pointerAt(anchor, x, width);
     return frames;
 }

@@ -39,8 +39,8 @@ struct PanelSize {
 };
 
 struct DockPlace {
-    Rect screen{};             // the visible frame of the screen
-    std::string_view edge{};   // left, right, bottom; any other is laid out as right
+    Rect screen{};           // the visible frame of the screen
+    std::string_view edge{}; // left, right, bottom; any other is laid out as right
     std::string_view iconSize{};
     bool floating{};
     std::optional<PanelSize> panel{}; // the panel size wanted

@@ -66,7 +66,8 @@ bool opensUnknownTool(const DockItem &item)
 
 bool summonsNothing(const ShortcutBinding &binding)
 {
-    return !Base::fromText<QuickSurface>(binding.target) && !ToolRegistry::knows(binding.target);
+    return !Base::fromText<QuickSurface>(binding.target) &&
+           !ToolRegistry::knows(binding.target);
 }
 
 bool hasSelection(const CompanionState &state)

@@ -185,8 +185,8 @@ consteval auto jsonFields(Of<CompanionState>)
 static_assert(json::coversAllMembers<CompanionState>());
 
 // The document of a first run; `faithHomeWidgets` are the widgets of its first workspace.
-CompanionState
-defaultCompanionState(std::vector<std::string> faithHomeWidgets = {"stats", "weather"});
+CompanionState defaultCompanionState(std::vector<std::string> faithHomeWidgets = {"stats",
+                                                                                  "weather"});
 
 // For a document that the user hands in or the application saves: fails with invalidData
 // "Invalid companion data; existing data has been preserved." for another schema version, a

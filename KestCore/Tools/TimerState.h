@@ -13,8 +13,8 @@ namespace KestCore
 
 // One timer as it is stored: the body of a record of kind "timer". Lengths in seconds.
 struct TimerState {
-    std::string mode{}; // pomodoro, countdown, stopwatch, hydration
-    double duration{};  // of the current run
+    std::string mode{};                      // pomodoro, countdown, stopwatch, hydration
+    double duration{};                       // of the current run
     std::optional<Base::Instant> deadline{}; // of a running countdown
     double elapsed{};                        // consumed while not running
     std::optional<Base::Instant> started{};  // of the current run

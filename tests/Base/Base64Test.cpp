@@ -4,6 +4,7 @@
 
 #include "Base/Uuid.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 #include <set>

@@ -4,6 +4,8 @@
 
 #include "tests/TemporaryFolder.h"
 
+#include <gmock/gmock.h>
+
 #include <sys/wait.h>
 #include <unistd.h>
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Base/Instant.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 #include <cmath>

@@ -4,6 +4,7 @@
 #include "Base/JsonWriter.h"
 #include "tests/Base/SampleRecord.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 // Damaged and hostile documents: they are refused, or they say something that can be saved

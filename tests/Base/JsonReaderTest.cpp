@@ -4,6 +4,8 @@
 
 #include "tests/Base/SampleRecord.h"
 
+#include <gmock/gmock.h>
+
 #include <limits>
 
 namespace BaseTests

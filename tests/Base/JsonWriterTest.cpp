@@ -6,6 +6,7 @@
 #include "tests/Base/RandomValues.h"
 #include "tests/Base/SampleRecord.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 #include <limits>

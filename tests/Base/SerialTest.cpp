@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Base/Serial.h"
 
+#include <gmock/gmock.h>
+
 #include <atomic>
 #include <memory>
 #include <optional>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Base/SharedList.h"
 
+#include <gmock/gmock.h>
+
 #include <string>
 
 namespace BaseTests

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Base/Text.h"
 
+#include <gmock/gmock.h>
 #include <unicode/locid.h>
 
 #include <cstdlib>

@@ -4,6 +4,8 @@
 #include "tests/EndToEnd/Program.h"
 #include "tests/TemporaryFolder.h"
 
+#include <gmock/gmock.h>
+
 #include <unistd.h>
 
 #include <thread>
@@ -30,20 +32,34 @@ TEST(CommandLine, CountsThroughAWholeSession)
     };
     const TemporaryFolder folder;
     const auto answer = [](std::string rest) { return rest + "\n"; };
-    for (const auto &[words, expected] : {
-             Case{{"count"}, R"({"count":1,"target":33,"targetReached":false,"paused":false,"revision":1})"},
-             Case{{"target", "3"}, R"({"count":1,"target":3,"targetReached":false,"paused":false,"revision":2})"},
-             Case{{"count", "2"}, R"({"count":3,"target":3,"targetReached":true,"paused":false,"revision":4})"},
-             Case{{"undo"}, R"({"count":2,"target":3,"targetReached":false,"paused":false,"revision":5})"},
-             Case{{"undo", "9"}, R"({"count":0,"target":3,"targetReached":false,"paused":false,"revision":7})"},
-             Case{{"undo"}, R"({"count":0,"target":3,"targetReached":false,"paused":false,"revision":7})"},
-             Case{{"pause"}, R"({"count":0,"target":3,"targetReached":false,"paused":true,"revision":8})"},
-             Case{{"count"}, R"({"count":0,"target":3,"targetReached":false,"paused":true,"revision":8})"},
-             Case{{"pause"}, R"({"count":0,"target":3,"targetReached":false,"paused":false,"revision":9})"},
-             Case{{"target", "none"}, R"({"count":0,"targetReached":false,"paused":false,"revision":10})"},
-             Case{{"count", "5"}, R"({"count":5,"targetReached":false,"paused":false,"revision":15})"},
-             Case{{"finish"}, R"({"count":0,"targetReached":false,"paused":false,"revision":16})"},
-         }) {
+    for (
+        const auto &[words, expected] : {
+            Case{
+                {"count"},
+                R"({"count":1,"target":33,"targetReached":false,"paused":false,"revision":1})"},
+            Case{{"target", "3"},
+                 R"({"count":1,"target":3,"targetReached":false,"paused":false,"revision":2})"},
+            Case{{"count", "2"},
+                 R"({"count":3,"target":3,"targetReached":true,"paused":false,"revision":4})"},
+            Case{{"undo"},
+                 R"({"count":2,"target":3,"targetReached":false,"paused":false,"revision":5})"},
+            Case{{"undo", "9"},
+                 R"({"count":0,"target":3,"targetReached":false,"paused":false,"revision":7})"},
+            Case{{"undo"},
+                 R"({"count":0,"target":3,"targetReached":false,"paused":false,"revision":7})"},
+            Case{{"pause"},
+                 R"({"count":0,"target":3,"targetReached":false,"paused":true,"revision":8})"},
+            Case{{"count"},
+                 R"({"count":0,"target":3,"targetReached":false,"paused":true,"revision":8})"},
+            Case{{"pause"},
+                 R"({"count":0,"target":3,"targetReached":false,"paused":false,"revision":9})"},
+            Case{{"target", "none"},
+                 R"({"count":0,"targetReached":false,"paused":false,"revision":10})"},
+            Case{{"count", "5"},
+                 R"({"count":5,"targetReached":false,"paused":false,"revision":15})"},
+            Case{{"finish"},
+                 R"({"count":0,"targetReached":false,"paused":false,"revision":16})"},
+        }) {
         SCOPED_TRACE(testing::PrintToString(words));
         Words arguments{"--json"};
         arguments.insert(arguments.end(), words.begin(), words.end());
@@ -71,16 +87,22 @@ TEST(CommandLine, RefusesWithAMessageAndChangesNothing)
     for (const auto &[words, status, message] : {
              Case{{"reset"}, kRefused, "kest: Confirm before resetting a nonempty session\n"},
              Case{{"target", "0"}, kRefused, "kest: Target must be between 1 and 1,000,000\n"},
-             Case{{"target", "1000001"}, kRefused,
+             Case{{"target", "1000001"},
+                  kRefused,
                   "kest: Target must be between 1 and 1,000,000\n"},
-             Case{{"target", "99999999999999999999"}, kRefused,
+             Case{{"target", "99999999999999999999"},
+                  kRefused,
                   "kest: Target must be between 1 and 1,000,000\n"},
              Case{{"select", "nothing"}, kRefused, "kest: No phrase has the id \"nothing\""},
              Case{{"select", "--name", "subhanallah"}, kRefused, "kest: No Name has the id"},
-             Case{{"settings", "get", "a.b"}, kRefused, "kest: The setting \"a.b\" is not set\n"},
-             Case{{"settings", "set", std::string(101, 'k'), "v"}, kRefused,
+             Case{{"settings", "get", "a.b"},
+                  kRefused,
+                  "kest: The setting \"a.b\" is not set\n"},
+             Case{{"settings", "set", std::string(101, 'k'), "v"},
+                  kRefused,
                   "kest: Invalid native settings\n"},
-             Case{{"settings", "set", "k", "\xff"}, kRefused,
+             Case{{"settings", "set", "k", "\xff"},
+                  kRefused,
                   "kest: Text that is not valid UTF-8 cannot be saved\n"},
              Case{{"counter"}, kRefused, "kest: The counter needs a terminal"},
              Case{{"count", "0"}, kWrongUsage, ""},
@@ -130,11 +152,13 @@ TEST(CommandLine, KeepsSettingsAndShowsDocuments)
               "{}\n");
     EXPECT_THAT(runKest(folder.path(), {"companion"}).out,
                 StartsWith(R"({"schemaVersion":1,"dock":{)"));
-    EXPECT_THAT(runKest(folder.path(), {"tools", "--json"}).out, StartsWith(R"([{"id":"home")"));
+    EXPECT_THAT(runKest(folder.path(), {"tools", "--json"}).out,
+                StartsWith(R"([{"id":"home")"));
     EXPECT_EQ(runKest(folder.path(), {"records", "--json"}).out, "[]\n");
     const auto doctor = runKest(folder.path(), {"doctor", "--json"});
     EXPECT_EQ(doctor.status, 0) << doctor.out << doctor.err;
-    EXPECT_THAT(doctor.out, HasSubstr(R"({"check":"database file","state":"full","detail":"ok"})"));
+    EXPECT_THAT(doctor.out,
+                HasSubstr(R"({"check":"database file","state":"full","detail":"ok"})"));
 }
 
 TEST(CommandLine, DoctorTellsWhatIsBroken)

@@ -81,8 +81,7 @@ std::optional<Tally> lastTally(const std::string &answers)
         return std::nullopt;
     }
     const auto before = end == 0 ? std::string::npos : answers.rfind('\n', end - 1);
-    const std::string line =
-        answers.substr(before == std::string::npos ? 0 : before + 1, end);
+    const std::string line = answers.substr(before == std::string::npos ? 0 : before + 1, end);
     Tally tally;
     const int fields = std::sscanf(line.c_str(), "%lld %lld %zu %zu", &tally.revision,
                                    &tally.count, &tally.sessions, &tally.records);
@@ -136,8 +135,7 @@ std::string inspect(const std::filesystem::path &database, const Tally &known, T
 
 } // namespace
 
-KillReport runKillRounds(const std::filesystem::path &database, int rounds,
-                         std::uint32_t seed)
+KillReport runKillRounds(const std::filesystem::path &database, int rounds, std::uint32_t seed)
 {
     KillReport report;
     std::mt19937 random{seed};

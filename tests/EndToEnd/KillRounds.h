@@ -16,5 +16,4 @@ struct KillReport {
 // Lets a process change one store and kills it (SIGKILL) at a random moment, so many times.
 // After each: every acknowledged change is there and at most the one in flight besides, the
 // revision counts exactly the commits, and the file passes SQLite's own check.
-KillReport runKillRounds(const std::filesystem::path &database, int rounds,
-                         std::uint32_t seed);
+KillReport runKillRounds(const std::filesystem::path &database, int rounds, std::uint32_t seed);

@@ -4,14 +4,14 @@
 #include "tests/TemporaryFolder.h"
 
 #include <fmt/format.h>
+#include <gmock/gmock.h>
 
 #include <random>
 
 TEST(Kill, NoAcknowledgedChangeIsEverLost)
 {
     const TemporaryFolder folder;
-    const KillReport report =
-        runKillRounds(folder.database(), 200, std::random_device{}());
+    const KillReport report = runKillRounds(folder.database(), 200, std::random_device{}());
     EXPECT_EQ(report.failure, "");
     EXPECT_EQ(report.rounds, 200);
     // A kill that always came too early would prove nothing.

@@ -3,6 +3,8 @@
 #include "tests/EndToEnd/Program.h"
 #include "tests/TemporaryFolder.h"
 
+#include <gmock/gmock.h>
+
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -22,32 +24,36 @@ TEST(PrayerCommand, ShowsADayAMonthAndTheQibla)
     EXPECT_EQ(runKest(folder.path(), {"prayer"}).err, kNeedsLocation);
     EXPECT_EQ(runKest(folder.path(), {"place", "set", "Cairo"}).status, 0);
     const auto day = runKest(folder.path(), {"prayer", "--date", "2026-11-21"});
-    EXPECT_THAT(day.out, AllOf(StartsWith("Saturday 21 November 2026 · 11 Jumada al-Akhira 1448\n"),
-                               HasSubstr("\nIsha     18:17\n"), HasSubstr("Qibla 136.2° (SE)\n"),
-                               HasSubstr("Calculated prayer time. Check your local timetable.\n")));
-    const auto json = runKest(folder.path(), {"--json", "prayer", "--date", "2026-11-21", "--asr",
-                                              "hanafi", "--days", "2"});
+    EXPECT_THAT(day.out,
+                AllOf(StartsWith("Saturday 21 November 2026 · 11 Jumada al-Akhira 1448\n"),
+                      HasSubstr("\nIsha     18:17\n"), HasSubstr("Qibla 136.2° (SE)\n"),
+                      HasSubstr("Calculated prayer time. Check your local timetable.\n")));
+    const auto json = runKest(folder.path(), {"--json", "prayer", "--date", "2026-11-21",
+                                              "--asr", "hanafi", "--days", "2"});
     EXPECT_THAT(json.out,
                 AllOf(StartsWith(R"({"method":"egyptian","timezone":"Africa/Cairo","days":[)"
                                  R"({"date":"2026-11-21","islamicDate":{"day":11,"month":6,)"
                                  R"("year":1448},"times":{"fajr":"2026-11-21T02:54:00Z",)"),
                       HasSubstr(R"("date":"2026-11-22")"), HasSubstr(R"("qibla":136.24)")));
-    EXPECT_THAT(runKest(folder.path(), {"prayer", "month", "--year", "2026", "--month", "2",
-                                        "--csv"}).out,
-                AllOf(StartsWith("date,islamic date,fajr,sunrise,dhuhr,asr,maghrib,isha\n"),
-                      HasSubstr("\n2026-02-28,"), testing::Not(HasSubstr("2026-03-01"))));
+    EXPECT_THAT(
+        runKest(folder.path(), {"prayer", "month", "--year", "2026", "--month", "2", "--csv"})
+            .out,
+        AllOf(StartsWith("date,islamic date,fajr,sunrise,dhuhr,asr,maghrib,isha\n"),
+              HasSubstr("\n2026-02-28,"), testing::Not(HasSubstr("2026-03-01"))));
     EXPECT_THAT(runKest(folder.path(), {"prayer", "month", "--month", "11", "--ics"}).out,
                 AllOf(StartsWith("BEGIN:VCALENDAR\r\nVERSION:2.0\r\n"),
                       testing::EndsWith("END:VEVENT\r\nEND:VCALENDAR\r\n")));
-    EXPECT_EQ(runKest(folder.path(), {"qibla", "--latitude", "21.4", "--longitude", "0"}).status, 0);
+    EXPECT_EQ(
+        runKest(folder.path(), {"qibla", "--latitude", "21.4", "--longitude", "0"}).status, 0);
 }
 
 TEST(PrayerCommand, SaysThatTheSunDoesNotRise)
 {
     const TemporaryFolder folder;
-    const Words pole{"prayer", "--latitude", "78.2", "--longitude", "15.6", "--timezone",
-                     "Arctic/Longyearbyen", "--date", "2026-12-21"};
-    EXPECT_THAT(runKest(folder.path(), pole).out, HasSubstr("The Sun does not rise or set here"));
+    const Words pole{"prayer",     "--latitude",          "78.2",   "--longitude", "15.6",
+                     "--timezone", "Arctic/Longyearbyen", "--date", "2026-12-21"};
+    EXPECT_THAT(runKest(folder.path(), pole).out,
+                HasSubstr("The Sun does not rise or set here"));
     Words json{"--json"};
     json.insert(json.end(), pole.begin(), pole.end());
     EXPECT_THAT(runKest(folder.path(), json).out, HasSubstr(R"("times":null,"sunnah":null)"));
@@ -93,11 +99,13 @@ TEST(PlaceCommand, FindsCitiesAndTakesAnyCoordinates)
     EXPECT_EQ(runKest(folder.path(), {"place", "set", "Paris"}).status, 0);
     // A place that is no city leaves nothing of the one before.
     EXPECT_EQ(runKest(folder.path(), {"place", "set", "--latitude", "95", "--longitude", "0",
-                                      "--timezone", "UTC"}).err,
+                                      "--timezone", "UTC"})
+                  .err,
               kNeedsLocation);
     EXPECT_EQ(runKest(folder.path(), {"settings", "get", "prayer.city"}).out, "Paris\n");
-    EXPECT_EQ(runKest(folder.path(), {"place", "set", "--latitude", "-5.5", "--longitude", "100",
-                                      "--timezone", "Etc/GMT-7"}).status,
+    EXPECT_EQ(runKest(folder.path(), {"place", "set", "--latitude", "-5.5", "--longitude",
+                                      "100", "--timezone", "Etc/GMT-7"})
+                  .status,
               0);
     EXPECT_EQ(runKest(folder.path(), {"--json", "settings"}).out,
               R"({"prayer.latitude":"-5.5","prayer.locationMode":"manual",)"

@@ -5,6 +5,8 @@
 #include "tests/RawFile.h"
 #include "tests/TemporaryFolder.h"
 
+#include <gmock/gmock.h>
+
 #include <poll.h>
 #include <pty.h>
 #include <sys/wait.h>

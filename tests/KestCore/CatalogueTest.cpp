@@ -3,6 +3,7 @@
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Models/DevotionalState.h"
 
+#include <gmock/gmock.h>
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 

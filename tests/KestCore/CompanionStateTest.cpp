@@ -4,6 +4,8 @@
 
 #include "tests/KestCore/JsonKeys.h"
 
+#include <gmock/gmock.h>
+
 #include <functional>
 
 namespace KestCoreTests

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Devotional/Content.h"
 
+#include <gmock/gmock.h>
+
 namespace KestCoreTests
 {
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Devotional/Counting.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 #include <limits>

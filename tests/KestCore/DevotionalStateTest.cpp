@@ -4,6 +4,8 @@
 
 #include "KestCore/Models/TimeOfDay.h"
 
+#include <gmock/gmock.h>
+
 #include <functional>
 #include <limits>
 

@@ -5,6 +5,7 @@
 #include "tests/Base/RandomValues.h"
 #include "tests/KestCore/JsonKeys.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 namespace KestCoreTests

@@ -5,6 +5,8 @@
 #include "KestCore/Registry/ToolRegistry.h"
 #include "tests/KestCore/JsonKeys.h"
 
+#include <gmock/gmock.h>
+
 #include <functional>
 #include <set>
 

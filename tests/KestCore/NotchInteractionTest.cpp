@@ -6,6 +6,7 @@
 #include "KestCore/Surfaces/CompanionState.h"
 #include "KestCore/Surfaces/MessageAnimation.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 #include <cmath>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Prayer/PrayerCalculator.h"
 
+#include <gmock/gmock.h>
+
 #include <chrono>
 #include <cmath>
 
@@ -87,8 +89,8 @@ TEST(PrayerCalculator, GivesEveryLocalDateItsOwnTimesAroundTheDateLine)
          }) {
         SCOPED_TRACE(name);
         const auto inputs = *KestCore::prayerInputs(settings);
-        const auto days = PrayerCalculator::days(inputs, LocalDate{2020y, std::chrono::January, 1d},
-                                                 3653);
+        const auto days =
+            PrayerCalculator::days(inputs, LocalDate{2020y, std::chrono::January, 1d}, 3653);
         ASSERT_EQ(days.size(), 3653U);
         for (std::size_t at = 0; at < days.size(); ++at) {
             SCOPED_TRACE(numberOf(days[at].date));
@@ -96,7 +98,8 @@ TEST(PrayerCalculator, GivesEveryLocalDateItsOwnTimesAroundTheDateLine)
             if (at == 0 || HasFailure()) {
                 continue;
             }
-            const double step = secondsBetween(days[at - 1].times->dhuhr, days[at].times->dhuhr);
+            const double step =
+                secondsBetween(days[at - 1].times->dhuhr, days[at].times->dhuhr);
             EXPECT_NEAR(step, 86'400, 60); // a whole minute of rounding
             EXPECT_NEAR(secondsBetween(days[at - 1].times->maghrib, days[at].times->maghrib),
                         86'400, 600);
@@ -152,15 +155,17 @@ TEST(PrayerCalculator, TellsWhatIsNextAcrossMidnight)
     auto north = place("59.33", "18.07", "Europe/Stockholm");
     north["prayer.highLatitude"] = "middleOfTheNight";
     const auto stockholm = *KestCore::prayerInputs(north);
-    const auto isha = PrayerCalculator::days(stockholm, LocalDate{2026y, std::chrono::June, 20d}, 1)
-                          .front()
-                          .times->isha;
+    const auto isha =
+        PrayerCalculator::days(stockholm, LocalDate{2026y, std::chrono::June, 20d}, 1)
+            .front()
+            .times->isha;
     ASSERT_EQ(stockholm.calendar.at(isha).hour, 0);
     EXPECT_EQ(PrayerCalculator::next(stockholm, isha - 1min)->prayer, Prayer::isha);
 
     const auto pole = *KestCore::prayerInputs(place("89", "0", "UTC"));
     EXPECT_FALSE(PrayerCalculator::next(pole, instant("2026-06-21T12:00:00Z")));
-    EXPECT_FALSE(PrayerCalculator::comingDays(pole, instant("2026-06-21T12:00:00Z"), 1)[0].times);
+    EXPECT_FALSE(
+        PrayerCalculator::comingDays(pole, instant("2026-06-21T12:00:00Z"), 1)[0].times);
 }
 
 TEST(PrayerCalculator, ClampsTheDaysAndRefusesFarDates)
@@ -175,9 +180,8 @@ TEST(PrayerCalculator, ClampsTheDaysAndRefusesFarDates)
     EXPECT_EQ(week[6].date, (LocalDate{2026y, November, 28d}));
     EXPECT_TRUE(PrayerCalculator::checkDate(LocalDate{1900y, January, 1d}));
     EXPECT_TRUE(PrayerCalculator::checkDate(LocalDate{2200y, December, 31d}));
-    for (const LocalDate date :
-         {LocalDate{1899y, December, 31d}, LocalDate{2201y, January, 1d},
-          LocalDate{2026y, February, 29d}}) {
+    for (const LocalDate date : {LocalDate{1899y, December, 31d}, LocalDate{2201y, January, 1d},
+                                 LocalDate{2026y, February, 29d}}) {
         EXPECT_EQ(PrayerCalculator::checkDate(date).error().message,
                   "Prayer times are known for dates from 1900 to 2200");
     }
@@ -205,21 +209,25 @@ TEST(PrayerInputs, AreReadFromTheSettings)
     for (const auto &[name, more, method] : {
              Case{"nothing said", {}, CalculationMethod::muslimWorldLeague},
              Case{"by country", {{"prayer.country", "EG"}}, CalculationMethod::egyptian},
-             Case{"in lower case", {{"prayer.country", "gb"}, {"prayer.method", "automatic"}},
+             Case{"in lower case",
+                  {{"prayer.country", "gb"}, {"prayer.method", "automatic"}},
                   CalculationMethod::moonsightingCommittee},
-             Case{"an empty method", {{"prayer.country", "my"}, {"prayer.method", ""}},
+             Case{"an empty method",
+                  {{"prayer.country", "my"}, {"prayer.method", ""}},
                   CalculationMethod::singapore},
-             Case{"a country without one of its own", {{"prayer.country", "FR"}},
+             Case{"a country without one of its own",
+                  {{"prayer.country", "FR"}},
                   CalculationMethod::muslimWorldLeague},
-             Case{"the method wins", {{"prayer.country", "EG"}, {"prayer.method", "tehran"}},
+             Case{"the method wins",
+                  {{"prayer.country", "EG"}, {"prayer.method", "tehran"}},
                   CalculationMethod::tehran},
          }) {
         SCOPED_TRACE(name);
         EXPECT_EQ(KestCore::prayerInputs(with(kCairo, more))->parameters.method, method);
     }
     const auto rule = [](const char *latitude, const char *chosen) {
-        return KestCore::prayerInputs(
-                   with(kCairo, {{"prayer.latitude", latitude}, {"prayer.highLatitude", chosen}}))
+        return KestCore::prayerInputs(with(kCairo, {{"prayer.latitude", latitude},
+                                                    {"prayer.highLatitude", chosen}}))
             ->parameters.highLatitudeRule;
     };
     EXPECT_EQ(rule("50", "automatic"), HighLatitudeRule::seventhOfTheNight);
@@ -227,11 +235,14 @@ TEST(PrayerInputs, AreReadFromTheSettings)
     EXPECT_EQ(rule("-60", "nonsense"), HighLatitudeRule::middleOfTheNight);
     EXPECT_EQ(rule("50", "twilightAngle"), HighLatitudeRule::twilightAngle);
 
-    const auto adjusted = *KestCore::prayerInputs(with(
-        kCairo, {{"prayer.asr", "hanafi"}, {"prayer.adjust.fajr", "+7"},
-                 {"prayer.adjust.dhuhr", "-3"}, {"prayer.adjust.asr", "2.5"},
-                 {"prayer.adjust.maghrib", " 4"}, {"prayer.adjust.isha", "99999999999999999"},
-                 {"prayer.adjust.sunrise", "9"}}));
+    const auto adjusted =
+        *KestCore::prayerInputs(with(kCairo, {{"prayer.asr", "hanafi"},
+                                              {"prayer.adjust.fajr", "+7"},
+                                              {"prayer.adjust.dhuhr", "-3"},
+                                              {"prayer.adjust.asr", "2.5"},
+                                              {"prayer.adjust.maghrib", " 4"},
+                                              {"prayer.adjust.isha", "99999999999999999"},
+                                              {"prayer.adjust.sunrise", "9"}}));
     EXPECT_EQ(adjusted.parameters.madhab, PrayerCore::Madhab::hanafi);
     EXPECT_EQ(adjusted.parameters.adjustments,
               (PrayerCore::PrayerAdjustments{.fajr = 7, .dhuhr = -3}));
@@ -240,22 +251,31 @@ TEST(PrayerInputs, AreReadFromTheSettings)
 TEST(PrayerInputs, FailWithOneMessage)
 {
     for (const auto &[key, value] : std::vector<std::pair<std::string, std::string>>{
-             {"prayer.latitude", ""},       {"prayer.latitude", "90.5"},
-             {"prayer.latitude", "-90.1"},  {"prayer.latitude", "nan"},
-             {"prayer.latitude", "inf"},    {"prayer.latitude", " 30"},
-             {"prayer.latitude", "30 "},    {"prayer.latitude", "0x1E"},
-             {"prayer.latitude", "30,5"},   {"prayer.latitude", "+-30"},
-             {"prayer.latitude", "1e999"},  {"prayer.longitude", "180.01"},
-             {"prayer.longitude", "east"},  {"prayer.timezone", "Mars/Olympus"},
-             {"prayer.timezone", ""},       {"prayer.timezone", "../../etc/passwd"},
-             {"prayer.method", "other"},    {"prayer.method", "Karachi"},
+             {"prayer.latitude", ""},
+             {"prayer.latitude", "90.5"},
+             {"prayer.latitude", "-90.1"},
+             {"prayer.latitude", "nan"},
+             {"prayer.latitude", "inf"},
+             {"prayer.latitude", " 30"},
+             {"prayer.latitude", "30 "},
+             {"prayer.latitude", "0x1E"},
+             {"prayer.latitude", "30,5"},
+             {"prayer.latitude", "+-30"},
+             {"prayer.latitude", "1e999"},
+             {"prayer.longitude", "180.01"},
+             {"prayer.longitude", "east"},
+             {"prayer.timezone", "Mars/Olympus"},
+             {"prayer.timezone", ""},
+             {"prayer.timezone", "../../etc/passwd"},
+             {"prayer.method", "other"},
+             {"prayer.method", "Karachi"},
          }) {
         SCOPED_TRACE(key + " = " + value);
         const auto inputs = KestCore::prayerInputs(with(kCairo, {{key, value}}));
         ASSERT_FALSE(inputs.has_value());
-        EXPECT_EQ(inputs.error(),
-                  Base::KestError::unavailable("Allow location access to calculate prayer times "
-                                               "for where you are."));
+        EXPECT_EQ(inputs.error(), Base::KestError::unavailable(
+                                      "Allow location access to calculate prayer times "
+                                      "for where you are."));
     }
     EXPECT_FALSE(KestCore::prayerInputs({}).has_value());
     for (const auto &[latitude, longitude] :

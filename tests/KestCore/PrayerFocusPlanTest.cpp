@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Prayer/PrayerFocusPlan.h"
 
+#include <gmock/gmock.h>
+
 using namespace std::chrono_literals;
 using KestCore::NextPrayer;
 using KestCore::planFocus;

@@ -6,6 +6,8 @@
 #include "KestCore/Resources.h"
 #include "tests/TemporaryFolder.h"
 
+#include <gmock/gmock.h>
+
 #include <cstdlib>
 #include <fstream>
 

@@ -5,6 +5,7 @@
 #include "PrayerCore/Qibla.h"
 #include "PrayerCore/SolarTime.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 #include <array>

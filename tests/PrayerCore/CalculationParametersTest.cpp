@@ -4,6 +4,8 @@
 
 #include "PrayerCore/NightLimits.h"
 
+#include <gmock/gmock.h>
+
 namespace PrayerCoreTests
 {
 

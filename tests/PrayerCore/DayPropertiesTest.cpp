@@ -4,6 +4,7 @@
 #include "PrayerCore/PrayerDays.h"
 #include "PrayerCore/SunnahTimes.h"
 
+#include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
 namespace PrayerCoreTests

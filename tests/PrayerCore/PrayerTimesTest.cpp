@@ -3,6 +3,8 @@
 #include "PrayerCore/PrayerDays.h"
 #include "PrayerCore/SunnahTimes.h"
 
+#include <gmock/gmock.h>
+
 #include <limits>
 
 namespace PrayerCoreTests

@@ -3,6 +3,8 @@
 #include "PrayerCore/PrayerTimes.h"
 #include "PrayerCore/SolarTime.h"
 
+#include <gmock/gmock.h>
+
 #include <cstdlib>
 #include <fstream>
 #include <sstream>

@@ -4,6 +4,8 @@
 #include "tests/RawFile.h"
 #include "tests/TemporaryFolder.h"
 
+#include <gmock/gmock.h>
+
 #include <random>
 
 using Base::KestError;
@@ -27,7 +29,8 @@ std::string replaced(std::string text, std::string_view from, std::string_view t
 }
 
 // Opens a store whose row holds `body` and expects the refusal to leave every byte alone.
-void expectRefusal(const std::string &table, const std::string &body, const std::string &message)
+void expectRefusal(const std::string &table, const std::string &body,
+                   const std::string &message)
 {
     const TemporaryFolder folder;
     ASSERT_TRUE(StateStore::open(folder.database()));
@@ -58,10 +61,15 @@ TEST(CorruptState, IsRefusedAndTheFileStaysAsItWas)
              Case{"one byte short", good.substr(0, good.size() - 1), native},
              Case{"something behind", good + "{}", native},
              Case{"not JSON", std::string(5000, '\xff'), native},
-             Case{"not UTF-8", replaced(good, "\"medium\"", "\"m\xc3" "dium\""), native},
+             Case{"not UTF-8",
+                  replaced(good, "\"medium\"",
+                           "\"m\xc3"
+                           "dium\""),
+                  native},
              Case{"nested deeply",
-                  replaced(good, "{", "{\"x\":" + std::string(100'000, '[') +
-                                          std::string(100'000, ']') + ","),
+                  replaced(good, "{",
+                           "{\"x\":" + std::string(100'000, '[') + std::string(100'000, ']') +
+                               ","),
                   native},
              Case{"a text for a number", replaced(good, "\"version\":3", "\"version\":\"3\""),
                   native},
@@ -148,10 +156,10 @@ TEST(CorruptDatabase, IsRefusedWithSqlitesWords)
 
 TEST(CorruptRecord, StopsSnapshotsButNotTheCount)
 {
-    for (const char *body :
-         {"", "{", R"({"id":"a","kind":"note"})", R"({"id":1,"kind":"note","title":"","body":"",)"
-                                                  R"("updated":0,"extra":{}})",
-          "\xff\xff"}) {
+    for (const char *body : {"", "{", R"({"id":"a","kind":"note"})",
+                             R"({"id":1,"kind":"note","title":"","body":"",)"
+                             R"("updated":0,"extra":{}})",
+                             "\xff\xff"}) {
         SCOPED_TRACE(body);
         const TemporaryFolder folder;
         auto store = *StateStore::open(folder.database());

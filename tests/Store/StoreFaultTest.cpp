@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Devotional/Counting.h"
 #include "KestCore/Store/StateStore.h"
-#include "tests/Store/FaultVfs.h"
 #include "tests/RawFile.h"
+#include "tests/Store/FaultVfs.h"
 #include "tests/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
 
 #include <functional>
 

@@ -5,6 +5,8 @@
 #include "tests/RawFile.h"
 #include "tests/TemporaryFolder.h"
 
+#include <gmock/gmock.h>
+
 #include <algorithm>
 
 using KestCore::StateStore;
@@ -41,7 +43,8 @@ TEST(CompanionMigration, TakesTheWidgetsThatTheUserHad)
     for (const auto &[name, setting, widgets] : {
              Case{"chosen", "weather,,stats,", {"weather", "stats"}},
              Case{"none chosen", "", {}},
-             Case{"never set", std::nullopt,
+             Case{"never set",
+                  std::nullopt,
                   {"screen-time", "revenue", "stats", "analytics", "claude", "weather"}},
              Case{"unknown ones are not shown", "stats,horoscope", {"stats"}},
          }) {
@@ -73,10 +76,12 @@ TEST(CompanionMigration, BacksUpFirstAndNeverOverwritesABackup)
     ASSERT_TRUE(StateStore::open(folder.database()));
     EXPECT_EQ(RawFile::bytes(folder.path() / kBackup), firstBackup);
     const auto names = RawFile::neighbours(folder.database());
-    EXPECT_EQ(std::ranges::count_if(names, [](const std::string &name) {
-                  return name.starts_with("kest.sqlite.pre-companion-v1-retry-") &&
-                         name.ends_with(".sqlite");
-              }),
+    EXPECT_EQ(std::ranges::count_if(names,
+                                    [](const std::string &name) {
+                                        return name.starts_with(
+                                                   "kest.sqlite.pre-companion-v1-retry-") &&
+                                               name.ends_with(".sqlite");
+                                    }),
               1);
 }
 

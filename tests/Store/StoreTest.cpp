@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "KestCore/Store/StateStore.h"
-
 #include "Base/Serial.h"
 #include "KestCore/Devotional/Counting.h"
+#include "KestCore/Store/StateStore.h"
 #include "tests/RawFile.h"
 #include "tests/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
 
 #include <unistd.h>
 
@@ -32,7 +33,10 @@ LocalRecord record(std::string id, std::string kind, std::string body)
             .extra = {{"pinned", "true"}}};
 }
 
-LocalRecord note(std::string id) { return record(std::move(id), "note", R"({"text":"hello"})"); }
+LocalRecord note(std::string id)
+{
+    return record(std::move(id), "note", R"({"text":"hello"})");
+}
 
 std::vector<std::string> idsOf(const Snapshot &snapshot)
 {
@@ -44,8 +48,9 @@ std::vector<std::string> idsOf(const Snapshot &snapshot)
 
 Result<void> increment(NativeState &state)
 {
-    KEST_TRY([[maybe_unused]] const bool reached,
-             KestCore::apply(KestCore::Increment{}, Base::fromSeconds1970(5), state.devotional));
+    KEST_TRY(
+        [[maybe_unused]] const bool reached,
+        KestCore::apply(KestCore::Increment{}, Base::fromSeconds1970(5), state.devotional));
     return {};
 }
 
@@ -88,7 +93,8 @@ TEST(Store, IsPrivateToTheUser)
     const auto mode = [](const fs::path &path) { return fs::status(path).permissions(); };
     EXPECT_EQ(mode(file.parent_path()), fs::perms::owner_all);
     for (const auto &name : RawFile::neighbours(file)) {
-        EXPECT_EQ(mode(file.parent_path() / name), fs::perms::owner_read | fs::perms::owner_write)
+        EXPECT_EQ(mode(file.parent_path() / name),
+                  fs::perms::owner_read | fs::perms::owner_write)
             << name;
     }
 }
@@ -99,20 +105,27 @@ TEST(Store, RefusedMutationsChangeNothing)
     auto store = *StateStore::open(folder.database());
     const std::string before = RawFile::dump(folder.database());
     const auto own = KestError::invalidData("no");
-    EXPECT_EQ(store.update([&](NativeState &state) -> Result<void> {
-                       state.settings["a"] = "b";
-                       return std::unexpected(own);
-                   }).error(),
+    EXPECT_EQ(store
+                  .update([&](NativeState &state) -> Result<void> {
+                      state.settings["a"] = "b";
+                      return std::unexpected(own);
+                  })
+                  .error(),
               own);
-    EXPECT_EQ(store.update([](NativeState &state) -> Result<void> {
-                       state.enabled.push_back("nothing");
-                       return {};
-                   }).error(),
+    EXPECT_EQ(store
+                  .update([](NativeState &state) -> Result<void> {
+                      state.enabled.push_back("nothing");
+                      return {};
+                  })
+                  .error(),
               KestError::invalidData("Invalid native settings"));
-    EXPECT_EQ(store.update([](NativeState &state) -> Result<void> {
-                       state.settings["a"] = "\xff";
-                       return {};
-                   }).error().kind,
+    EXPECT_EQ(store
+                  .update([](NativeState &state) -> Result<void> {
+                      state.settings["a"] = "\xff";
+                      return {};
+                  })
+                  .error()
+                  .kind,
               KestError::Kind::invalidData);
     auto companion = store.companion();
     companion.selectedWorkspaceID = "nowhere";
@@ -122,10 +135,12 @@ TEST(Store, RefusedMutationsChangeNothing)
     EXPECT_EQ(RawFile::dump(folder.database()), before);
     EXPECT_EQ(store.state(), KestCore::defaultNativeState());
     // What a mutation writes into the revision does not count.
-    EXPECT_EQ(store.update([](NativeState &state) -> Result<void> {
-                       state.revision = 500;
-                       return {};
-                   })->state.revision,
+    EXPECT_EQ(store
+                  .update([](NativeState &state) -> Result<void> {
+                      state.revision = 500;
+                      return {};
+                  })
+                  ->state.revision,
               1);
 }
 
@@ -179,18 +194,20 @@ TEST(Store, ClearingHistoryKeepsWhatTheUserMade)
     ASSERT_TRUE(store.update(increment));
     ASSERT_TRUE(store.update([](NativeState &state) -> Result<void> {
         state.settings["prayer.method"] = "karachi";
-        KEST_TRY([[maybe_unused]] const bool reached,
-                 KestCore::apply(KestCore::Finish{}, Base::fromSeconds1970(9), state.devotional));
+        KEST_TRY(
+            [[maybe_unused]] const bool reached,
+            KestCore::apply(KestCore::Finish{}, Base::fromSeconds1970(9), state.devotional));
         return {};
     }));
     EXPECT_EQ(store.state().devotional.records.size(), 1U);
     ASSERT_TRUE(store.upsertRecord(note("n")));
     ASSERT_TRUE(store.upsertRecord(record("s", "shelf", R"({"path":"/tmp/x"})")));
     ASSERT_TRUE(store.upsertRecord(record("c", "clipboard", "sealed")));
-    ASSERT_TRUE(store.upsertRecord(record(
-        "u", "usage", R"({"application":"editor","day":"2026-11-21","seconds":60})")));
-    ASSERT_TRUE(store.upsertRecord(record(
-        "d", "completion", R"({"tool":"dhikr","item":"subhanallah","amount":33,"completedAt":1})")));
+    ASSERT_TRUE(store.upsertRecord(
+        record("u", "usage", R"({"application":"editor","day":"2026-11-21","seconds":60})")));
+    ASSERT_TRUE(store.upsertRecord(
+        record("d", "completion",
+               R"({"tool":"dhikr","item":"subhanallah","amount":33,"completedAt":1})")));
     const auto cleared = store.clearHistory();
     EXPECT_EQ(idsOf(*cleared), (Ids{"n", "s"}));
     EXPECT_TRUE(cleared->state.devotional.records.empty());
@@ -265,8 +282,7 @@ TEST(Store, CountsFromManyThreadsThroughItsQueue)
     for (int n = 0; n < 4; ++n) {
         threads.emplace_back([&store] {
             for (int step = 0; step < 25; ++step) {
-                EXPECT_TRUE(
-                    store.ask([](StateStore &s) { return s.update(increment); }).get());
+                EXPECT_TRUE(store.ask([](StateStore &s) { return s.update(increment); }).get());
             }
         });
     }
