@@ -147,7 +147,8 @@ ParserLoan::ParserLoan(std::size_t documentSize)
 
 ondemand::parser &ParserLoan::shared()
 {
-    thread_local ondemand::parser parser; // NOLINT(misc-const-correctness): it is lent out
+    // NOLINTNEXTLINE(misc-const-correctness,misc-use-internal-linkage): it is lent out
+    thread_local ondemand::parser parser;
     return parser;
 }
 

@@ -75,8 +75,6 @@ public:
             string(textOf(value));
         } else if constexpr (detail::isA<T, OrNull>) {
             value.value ? write(*value.value) : literal("null");
-        } else if constexpr (detail::isA<T, std::optional>) {
-            write(*value); // a member that is absent is not written at all
         } else if constexpr (detail::isA<T, SharedList>) {
             sharedList(value);
         } else if constexpr (detail::isA<T, std::map>) {
@@ -188,19 +186,21 @@ private:
         literal("}");
     }
 
+    // A member that is absent is not written at all.
     template <class T, std::size_t I, class Member>
     void member(const Member &value, bool &first)
     {
         if constexpr (detail::isA<Member, std::optional>) {
-            if (!value) {
-                return;
+            if (value) {
+                member<T, I>(*value, first);
             }
+        } else {
+            static constexpr auto kKey = detail::keyText<T, I>();
+            const std::size_t skipComma = first ? 1 : 0;
+            literal({kKey.chars.data() + skipComma, kKey.chars.size() - skipComma});
+            first = false;
+            write(value);
         }
-        static constexpr auto kKey = detail::keyText<T, I>();
-        const std::size_t skipComma = first ? 1 : 0;
-        literal({kKey.chars.data() + skipComma, kKey.chars.size() - skipComma});
-        first = false;
-        write(value);
     }
 
     static constexpr std::size_t kUsualEntrySize = 128; // of a long list, so that it grows once

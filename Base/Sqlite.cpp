@@ -10,6 +10,7 @@ namespace Base
 namespace
 {
 
+constexpr int kBusyTimeoutMs = 5000; // for another program that has the file for a moment
 constexpr std::size_t kLongestParameter = 2'147'483'646;
 
 struct Finalize {
@@ -53,6 +54,7 @@ Result<Database> Database::open(const std::filesystem::path &file, std::string_v
     if (code != SQLITE_OK || handle == nullptr) {
         return std::unexpected(KestError::storage(std::string{message}));
     }
+    sqlite3_busy_timeout(handle, kBusyTimeoutMs);
     return Database{std::move(owned)};
 }
 
@@ -118,7 +120,6 @@ Result<void> Database::backUpTo(const std::filesystem::path &file)
 {
     const char *const kCannotOpen = "Cannot back up local storage";
     KEST_TRY(const Database target, open(file, kCannotOpen));
-    sqlite3_busy_timeout(target.m_handle.get(), 5000);
     sqlite3_backup *backup =
         sqlite3_backup_init(target.m_handle.get(), "main", m_handle.get(), "main");
     if (backup == nullptr) {

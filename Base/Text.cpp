@@ -65,6 +65,14 @@ std::string foldCaseAndDiacritics(std::string_view text)
     return out;
 }
 
+void replaceAll(std::string &text, std::string_view from, std::string_view to)
+{
+    for (std::size_t at = text.find(from); at != std::string::npos;
+         at = text.find(from, at + to.size())) {
+        text.replace(at, from.size(), to);
+    }
+}
+
 std::vector<std::string_view> split(std::string_view text, char separator)
 {
     std::vector<std::string_view> pieces;

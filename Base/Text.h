@@ -20,4 +20,7 @@ std::string foldCaseAndDiacritics(std::string_view text);
 // Splits at each separator. "a,,b" gives "a", "", "b"; an empty text gives one empty piece.
 std::vector<std::string_view> split(std::string_view text, char separator);
 
+// Puts `to` in the place of every `from`, which must not be empty.
+void replaceAll(std::string &text, std::string_view from, std::string_view to);
+
 } // namespace Base

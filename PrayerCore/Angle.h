@@ -4,11 +4,12 @@
 
 #include <cmath>
 #include <cstdint>
+#include <numbers>
 
 namespace PrayerCore
 {
 
-inline constexpr double kPi = 3.141592653589793;
+inline constexpr double kPi = std::numbers::pi;
 
 // What std::floor gives, without the detour that it takes on processors of the baseline.
 inline double wholeBelow(double value)

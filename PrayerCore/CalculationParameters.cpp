@@ -91,7 +91,7 @@ struct ParametersDocument {
     PrayerAdjustments methodAdjustments{};
 };
 
-consteval auto jsonFields(Base::Of<ParametersDocument>)
+static consteval auto jsonFields(Base::Of<ParametersDocument>)
 {
     using R = ParametersDocument;
     return std::tuple{

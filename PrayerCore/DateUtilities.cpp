@@ -14,7 +14,7 @@ std::chrono::sys_seconds roundToMinute(std::chrono::sys_seconds moment, Rounding
     case Rounding::nearest:
         return rest < std::chrono::seconds{30} ? minute : minute + minutes{1};
     case Rounding::up:
-        return rest == rest.zero() ? minute : minute + minutes{1};
+        return rest == std::chrono::seconds::zero() ? minute : minute + minutes{1};
     case Rounding::none:
         break;
     }

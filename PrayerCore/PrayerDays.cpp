@@ -203,6 +203,7 @@ PrayerDays::PrayerDays(std::chrono::sys_days first, const Observer &observer,
 
 std::optional<PrayerTimes> PrayerDays::next()
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): filled at first and then each time
     const SolarTime &today = *m_days[m_today];
     if (today.date() > kLastDay) {
         return std::nullopt;

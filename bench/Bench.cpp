@@ -150,6 +150,11 @@ int main(int argc, char **argv)
         {"prayer", Bench::prayerSuite},
         {"program", Bench::programSuite},
     };
+    for (int at = 1; at < argc; ++at) {
+        if (std::ranges::none_of(suites, [&](const auto &s) { return s.first == argv[at]; })) {
+            Bench::giveUp(std::string{"there is no suite "} + argv[at]);
+        }
+    }
     std::vector<Bench::Row> rows;
     for (const auto &[name, suite] : suites) {
         const bool isWanted =

@@ -71,8 +71,9 @@ Words settingKeys()
 }
 
 // The values that fit where an argument of this command is wanted.
-Words argumentsFor(const std::string &command, const Words &typed)
+Words argumentsFor(const CLI::App &owner, const Words &typed)
 {
+    const std::string &command = owner.get_name();
     const auto &content = KestCore::contentCatalogue();
     if (command == "select") {
         const bool isName = std::ranges::find(typed, "--name") != typed.end();
@@ -84,7 +85,8 @@ Words argumentsFor(const std::string &command, const Words &typed)
     if (command == "completion") {
         return {"bash", "fish", "zsh"};
     }
-    return command == "get" || command == "set" || command == "unset" ? settingKeys() : Words{};
+    const CLI::App *parent = owner.get_parent();
+    return parent != nullptr && parent->get_name() == "settings" ? settingKeys() : Words{};
 }
 
 // Walks the words already typed down the tree of commands and lists what may come next.
@@ -110,7 +112,7 @@ Words candidates(CLI::App &program, const Words &typed)
             }
         }
     }
-    const Words arguments = argumentsFor(command->get_name(), typed);
+    const Words arguments = argumentsFor(*command, typed);
     found.insert(found.end(), arguments.begin(), arguments.end());
     return found;
 }

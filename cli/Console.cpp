@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -42,10 +43,12 @@ std::string_view escapeOf(Style style)
 // Escape sequences take no room on the screen.
 std::size_t displayWidth(std::string_view cell)
 {
-    std::size_t width = Base::countCodePoints(cell);
-    for (std::size_t at = cell.find('\x1b'); at != std::string_view::npos;
-         at = cell.find('\x1b', at + 1)) {
-        width -= cell.find('m', at) - at + 1;
+    std::size_t width = 0;
+    while (!cell.empty()) {
+        const std::size_t escape = std::min(cell.find('\x1b'), cell.size());
+        width += Base::countCodePoints(cell.substr(0, escape));
+        cell.remove_prefix(escape);
+        cell.remove_prefix(cell.empty() ? 0 : std::min(cell.find('m'), cell.size() - 1) + 1);
     }
     return width;
 }
@@ -120,8 +123,22 @@ Result<void> Console::flush()
     return {};
 }
 
+std::string printable(std::string_view text)
+{
+    std::string shown;
+    for (const char c : text) {
+        const bool isControl = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+        shown += isControl ? std::string_view{"\u00B7"} : std::string_view{&c, 1};
+    }
+    return shown;
+}
+
 std::string localTime(double milliseconds)
 {
+    constexpr double kYear10000 = 253'402'300'800'000.0;
+    if (!(std::abs(milliseconds) < kYear10000)) {
+        return "?";
+    }
     const auto seconds = static_cast<std::time_t>(milliseconds / 1000.0);
     std::tm fields{};
     char text[64] = {};

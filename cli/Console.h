@@ -54,6 +54,10 @@ public:
     [[nodiscard]] static Result<void> flush();
 };
 
+// A stored text for the terminal: control characters, which could move the cursor or fake a
+// line, show as a dot.
+std::string printable(std::string_view text);
+
 // "12 Nov 2026, 08:30" in the user's time zone, from milliseconds since 1970.
 std::string localTime(double milliseconds);
 

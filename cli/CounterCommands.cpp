@@ -82,7 +82,7 @@ Result<void> runSteps(const Session &session, const CountAction &action, std::in
     });
 }
 
-Result<CountAction> parseTarget(const std::string &text)
+CountAction parseTarget(const std::string &text)
 {
     if (text == "none") {
         return KestCore::SetTarget{};
@@ -96,13 +96,33 @@ Result<CountAction> parseTarget(const std::string &text)
     return KestCore::SetTarget{value};
 }
 
+// The store is given back while the question stands, so the answer holds only for the very
+// count that was shown.
+Result<bool> confirmReset(const Session &session)
+{
+    const auto current = [&]() -> Result<KestCore::Session> {
+        KEST_TRY(const StateStore store, session.openStore());
+        return store.state().devotional.session;
+    };
+    KEST_TRY(const auto shown, current());
+    if (shown.count == 0) {
+        return true;
+    }
+    if (!Console::confirms(fmt::format("Give up the {} counted?", shown.count))) {
+        return false;
+    }
+    KEST_TRY(const auto now, current());
+    if (!(now == shown)) {
+        return std::unexpected(KestError::invalidData(
+            "The count has changed since the question; nothing was reset"));
+    }
+    return true;
+}
+
 Result<void> runReset(const Session &session, bool isConfirmed)
 {
     if (!isConfirmed && Console::isInteractive()) {
-        KEST_TRY(const StateStore store, session.openStore());
-        const auto count = store.state().devotional.session.count;
-        isConfirmed =
-            count == 0 || Console::confirms(fmt::format("Give up the {} counted?", count));
+        KEST_TRY(isConfirmed, confirmReset(session));
     }
     return runSteps(session, KestCore::ResetSession{isConfirmed}, 1, "nothing to reset");
 }
@@ -162,8 +182,7 @@ void addTarget(CLI::App &program, Session &session, const std::shared_ptr<Argume
         ->required();
     command->callback([=, &session] {
         session.command = [=, &session]() -> Result<void> {
-            KEST_TRY(const auto action, parseTarget(args->target));
-            return runSteps(session, action, 1, "already the target");
+            return runSteps(session, parseTarget(args->target), 1, "already the target");
         };
     });
 }

@@ -73,8 +73,9 @@ Result<void> printRecords(const Session &session, const std::string &kind)
     return session.console.answer(records, [&] {
         std::vector<std::vector<std::string>> rows;
         for (const LocalRecord &record : records) {
-            rows.push_back({record.id, session.console.styled(record.kind, Style::faint),
-                            localTime(record.updated), record.title});
+            rows.push_back({printable(record.id),
+                            session.console.styled(printable(record.kind), Style::faint),
+                            localTime(record.updated), printable(record.title)});
         }
         session.console.table(rows);
         if (rows.empty()) {

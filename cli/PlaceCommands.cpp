@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Base/Text.h"
+#include "KestCore/Devotional/Content.h"
 #include "KestCore/Devotional/Reminders.h"
 #include "KestCore/Prayer/Places.h"
 #include "KestCore/Prayer/PrayerInputs.h"
@@ -9,6 +11,8 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 // place and reminder: where the user is, and when a reminder comes.
@@ -33,6 +37,20 @@ std::string titleOf(const Place &place)
     return place.region.empty()
                ? fmt::format("{}, {}", place.name, place.countryName)
                : fmt::format("{}, {}, {}", place.name, place.region, place.countryName);
+}
+
+// Whether the query is one of the city's names, alone or with more behind it.
+bool isNamedBy(const Place &place, std::string_view query)
+{
+    const std::string wanted = KestCore::normalizeForSearch(query);
+    std::vector<std::string_view> names = Base::split(place.otherNames, ',');
+    names.insert(names.end(), {place.name, place.asciiName});
+    return std::ranges::any_of(names, [&](std::string_view name) {
+        const std::string form = KestCore::normalizeForSearch(name);
+        return !form.empty() && wanted.starts_with(form) &&
+               (wanted.size() == form.size() || wanted[form.size()] == ' ' ||
+                wanted[form.size()] == ',');
+    });
 }
 
 Result<void> runSearch(const Session &session, const std::vector<std::string> &words)
@@ -75,10 +93,19 @@ Result<Settings> settingsOf(const Arguments &args)
         KEST_TRY([[maybe_unused]] const auto inputs, KestCore::prayerInputs(settings));
         return settings;
     }
-    const auto found = KestCore::searchPlaces(joined(args.words), 1);
+    const std::string query = joined(args.words);
+    const auto found = KestCore::searchPlaces(query, 4);
     if (found.empty()) {
-        return std::unexpected(KestError::invalidData(
-            fmt::format("No city is called \"{}\"", joined(args.words))));
+        return std::unexpected(
+            KestError::invalidData(fmt::format("No city is called \"{}\"", query)));
+    }
+    // A slip of the finger must not move anybody's prayers to another city.
+    if (found.size() > 1 && !isNamedBy(*found.front(), query)) {
+        std::vector<std::string> titles;
+        std::ranges::transform(found, std::back_inserter(titles),
+                               [](const Place *place) { return titleOf(*place); });
+        return std::unexpected(KestError::invalidData(fmt::format(
+            "\"{}\" may be {}; write the city's whole name", query, fmt::join(titles, "; "))));
     }
     return KestCore::settingsFor(*found.front());
 }
@@ -98,7 +125,7 @@ Result<void> runSet(const Session &session, const Arguments &args)
     }));
     return session.console.answer(place, [&] {
         for (const auto &[key, value] : place) {
-            session.console.line(key + " = " + value);
+            session.console.line(fmt::format("{} = {}", key, value));
         }
     });
 }
@@ -112,13 +139,18 @@ Result<void> runNextReminder(const Session &session, const std::string &afterTex
     KEST_TRY(const auto store, session.openStore());
     const auto next = KestCore::nextReminder(after, store.state().devotional.preferences,
                                              KestCore::Calendar::ofHost());
+    const bool isOn = store.state().devotional.preferences.reminderEnabled;
     ReminderAnswer answer;
     if (next) {
         KEST_TRY(answer.next.value, Base::toIso8601(*next));
     }
     return session.console.answer(answer, [&] {
-        session.console.line(next ? localTime(Base::milliseconds1970(*next))
-                                  : std::string{"No reminder is due in the next eight days."});
+        if (next) {
+            session.console.line(localTime(Base::milliseconds1970(*next)));
+        } else {
+            session.console.line(isOn ? "No reminder is due in the next eight days."
+                                      : "Reminders are off.");
+        }
     });
 }
 
@@ -137,8 +169,12 @@ void addPlaceSet(CLI::App *place, Session &session, const std::shared_ptr<Argume
     add("--longitude", "prayer.longitude", "Degrees, east positive");
     add("--timezone", "prayer.timezone", "Such as Africa/Cairo");
     add("--country", "prayer.country", "Two letters, for the automatic method");
-    set->callback(
-        [=, &session] { session.command = [=, &session] { return runSet(session, *args); }; });
+    set->callback([=, &session] {
+        if (args->words.empty() && args->given.size() < 3) {
+            throw CLI::RequiredError("CITY, or --latitude, --longitude and --timezone");
+        }
+        session.command = [=, &session] { return runSet(session, *args); };
+    });
 }
 
 } // namespace
@@ -153,6 +189,9 @@ void addPlaceCommands(CLI::App &program, Session &session)
     addPlaceSet(place, session, args);
     place->callback([=, &session] {
         if (place->get_subcommands().empty()) {
+            if (words->empty()) {
+                throw CLI::RequiredError("SEARCH");
+            }
             session.command = [=, &session] { return runSearch(session, *words); };
         }
     });

@@ -3,8 +3,7 @@
 #include "cli/PrayerAnswers.h"
 
 #include "Base/JsonWriter.h"
-
-#include <fmt/format.h>
+#include "cli/PrayerText.h"
 
 template Base::Result<std::string> Base::json::encode(const Cli::PrayerAnswer &);
 template Base::Result<std::string> Base::json::encode(const std::vector<Cli::DayAnswer> &);
@@ -46,9 +45,7 @@ Result<DayAnswer> dayAnswer(const KestCore::PrayerDay &day)
 {
     const auto islamic = KestCore::PrayerCalculator::islamicDate(day.date);
     DayAnswer answer{
-        .date = fmt::format("{:04}-{:02}-{:02}", static_cast<int>(day.date.year()),
-                            static_cast<unsigned>(day.date.month()),
-                            static_cast<unsigned>(day.date.day())),
+        .date = isoDateText(day.date),
         .islamicDate = {.day = islamic.day, .month = islamic.month, .year = islamic.year}};
     if (day.times) {
         KEST_TRY(answer.times.value, timesAnswer(*day.times));

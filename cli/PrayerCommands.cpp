@@ -10,7 +10,6 @@
 #include <fmt/format.h>
 
 #include <array>
-#include <charconv>
 #include <memory>
 
 // prayer, prayer month and qibla.
@@ -30,31 +29,23 @@ constexpr std::string_view kNote = "Calculated prayer time. Check your local tim
 struct Arguments {
     // The options that stand in for a setting, by the setting's name.
     std::map<std::string, std::string> overrides{};
-    std::string date{};
-    int days = 1;
-    int year{};
-    unsigned month{};
+    std::optional<std::string> date{};
+    std::optional<int> days{};
+    std::optional<int> year{};
+    std::optional<unsigned> month{};
     bool isCsv = false;
     bool isIcs = false;
 };
 
 Result<LocalDate> parseDate(const std::string &text)
 {
-    int year = 0;
-    unsigned month = 0;
-    unsigned day = 0;
-    int end = 0;
-    const bool isDate =
-        std::sscanf(text.c_str(), "%4d-%2u-%2u%n", &year, &month, &day, &end) == 3 &&
-        static_cast<std::size_t>(end) == text.size() && text.size() == 10;
-    if (!isDate) {
+    const auto midnight = Base::fromIso8601(text + "T00:00:00Z");
+    if (!midnight) {
         return std::unexpected(
             KestError::invalidData("Write a date as year-month-day, such as 2026-11-21"));
     }
-    const LocalDate date{std::chrono::year{year}, std::chrono::month{month},
-                         std::chrono::day{day}};
-    KEST_CHECK(PrayerCalculator::checkDate(date));
-    return date;
+    return LocalDate{std::chrono::floor<std::chrono::days>(
+        std::chrono::floor<std::chrono::seconds>(*midnight))};
 }
 
 // The stored settings with the options over them.
@@ -117,8 +108,10 @@ void printDay(const Console &console, const PrayerInputs &inputs, const PrayerDa
               const std::optional<KestCore::NextPrayer> &next)
 {
     if (!day.times) {
-        console.line("The Sun does not rise or set here on this date, so there are no times "
-                     "to calculate. Follow your local authority.");
+        console.line(
+            "There are no times to calculate for this date here: the Sun does not rise "
+            "or set as usual, or the place skipped the date. Follow your local "
+            "authority.");
         return;
     }
     std::vector<std::vector<std::string>> rows;
@@ -159,10 +152,14 @@ Result<void> runPrayer(const Session &session, const Arguments &args)
     KEST_TRY(const auto inputs, inputsFor(session, args));
     const Base::Instant now = Base::wallClock();
     LocalDate first = PrayerCalculator::today(inputs, now);
-    if (!args.date.empty()) {
-        KEST_TRY(first, parseDate(args.date));
+    if (args.date) {
+        KEST_TRY(first, parseDate(*args.date));
     }
-    const auto days = PrayerCalculator::days(inputs, first, args.days);
+    const int count = args.days.value_or(1);
+    KEST_CHECK(PrayerCalculator::checkDate(first));
+    KEST_CHECK(PrayerCalculator::checkDate(std::chrono::sys_days{first} +
+                                           std::chrono::days{count - 1}));
+    const auto days = PrayerCalculator::days(inputs, first, count);
     if (!session.console.isJson) {
         printPeople(session.console, inputs, days, now);
         return {};
@@ -182,12 +179,20 @@ Result<void> runPrayer(const Session &session, const Arguments &args)
 
 Result<void> runMonth(const Session &session, const Arguments &args)
 {
+    if (args.date || args.days) {
+        return std::unexpected(
+            KestError::invalidData("--date and --days do not go with prayer month"));
+    }
+    if (session.console.isJson && (args.isCsv || args.isIcs)) {
+        return std::unexpected(
+            KestError::invalidData("--json does not go with --csv and --ics"));
+    }
     KEST_TRY(const auto inputs, inputsFor(session, args));
     const Base::Instant now = Base::wallClock();
     const LocalDate today = PrayerCalculator::today(inputs, now);
-    const std::chrono::year year = args.year == 0 ? today.year() : std::chrono::year{args.year};
+    const std::chrono::year year = args.year ? std::chrono::year{*args.year} : today.year();
     const std::chrono::month month =
-        args.month == 0 ? today.month() : std::chrono::month{args.month};
+        args.month ? std::chrono::month{*args.month} : today.month();
     const LocalDate first{year, month, std::chrono::day{1}};
     KEST_CHECK(PrayerCalculator::checkDate(first));
     const LocalDate last{year / month / std::chrono::last};
@@ -257,7 +262,8 @@ void addPrayerCommands(CLI::App &program, Session &session)
     });
 
     CLI::App *month = prayer->add_subcommand("month", "Shows a month's timetable");
-    month->add_option("--year", args->year, "1900 to 2200");
+    month->add_option("--year", args->year, "1900 to 2200")
+        ->check(CLI::Range(PrayerCalculator::kFirstYear, PrayerCalculator::kLastYear));
     month->add_option("--month", args->month, "1 to 12")->check(CLI::Range(1, 12));
     CLI::Option *csv = month->add_flag("--csv", args->isCsv, "Comma-separated values");
     month->add_flag("--ics", args->isIcs, "An iCalendar file")->excludes(csv);

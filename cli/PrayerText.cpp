@@ -31,12 +31,6 @@ constexpr std::array<std::string_view, 12> kIslamicMonths{
     "Muharram", "Safar",  "Rabi al-Awwal", "Rabi al-Thani", "Jumada al-Ula", "Jumada al-Akhira",
     "Rajab",    "Shaban", "Ramadan",       "Shawwal",       "Dhu al-Qada",   "Dhu al-Hijja"};
 
-std::string isoDate(LocalDate date)
-{
-    return fmt::format("{:04}-{:02}-{:02}", static_cast<int>(date.year()),
-                       static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
-}
-
 // 20261121T051200Z
 std::string icsInstant(Base::Instant instant)
 {
@@ -53,7 +47,7 @@ std::string event(LocalDate date, Prayer prayer, Base::Instant at, Base::Instant
 {
     return fmt::format("BEGIN:VEVENT\r\nUID:{}-{}@velvetnook\r\nDTSTAMP:{}\r\nDTSTART:{}\r\n"
                        "DURATION:PT0S\r\nSUMMARY:{}\r\nTRANSP:TRANSPARENT\r\nEND:VEVENT\r\n",
-                       isoDate(date), Base::textOf(prayer), icsInstant(now), icsInstant(at),
+                       isoDateText(date), Base::textOf(prayer), icsInstant(now), icsInstant(at),
                        nameOf(prayer));
 }
 
@@ -76,6 +70,12 @@ std::string clockText(const KestCore::Calendar &calendar, std::optional<Base::In
     }
     const auto local = calendar.at(*instant);
     return fmt::format("{:02}:{:02}", local.hour, local.minute);
+}
+
+std::string isoDateText(LocalDate date)
+{
+    return fmt::format("{:04}-{:02}-{:02}", static_cast<int>(date.year()),
+                       static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
 }
 
 std::string dateText(LocalDate date)
@@ -107,7 +107,7 @@ std::string csvText(const KestCore::Calendar &calendar, const std::vector<Prayer
     std::string text = "date,islamic date,fajr,sunrise,dhuhr,asr,maghrib,isha\n";
     for (const PrayerDay &day : days) {
         const auto islamic = KestCore::PrayerCalculator::islamicDate(day.date);
-        text += fmt::format("{},{:04}-{:02}-{:02}", isoDate(day.date), islamic.year,
+        text += fmt::format("{},{:04}-{:02}-{:02}", isoDateText(day.date), islamic.year,
                             islamic.month, islamic.day);
         forEachTime(day, [&](Prayer, std::optional<Base::Instant> at) {
             text += "," + (at ? clockText(calendar, at) : std::string{});

@@ -18,6 +18,9 @@ std::string_view nameOf(PrayerCore::Prayer prayer);
 // "05:12" on the clock of the place; "--:--" for a time that the day does not have.
 std::string clockText(const KestCore::Calendar &calendar, std::optional<Base::Instant> instant);
 
+// "2026-11-21"
+std::string isoDateText(KestCore::LocalDate date);
+
 // "Saturday 21 November 2026", "11 Jumada al-Akhira 1448" and "in 1 h 12 min".
 std::string dateText(KestCore::LocalDate date);
 std::string islamicDateText(KestCore::LocalDate date);
@@ -27,7 +30,8 @@ std::string countdownText(Base::Seconds left);
 std::string csvText(const KestCore::Calendar &calendar,
                     const std::vector<KestCore::PrayerDay> &days);
 
-// An iCalendar file with one event a time. Lines end and fold as RFC 5545 wants them.
+// An iCalendar file with one event a time. Lines end as RFC 5545 wants them, and are
+// all shorter than the length from which it wants them folded.
 std::string icsText(const std::vector<KestCore::PrayerDay> &days, Base::Instant now);
 
 } // namespace Cli

@@ -20,7 +20,8 @@ Result<void> printAll(const Console &console, const Settings &settings)
 {
     return console.answer(settings, [&] {
         for (const auto &[key, value] : settings) {
-            console.line(fmt::format("{} = {}", console.styled(key, Style::strong), value));
+            console.line(fmt::format("{} = {}", console.styled(printable(key), Style::strong),
+                                     printable(value)));
         }
         if (settings.empty()) {
             console.line("No settings are set; every tool uses its defaults.");

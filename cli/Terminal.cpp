@@ -6,6 +6,9 @@
 
 #include <curses.h>
 
+#include <term.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <cwchar>
@@ -49,6 +52,12 @@ attr_t attributesOf(Terminal::Ink ink)
 }
 
 } // namespace
+
+bool Terminal::isKnown()
+{
+    int found = 0;
+    return setupterm(nullptr, STDOUT_FILENO, &found) == OK;
+}
 
 Terminal::Terminal()
 {

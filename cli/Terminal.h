@@ -16,6 +16,9 @@ class Terminal
 public:
     enum class Ink : std::uint8_t { plain, strong, faint, accent };
 
+    // Whether this kind of terminal is known; making one of another kind ends the program.
+    static bool isKnown();
+
     Terminal();
     ~Terminal();
     Terminal(const Terminal &) = delete;

@@ -84,8 +84,8 @@ public:
             if (key) {
                 press(terminal, *key);
             } else if (m_store) {
+                m_store.reset(); // closing it changes the files too
                 m_seen = stamp();
-                m_store.reset();
             } else if (stamp() != m_seen) {
                 look();
             }
@@ -123,11 +123,9 @@ private:
 
     void look()
     {
-        m_message.clear();
         if (const auto taken = takeStore(); !taken) {
             m_message = taken.error().message;
         }
-        m_seen = stamp();
     }
 
     void act(const CountAction &action)
@@ -226,6 +224,10 @@ Result<void> runTerminalCounter(Session &session)
     if (!Console::isInteractive()) {
         return std::unexpected(KestError::unavailable(
             "The counter needs a terminal; kest count works without one"));
+    }
+    if (!Terminal::isKnown()) {
+        return std::unexpected(
+            KestError::unavailable("This kind of terminal (TERM) is not known here"));
     }
     return TerminalCounter{session}.run();
 }

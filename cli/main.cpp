@@ -4,9 +4,12 @@
 
 #include <CLI/CLI.hpp>
 
+#include <fcntl.h>
+
 #include <clocale>
 #include <cstdio>
 #include <exception>
+#include <tuple>
 
 namespace
 {
@@ -18,8 +21,26 @@ int refuse(const Base::KestError &error)
     return 1;
 }
 
+// A file that is opened while one of the standard three is closed would take its number, and
+// what is printed would land in it.
+void fillStandardDescriptors()
+{
+    for (int descriptor = 0; descriptor <= 2; ++descriptor) {
+        if (fcntl(descriptor, F_GETFD) == -1) {
+            std::ignore = open("/dev/null", O_RDWR);
+        }
+    }
+}
+
+// CLI11 would only say that a command is missing.
+bool namesNoCommand(const CLI::App &program)
+{
+    return program.get_subcommands().empty() && !program.remaining().empty();
+}
+
 int run(int argc, char **argv)
 {
+    fillStandardDescriptors();
     std::setlocale(LC_ALL, "");
     Cli::Session session;
     CLI::App program{"Counts remembrance and keeps what Velvetnook keeps, from the terminal."};
@@ -42,6 +63,14 @@ int run(int argc, char **argv)
 
     try {
         program.parse(argc, argv);
+    } catch (const CLI::RequiredError &error) {
+        if (!namesNoCommand(program)) {
+            program.exit(error);
+            return 2;
+        }
+        std::fprintf(stderr, "kest: there is no command \"%s\"; kest --help lists them\n",
+                     program.remaining().front().c_str());
+        return 2;
     } catch (const CLI::ParseError &error) {
         // Help and version are parse errors of status 0 to the library; the rest is usage.
         return program.exit(error) == 0 ? 0 : 2;

@@ -34,14 +34,6 @@ IdSet idsOf(std::span<const Phrase> phrases)
     return ids;
 }
 
-void replaceAll(std::string &text, std::string_view from, std::string_view to)
-{
-    for (std::size_t at = text.find(from); at != std::string::npos;
-         at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
-
 constexpr std::string_view kPlainAlef = "\u0627";
 
 // Harakat and Quranic marks U+064B to U+065F are D9 8B to D9 9F in UTF-8.
@@ -68,10 +60,10 @@ void removeArabicMarks(std::string &text)
 std::string looseForm(std::string_view text)
 {
     std::string form = normalizeForSearch(text);
-    replaceAll(form, "\u0671", kPlainAlef);
+    Base::replaceAll(form, "\u0671", kPlainAlef);
     for (const std::string_view dropped :
          {"\u02BE", "\u02BF", "\u2018", "\u2019", "'", "`", "-", "\u2013", "\u2014"}) {
-        replaceAll(form, dropped, "");
+        Base::replaceAll(form, dropped, "");
     }
     return form;
 }
@@ -100,7 +92,7 @@ std::string searchableText(const Phrase &phrase)
 
 const Content &contentCatalogue()
 {
-    static const Content kContent = decodeResource<Content>("content", "KestCore/Models");
+    static const auto kContent = decodeResource<Content>("content", "KestCore/Models");
     return kContent;
 }
 
@@ -128,7 +120,7 @@ std::string normalizeForSearch(std::string_view text)
     std::string form = Base::foldCaseAndDiacritics(text);
     removeArabicMarks(form);
     for (const std::string_view alef : {"\u0623", "\u0625", "\u0622"}) {
-        replaceAll(form, alef, kPlainAlef);
+        Base::replaceAll(form, alef, kPlainAlef);
     }
     return form;
 }

@@ -123,14 +123,6 @@ bool isAscii(std::string_view text)
                                [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-void replaceAll(std::string &text, std::string_view from, std::string_view to)
-{
-    for (std::size_t at = text.find(from); at != std::string::npos;
-         at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
-
 // The product's form for searching; for ASCII, which most names are, without asking ICU.
 std::string withoutCaseAndAccents(std::string_view text)
 {
@@ -145,18 +137,18 @@ std::string withoutCaseAndAccents(std::string_view text)
     form = normalizeForSearch(text);
     for (const std::string_view sign :
          {"\u02BB", "\u02BC", "\u02BE", "\u02BF", "\u2018", "\u2019"}) {
-        replaceAll(form, sign, "'");
+        Base::replaceAll(form, sign, "'");
     }
     for (const std::string_view dash : {"\u2010", "\u2013", "\u2014"}) {
-        replaceAll(form, dash, "-");
+        Base::replaceAll(form, dash, "-");
     }
     // In a Turkish session a capital I folds to the dotless one.
-    replaceAll(form, "\u0131", "i");
+    Base::replaceAll(form, "\u0131", "i");
     // Arabic endings that are written either way, and the letters of Persian and Urdu keys.
-    replaceAll(form, "\u0629", "\u0647");
-    replaceAll(form, "\u0649", "\u064A");
-    replaceAll(form, "\u06CC", "\u064A");
-    replaceAll(form, "\u06A9", "\u0643");
+    Base::replaceAll(form, "\u0629", "\u0647");
+    Base::replaceAll(form, "\u0649", "\u064A");
+    Base::replaceAll(form, "\u06CC", "\u064A");
+    Base::replaceAll(form, "\u06A9", "\u0643");
     return form;
 }
 

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <initializer_list>
 #include <memory>
 
@@ -30,20 +31,23 @@ using PrayerCore::PrayerTimes;
 
 constexpr double kSecondsPerDegree = 240; // the Earth turns a degree in four minutes
 
-// The Sun alone: no adjustments and no rounding, so that what is compared is what it does.
-PrayerCore::CalculationParameters unadjusted(PrayerCore::CalculationParameters parameters)
+// Without the user's adjustments, which may put times into any order.
+PrayerCore::CalculationParameters asTheMethodSays(PrayerCore::CalculationParameters parameters)
 {
     parameters.adjustments = {};
-    parameters.methodAdjustments = {};
-    parameters.rounding = PrayerCore::Rounding::none;
     return parameters;
 }
 
 bool isInOrder(const PrayerTimes &times)
 {
-    const Base::Instant asr = times.asr.value_or(times.dhuhr);
-    return times.fajr <= times.sunrise && times.sunrise < times.dhuhr && times.dhuhr <= asr &&
-           asr <= times.maghrib && times.maghrib <= times.isha;
+    return times.fajr <= times.sunrise && times.sunrise < times.dhuhr &&
+           times.dhuhr < times.maghrib && times.maghrib <= times.isha;
+}
+
+// At the edge of the polar night the shadow's formula can give an hour that is no afternoon.
+bool hasAsrOfItsAfternoon(const PrayerTimes &times)
+{
+    return times.asr && *times.asr > times.dhuhr && *times.asr < times.maghrib;
 }
 
 // Two transits follow each other after a day and at most half a minute more or less.
@@ -54,10 +58,14 @@ bool followsAfterADay(const PrayerTimes &today, const PrayerTimes &tomorrow)
     return std::abs((tomorrow.dhuhr - today.dhuhr).count() - kDay) < kSlack;
 }
 
+enum class Fit : std::uint8_t { none, dateOnly, whole };
+
 // Which day of the Sun a local date gets its times from.
 struct SunDay {
     chrono::sys_days day{};
     double eastward{}; // degrees by which the place is moved to compute it
+    Fit fit{};
+    bool hasAsr{};
 };
 
 Coordinates moved(Coordinates place, double eastward)
@@ -85,24 +93,21 @@ PrayerTimes movedBack(PrayerTimes times, const Coordinates &place, double eastwa
     return times;
 }
 
-enum class Fit { none, dateOnly, whole };
-
-Fit fitOf(const PrayerInputs &inputs, const SunDay &candidate, std::int64_t date)
+SunDay examined(const PrayerInputs &inputs, SunDay candidate, std::int64_t date)
 {
     auto days = PrayerDays::from(moved(inputs.coordinates, candidate.eastward), candidate.day,
-                                 unadjusted(inputs.parameters));
+                                 asTheMethodSays(inputs.parameters));
     const auto today = days ? days->next() : std::nullopt;
-    if (!today) {
-        return Fit::none;
-    }
     const Base::Seconds later{candidate.eastward * kSecondsPerDegree};
-    if (inputs.calendar.dayNumber(today->dhuhr + later) != date) {
-        return Fit::none;
+    if (!today || inputs.calendar.dayNumber(today->dhuhr + later) != date) {
+        return candidate;
     }
     const auto tomorrow = days->next();
     const bool isWhole =
         isInOrder(*today) && (!tomorrow || followsAfterADay(*today, *tomorrow));
-    return isWhole ? Fit::whole : Fit::dateOnly;
+    candidate.fit = isWhole ? Fit::whole : Fit::dateOnly;
+    candidate.hasAsr = hasAsrOfItsAfternoon(*today);
+    return candidate;
 }
 
 // Nearly always the day of the same name. Near the 180th meridian the transit can fall on a
@@ -117,13 +122,13 @@ std::optional<SunDay> sunDayOf(const PrayerInputs &inputs, LocalDate date)
     std::optional<SunDay> second;
     for (const double eastward : {0.0, 0.5, -0.5}) {
         for (const int offset : {0, -1, 1}) {
-            const SunDay candidate{.day = day + chrono::days{offset}, .eastward = eastward};
-            const Fit fit = fitOf(inputs, candidate, dayNumber);
-            if (fit == Fit::whole) {
-                return candidate;
+            const SunDay found = examined(
+                inputs, {.day = day + chrono::days{offset}, .eastward = eastward}, dayNumber);
+            if (found.fit == Fit::whole) {
+                return found;
             }
-            if (fit == Fit::dateOnly && !second) {
-                second = candidate;
+            if (found.fit == Fit::dateOnly && !second) {
+                second = found;
             }
         }
     }
@@ -143,6 +148,9 @@ std::optional<PrayerTimes> timesOf(const PrayerInputs &inputs, LocalDate date)
     }
     PrayerTimes local = movedBack(*times, inputs.coordinates, sunDay->eastward);
     local.date = date;
+    if (!sunDay->hasAsr) {
+        local.asr.reset();
+    }
     return local;
 }
 

@@ -3,6 +3,7 @@
 #include "KestCore/Prayer/PrayerFocusPlan.h"
 
 #include <chrono>
+#include <cmath>
 
 namespace KestCore
 {
@@ -60,15 +61,26 @@ std::optional<PrayerFocusPlan> revisedPlan(const PrayerFocusPlan &running,
     if (!prayer || running.deadline <= now) {
         return std::nullopt;
     }
-    for (const PrayerDay &day : PrayerCalculator::comingDays(inputs, now, 2)) {
+    // The occurrence that the plan was made for is the one nearest to its deadline: isha of
+    // yesterday can come after midnight.
+    const std::chrono::sys_days today{PrayerCalculator::today(inputs, now)};
+    std::optional<Base::Instant> nearest;
+    for (const PrayerDay &day :
+         PrayerCalculator::days(inputs, today - std::chrono::days{1}, 3)) {
         const auto at = day.times ? PrayerCore::instantOf(*day.times, *prayer) : std::nullopt;
-        if (!at || *at <= now) {
-            continue;
+        const auto distance = [&](Base::Instant instant) {
+            return std::abs((instant - running.deadline).count());
+        };
+        if (at && (!nearest || distance(*at) < distance(*nearest))) {
+            nearest = at;
         }
-        const auto plan = planFocus({.prayer = *prayer, .at = *at}, running.bufferMinutes, now);
-        return plan && plan->deadline != running.deadline ? std::optional{*plan} : std::nullopt;
     }
-    return std::nullopt;
+    if (!nearest) {
+        return std::nullopt;
+    }
+    const auto plan =
+        planFocus({.prayer = *prayer, .at = *nearest}, running.bufferMinutes, now);
+    return plan && plan->deadline != running.deadline ? std::optional{*plan} : std::nullopt;
 }
 
 } // namespace KestCore

@@ -29,6 +29,8 @@ constexpr const char *kSchema =
     "INDEX IF NOT EXISTS records_kind ON records(kind);";
 constexpr std::string_view kReadCompanion = "SELECT body FROM companion WHERE id=1";
 constexpr std::string_view kReadState = "SELECT body FROM state WHERE id=1";
+constexpr std::string_view kProbeState =
+    "SELECT name FROM sqlite_master WHERE type='table' AND name='state'";
 constexpr std::string_view kReadRecords = "SELECT body FROM records ORDER BY rowid";
 constexpr std::string_view kReadRecord = "SELECT body FROM records WHERE id=CAST(? AS TEXT)";
 constexpr std::string_view kWriteState =
@@ -77,6 +79,10 @@ std::int64_t nextRevision(const NativeState &state)
 Result<std::optional<NativeState>> readState(Base::Database &database)
 {
     std::optional<NativeState> state;
+    KEST_TRY(const auto tables, database.query(kProbeState));
+    if (tables.empty()) {
+        return state;
+    }
     KEST_CHECK(database.forEachRow(kReadState, {}, [&](const auto &row) -> Result<void> {
         KEST_TRY(state, decodeNativeState(row));
         return {};
@@ -127,7 +133,6 @@ Result<StateStore> StateStore::open(const fs::path &file, std::chrono::milliseco
 // used stays exactly as it was found.
 Result<void> StateStore::load(const fs::path &file)
 {
-    KEST_CHECK(m_database.runScript(kSchema));
     KEST_CHECK(refuseNewerFile());
     KEST_TRY(std::optional<NativeState> stored, readState(m_database));
     NativeState next = stored ? *stored : defaultNativeState();
@@ -136,6 +141,7 @@ Result<void> StateStore::load(const fs::path &file)
         next.revision = nextRevision(*stored);
     }
     KEST_CHECK(validate(next));
+    KEST_CHECK(m_database.runScript(kSchema));
     KEST_CHECK(migrateCompanion(m_database, file, stored));
     KEST_CHECK(loadCompanion());
     if (!stored || hasNewTools) {

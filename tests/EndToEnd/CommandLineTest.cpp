@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Base/File.h"
 #include "KestCore/Store/StateStore.h"
 #include "tests/EndToEnd/Program.h"
 #include "tests/TemporaryFolder.h"
@@ -8,6 +9,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <thread>
 
 using testing::EndsWith;
@@ -108,7 +110,9 @@ TEST(CommandLine, RefusesWithAMessageAndChangesNothing)
              Case{{"count", "0"}, kWrongUsage, ""},
              Case{{"count", "x"}, kWrongUsage, ""},
              Case{{"target"}, kWrongUsage, ""},
-             Case{{"dance"}, kWrongUsage, ""},
+             Case{{"dance"},
+                  kWrongUsage,
+                  "kest: there is no command \"dance\"; kest --help lists them\n"},
              Case{{}, kWrongUsage, ""},
              Case{{"show", "--colour"}, kWrongUsage, ""},
          }) {
@@ -159,6 +163,35 @@ TEST(CommandLine, KeepsSettingsAndShowsDocuments)
     EXPECT_EQ(doctor.status, 0) << doctor.out << doctor.err;
     EXPECT_THAT(doctor.out,
                 HasSubstr(R"({"check":"database file","state":"full","detail":"ok"})"));
+}
+
+TEST(CommandLine, StoredTextsCannotDriveTheTerminal)
+{
+    const TemporaryFolder folder;
+    {
+        auto store = *KestCore::StateStore::open(folder.database());
+        std::string id = "\x1b";
+        for (int n = 0; n < 30; ++n) {
+            id += "\u00e9";
+        }
+        ASSERT_TRUE(
+            store.upsertRecord({.id = id + "m", .kind = "free", .title = "a\nb\x1b[2J"}));
+    }
+    const auto records = runKest(folder.path(), {"records"});
+    EXPECT_EQ(records.status, 0) << records.err;
+    EXPECT_FALSE(records.out.contains('\x1b'));
+    EXPECT_EQ(std::ranges::count(records.out, '\n'), 1);
+}
+
+TEST(CommandLine, AClosedOutputHarmsNoFile)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(runKest(folder.path(), {"count"}).status, 0);
+    const std::string command =
+        std::string{KEST_PROGRAM} + " --data-dir " + folder.path().string() + " state >&- 2>&-";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    EXPECT_THAT(Base::readFile(folder.path() / "kest.lock").value_or(""),
+                StartsWith("kest (process "));
 }
 
 TEST(CommandLine, DoctorTellsWhatIsBroken)

@@ -53,7 +53,7 @@ TEST(PrayerCommand, SaysThatTheSunDoesNotRise)
     const Words pole{"prayer",     "--latitude",          "78.2",   "--longitude", "15.6",
                      "--timezone", "Arctic/Longyearbyen", "--date", "2026-12-21"};
     EXPECT_THAT(runKest(folder.path(), pole).out,
-                HasSubstr("The Sun does not rise or set here"));
+                HasSubstr("There are no times to calculate for this date here"));
     Words json{"--json"};
     json.insert(json.end(), pole.begin(), pole.end());
     EXPECT_THAT(runKest(folder.path(), json).out, HasSubstr(R"("times":null,"sunnah":null)"));
@@ -73,8 +73,14 @@ TEST(PrayerCommand, RefusesWhatItCannotCompute)
              Case{{"--method", "other"}, kNeedsLocation},
              Case{{"--date", "1899-12-31"},
                   "kest: Prayer times are known for dates from 1900 to 2200\n"},
-             Case{{"--date", "2026-02-30"},
+             Case{{"--date", "2200-12-31", "--days", "2"},
                   "kest: Prayer times are known for dates from 1900 to 2200\n"},
+             Case{{"--date", "2026-02-30"},
+                  "kest: Write a date as year-month-day, such as 2026-11-21\n"},
+             Case{{"--date", "2026- 1- 1"},
+                  "kest: Write a date as year-month-day, such as 2026-11-21\n"},
+             Case{{"--date", "2026-11-21", "month"},
+                  "kest: --date and --days do not go with prayer month\n"},
              Case{{"--date", "tomorrow"},
                   "kest: Write a date as year-month-day, such as 2026-11-21\n"},
          }) {
@@ -97,6 +103,11 @@ TEST(PlaceCommand, FindsCitiesAndTakesAnyCoordinates)
     EXPECT_EQ(runKest(folder.path(), {"place", "set", "xyzzyx"}).err,
               "kest: No city is called \"xyzzyx\"\n");
     EXPECT_EQ(runKest(folder.path(), {"place", "set", "Paris"}).status, 0);
+    EXPECT_THAT(runKest(folder.path(), {"place", "set", "san"}).err,
+                AllOf(StartsWith("kest: \"san\" may be "), HasSubstr("Santiago")));
+    EXPECT_EQ(runKest(folder.path(), {"place", "set"}).status, 2);
+    EXPECT_EQ(runKest(folder.path(), {"place"}).status, 2);
+    EXPECT_EQ(runKest(folder.path(), {"prayer", "month", "--year", "67562"}).status, 2);
     // A place that is no city leaves nothing of the one before.
     EXPECT_EQ(runKest(folder.path(), {"place", "set", "--latitude", "95", "--longitude", "0",
                                       "--timezone", "UTC"})

@@ -108,6 +108,28 @@ TEST(PrayerCalculator, GivesEveryLocalDateItsOwnTimesAroundTheDateLine)
     }
 }
 
+TEST(PrayerCalculator, ShowsNoAsrOutsideItsAfternoon)
+{
+    int withoutAsr = 0;
+    for (const Settings &settings :
+         {place("69.65", "18.96", "Europe/Oslo"), place("67.86", "20.23", "Europe/Stockholm"),
+          place("68.97", "33.09", "Europe/Moscow"), place("66.5", "25.73", "Europe/Helsinki"),
+          place("-77.85", "166.67", "Antarctica/McMurdo")}) {
+        const auto inputs = *KestCore::prayerInputs(settings);
+        for (const PrayerDay &day :
+             PrayerCalculator::days(inputs, LocalDate{2026y, std::chrono::January, 1d}, 365)) {
+            if (!day.times) {
+                continue;
+            }
+            withoutAsr += day.times->asr ? 0 : 1;
+            const Instant asr = day.times->asr.value_or(day.times->dhuhr + 1min);
+            EXPECT_LE(day.times->dhuhr, asr) << numberOf(day.date);
+            EXPECT_LE(asr, day.times->maghrib + 1min) << numberOf(day.date);
+        }
+    }
+    EXPECT_GT(withoutAsr, 20);
+}
+
 TEST(PrayerCalculator, KeepsToTheLocalDayAcrossClockChangesAndOddZones)
 {
     struct Case {

@@ -57,6 +57,18 @@ TEST(PrayerFocusPlan, IsReviewedOnlyWhenItsDeadlineWouldMove)
     ASSERT_TRUE(revised.has_value());
     EXPECT_EQ(revised->deadline, plan.deadline + 10min);
     EXPECT_EQ(revised->bufferMinutes, plan.bufferMinutes);
+    // Isha of yesterday comes after midnight here, and stays the one that the plan is for.
+    const auto reykjavik =
+        *KestCore::prayerInputs({{"prayer.latitude", "64.15"},
+                                 {"prayer.longitude", "-21.94"},
+                                 {"prayer.timezone", "Atlantic/Reykjavik"},
+                                 {"prayer.highLatitude", "middleOfTheNight"}});
+    const Base::Instant midnight = *Base::fromIso8601("2026-06-20T00:05:00Z");
+    const auto isha = *KestCore::PrayerCalculator::next(reykjavik, midnight);
+    ASSERT_EQ(isha.prayer, Prayer::isha);
+    const Base::Instant evening = midnight - 1h;
+    EXPECT_FALSE(revisedPlan(*planFocus(isha, 5, evening), reykjavik, midnight));
+    EXPECT_FALSE(revisedPlan(*planFocus(isha, 0, evening), reykjavik, evening));
     // A plan that has ended is not asked about any more.
     EXPECT_FALSE(revisedPlan(plan, inputs("10"), plan.deadline));
 }

@@ -154,6 +154,20 @@ TEST(CorruptDatabase, IsRefusedWithSqlitesWords)
     EXPECT_EQ(RawFile::bytes(folder.database()), newer);
 }
 
+TEST(ForeignDatabase, IsNotEvenPrepared)
+{
+    for (
+        const char *sql :
+        {"CREATE TABLE theirs(x); PRAGMA user_version=2;",
+         "CREATE TABLE state(id INTEGER PRIMARY KEY, body BLOB); INSERT INTO state VALUES(1,'x');"}) {
+        const TemporaryFolder folder;
+        RawFile::execute(folder.database(), sql);
+        const std::string before = RawFile::bytes(folder.database());
+        EXPECT_FALSE(StateStore::open(folder.database()).has_value());
+        EXPECT_EQ(RawFile::bytes(folder.database()), before);
+    }
+}
+
 TEST(CorruptRecord, StopsSnapshotsButNotTheCount)
 {
     for (const char *body : {"", "{", R"({"id":"a","kind":"note"})",
