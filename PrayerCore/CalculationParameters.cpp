@@ -74,8 +74,6 @@ consteval bool areInOrder()
 }
 static_assert(areInOrder());
 
-} // namespace
-
 // The document, in which the school is a number.
 struct ParametersDocument {
     CalculationMethod method{};
@@ -91,7 +89,7 @@ struct ParametersDocument {
     PrayerAdjustments methodAdjustments{};
 };
 
-static consteval auto jsonFields(Base::Of<ParametersDocument>)
+consteval auto jsonFields(Base::Of<ParametersDocument>)
 {
     using R = ParametersDocument;
     return std::tuple{
@@ -109,6 +107,8 @@ static consteval auto jsonFields(Base::Of<ParametersDocument>)
     };
 }
 static_assert(json::coversAllMembers<ParametersDocument>());
+
+} // namespace
 
 CalculationParameters parametersOf(CalculationMethod method)
 {
