@@ -202,16 +202,18 @@ Result<void> runMonth(const Session &session, const Arguments &args)
         session.console.text(args.isCsv ? csvText(inputs.calendar, days) : icsText(days, now));
         return {};
     }
-    std::vector<DayAnswer> answers;
-    for (const PrayerDay &day : days) {
-        KEST_TRY(answers.emplace_back(), dayAnswer(day));
+    if (session.console.isJson) {
+        std::vector<DayAnswer> answers;
+        for (const PrayerDay &day : days) {
+            KEST_TRY(answers.emplace_back(), dayAnswer(day));
+        }
+        return session.console.answer(answers, [] {});
     }
-    return session.console.answer(answers, [&] {
-        const std::string title = dateText(first);
-        session.console.line(title.substr(title.find(' ', title.find(' ') + 1) + 1));
-        printTable(session.console, inputs, days);
-        session.console.line(session.console.styled(kNote, Style::faint));
-    });
+    const std::string title = dateText(first);
+    session.console.line(title.substr(title.find(' ', title.find(' ') + 1) + 1));
+    printTable(session.console, inputs, days);
+    session.console.line(session.console.styled(kNote, Style::faint));
+    return {};
 }
 
 Result<void> runQibla(const Session &session, const Arguments &args)

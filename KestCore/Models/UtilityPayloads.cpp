@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Models/UtilityPayloads.h"
 
+#include "Base/Instant.h"
 #include "Base/JsonReader.h"
 #include "Base/JsonWriter.h"
 #include "Base/Text.h"
@@ -9,7 +10,6 @@
 #include "KestCore/Registry/ToolRegistry.h"
 #include "KestCore/Tools/TimerState.h"
 
-#include <chrono>
 #include <cmath>
 
 namespace Base::json
@@ -70,24 +70,9 @@ bool isAbsolutePath(std::string_view path)
 
 bool isDay(std::string_view text)
 {
-    int fields[3] = {};
-    const auto pieces = Base::split(text, '-');
-    if (text.size() != 10 || pieces.size() != 3 || pieces[0].size() != 4 ||
-        pieces[1].size() != 2) {
-        return false;
-    }
-    for (std::size_t at = 0; at < 3; ++at) {
-        for (const char c : pieces[at]) {
-            if (c < '0' || c > '9') {
-                return false;
-            }
-            fields[at] = fields[at] * 10 + (c - '0');
-        }
-    }
-    return std::chrono::year_month_day{std::chrono::year{fields[0]},
-                                       std::chrono::month{static_cast<unsigned>(fields[1])},
-                                       std::chrono::day{static_cast<unsigned>(fields[2])}}
-        .ok();
+    constexpr std::size_t kDateSize = 10;
+    return text.size() == kDateSize &&
+           Base::fromIso8601(std::string{text} + "T00:00:00Z").has_value();
 }
 
 } // namespace

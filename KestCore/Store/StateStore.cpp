@@ -184,6 +184,9 @@ Result<Snapshot> StateStore::snapshot()
 
 Result<bool> StateStore::hasFreshRecords()
 {
+    if (m_recordsVersion.empty()) {
+        return false; // nothing was read, so there is nothing to ask about
+    }
     KEST_TRY(const std::string version, m_database.dataVersion());
     return version == m_recordsVersion;
 }
