@@ -12,8 +12,6 @@
 
 #include <cstdio>
 
-extern char **environ;
-
 namespace Bench
 {
 

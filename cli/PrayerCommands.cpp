@@ -73,7 +73,7 @@ std::string compassPoint(double degrees)
     constexpr std::array<std::string_view, 16> kPoints{"N",  "NNE", "NE", "ENE", "E",  "ESE",
                                                        "SE", "SSE", "S",  "SSW", "SW", "WSW",
                                                        "W",  "WNW", "NW", "NNW"};
-    return std::string{kPoints.at(static_cast<std::size_t>(degrees / 22.5 + 0.5) % 16)};
+    return std::string{kPoints.at(static_cast<std::size_t>(std::lround(degrees / 22.5)) % 16)};
 }
 
 std::vector<std::string> rowOf(const PrayerInputs &inputs, const PrayerDay &day,

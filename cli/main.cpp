@@ -38,6 +38,19 @@ bool namesNoCommand(const CLI::App &program)
     return program.get_subcommands().empty() && !program.remaining().empty();
 }
 
+void addCommands(CLI::App &program, Cli::Session &session)
+{
+    Cli::addCounterCommands(program, session);
+    Cli::addCatalogueCommands(program, session);
+    Cli::addDocumentCommands(program, session);
+    Cli::addSettingsCommand(program, session);
+    Cli::addPrayerCommands(program, session);
+    Cli::addPlaceCommands(program, session);
+    Cli::addReminderCommands(program, session);
+    Cli::addDoctorCommand(program, session);
+    Cli::addCompletionCommands(program, session);
+}
+
 int run(int argc, char **argv)
 {
     fillStandardDescriptors();
@@ -51,15 +64,7 @@ int run(int argc, char **argv)
                        "The folder that holds kest.sqlite (also KEST_DATA_DIR)");
     program.require_subcommand(1);
     program.fallthrough();
-    Cli::addCounterCommands(program, session);
-    Cli::addCatalogueCommands(program, session);
-    Cli::addDocumentCommands(program, session);
-    Cli::addSettingsCommand(program, session);
-    Cli::addPrayerCommands(program, session);
-    Cli::addPlaceCommands(program, session);
-    Cli::addReminderCommands(program, session);
-    Cli::addDoctorCommand(program, session);
-    Cli::addCompletionCommands(program, session);
+    addCommands(program, session);
 
     try {
         program.parse(argc, argv);

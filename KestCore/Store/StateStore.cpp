@@ -33,6 +33,10 @@ constexpr std::string_view kProbeState =
     "SELECT name FROM sqlite_master WHERE type='table' AND name='state'";
 constexpr std::string_view kReadRecords = "SELECT body FROM records ORDER BY rowid";
 constexpr std::string_view kReadRecord = "SELECT body FROM records WHERE id=CAST(? AS TEXT)";
+constexpr std::string_view kReadRecordsOfKind =
+    "SELECT body FROM records WHERE kind=CAST(? AS TEXT) ORDER BY rowid";
+constexpr std::string_view kReadRecordsBetween =
+    "SELECT body FROM records WHERE id>=CAST(? AS TEXT) AND id<CAST(? AS TEXT) ORDER BY rowid";
 constexpr std::string_view kWriteState =
     "INSERT INTO state(id,body) VALUES(1,?) ON CONFLICT(id) DO UPDATE SET body=excluded.body";
 constexpr std::string_view kUpsertRecord =
@@ -301,6 +305,65 @@ Result<Snapshot> StateStore::upsertRecord(const LocalRecord &record)
         [&](RecordList &records) { putRecord(records, record); });
 }
 
+Result<void> StateStore::changeRecords(const RecordChanges &changes)
+{
+    std::vector<std::string> bodies;
+    for (const LocalRecord &record : changes.written) {
+        KEST_CHECK(validate(record));
+        KEST_TRY(std::string body, json::encode(record));
+        bodies.push_back(std::move(body));
+    }
+    const auto write = [&]() -> Result<void> {
+        for (const std::string &id : changes.removed) {
+            KEST_CHECK(m_database.run(kDeleteRecord, {id}));
+        }
+        for (std::size_t i = 0; i < bodies.size(); ++i) {
+            const LocalRecord &record = changes.written[i];
+            KEST_CHECK(m_database.run(kUpsertRecord, {record.id, record.kind, bodies[i]}));
+        }
+        return {};
+    };
+    const auto edit = [&](RecordList &records) {
+        std::erase_if(records, [&](const RecordRef &record) {
+            return std::ranges::find(changes.removed, record->id) != changes.removed.end();
+        });
+        for (const LocalRecord &record : changes.written) {
+            putRecord(records, record);
+        }
+    };
+    return commit(m_state, write, edit, Records::asTheyAre);
+}
+
+Result<std::vector<LocalRecord>>
+StateStore::selectRecords(std::string_view sql, Base::Database::Parameters parameters)
+{
+    std::vector<LocalRecord> records;
+    KEST_CHECK(m_database.forEachRow(sql, parameters, [&](const auto &row) -> Result<void> {
+        KEST_TRY(auto record, decodeLocalRecord(row));
+        records.push_back(std::move(record));
+        return {};
+    }));
+    return records;
+}
+
+Result<std::vector<LocalRecord>> StateStore::recordsOfKind(std::string_view kind)
+{
+    return selectRecords(kReadRecordsOfKind, {kind});
+}
+
+Result<std::vector<LocalRecord>> StateStore::recordsWithIdPrefix(std::string_view prefix)
+{
+    std::string end{prefix};
+    ++end.back();
+    return selectRecords(kReadRecordsBetween, {prefix, end});
+}
+
+Result<std::optional<LocalRecord>> StateStore::record(std::string_view id)
+{
+    KEST_TRY(auto found, selectRecords(kReadRecord, {id}));
+    return found.empty() ? std::nullopt : std::optional{std::move(found.front())};
+}
+
 Result<Snapshot> StateStore::deleteRecord(std::string_view id)
 {
     return commitForSnapshot(
@@ -312,16 +375,15 @@ Result<Snapshot> StateStore::deleteRecord(std::string_view id)
 
 Result<Snapshot> StateStore::updateRecord(std::string_view id, const RecordMutation &mutation)
 {
-    KEST_TRY(const auto rows, m_database.query(kReadRecord, {id}));
-    if (rows.empty()) {
+    KEST_TRY(auto found, record(id));
+    if (!found) {
         return std::unexpected(KestError::invalidData("This item was removed."));
     }
-    KEST_TRY(LocalRecord record, decodeLocalRecord(rows.front()));
-    KEST_CHECK(mutation(record));
-    if (record.id != id) {
+    KEST_CHECK(mutation(*found));
+    if (found->id != id) {
         return std::unexpected(KestError::invalidData("Cannot change an item's identity."));
     }
-    return upsertRecord(record);
+    return upsertRecord(*found);
 }
 
 Result<Snapshot> StateStore::clearHistory()

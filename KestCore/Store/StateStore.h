@@ -10,10 +10,18 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string_view>
+#include <vector>
 
 namespace KestCore
 {
+
+// Records that change together.
+struct RecordChanges {
+    std::vector<LocalRecord> written{}; // new, or in the place of one with the same id
+    std::vector<std::string> removed{}; // ids; one that is not there is no failure
+};
 
 // The only writer of the state database. Has no lock of its own: lives in a
 // Serial<StateStore> or on one thread. Every mutation raises the state's revision by one and
@@ -52,6 +60,16 @@ public:
     [[nodiscard]] Result<Snapshot> updateRecord(std::string_view id,
                                                 const RecordMutation &mutation);
 
+    // All of it in one step, for a caller that needs no snapshot: reads no records.
+    [[nodiscard]] Result<void> changeRecords(const RecordChanges &changes);
+
+    // Some of the records in insertion order, without reading the others: the rows of a
+    // clipboard history can be large.
+    [[nodiscard]] Result<std::vector<LocalRecord>> recordsOfKind(std::string_view kind);
+    // `prefix` is ASCII and not empty.
+    [[nodiscard]] Result<std::vector<LocalRecord>> recordsWithIdPrefix(std::string_view prefix);
+    [[nodiscard]] Result<std::optional<LocalRecord>> record(std::string_view id);
+
     // Forgets finished sessions and the records of use, clipboard and completion.
     [[nodiscard]] Result<Snapshot> clearHistory();
     // Forgets the devotional data, the companion and every record; keeps the settings, the
@@ -80,6 +98,8 @@ private:
                                                      const RecordEdit &edit);
     [[nodiscard]] Result<bool> hasFreshRecords();
     [[nodiscard]] Result<void> readRecords();
+    [[nodiscard]] Result<std::vector<LocalRecord>>
+    selectRecords(std::string_view sql, Base::Database::Parameters parameters);
     Snapshot currentSnapshot() const;
 
     Base::FileLock m_lock; // before the database, so that it is given up after it

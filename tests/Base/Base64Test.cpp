@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
 
+#include <map>
 #include <set>
 
 namespace BaseTests
@@ -68,12 +69,11 @@ TEST(Uuid, IsRandomUpperCaseAndCanonical)
         }
     }
     const std::string_view hex = "0123456789ABCDEF";
+    const std::map<std::size_t, std::string_view> fixed{{8, "-"},  {13, "-"},    {14, "4"},
+                                                        {18, "-"}, {19, "89AB"}, {23, "-"}};
     for (std::size_t at = 0; at < 36; ++at) {
-        const bool isDash = at == 8 || at == 13 || at == 18 || at == 23;
-        const std::string_view expected = isDash     ? "-"
-                                          : at == 14 ? "4"
-                                          : at == 19 ? "89AB"
-                                                     : hex;
+        const auto known = fixed.find(at);
+        const std::string_view expected = known == fixed.end() ? hex : known->second;
         EXPECT_EQ(digitsAt[at], (std::set<char>{expected.begin(), expected.end()})) << at;
     }
 }

@@ -34,16 +34,18 @@ pid_t holdInChild(const std::filesystem::path &file)
     if (child == 0) {
         const auto lock = FileLock::take(file, "The store", milliseconds{0});
         const char word = lock ? 'y' : 'n';
-        (void)!::write(ready[1], &word, 1);
+        if (::write(ready[1], &word, 1) != 1) {
+            ::_exit(1);
+        }
         while (true) {
             ::pause();
         }
     }
     char word = 'n';
-    (void)!::read(ready[0], &word, 1);
+    const bool isTold = ::read(ready[0], &word, 1) == 1;
     ::close(ready[0]);
     ::close(ready[1]);
-    return word == 'y' ? child : -1;
+    return isTold && word == 'y' ? child : -1;
 }
 
 } // namespace
@@ -108,7 +110,7 @@ TEST(File, ReadsWholeFilesAndThoseThatSayTheyAreEmpty)
     const std::string bytes(100'000, '\0');
     std::ofstream{folder.path() / "zeros"} << bytes;
     EXPECT_EQ(Base::readFile(folder.path() / "zeros").value(), bytes);
-    std::ofstream{folder.path() / "nothing"};
+    std::ofstream{folder.path() / "nothing"} << "";
     EXPECT_EQ(Base::readFile(folder.path() / "nothing").value(), "");
     EXPECT_GT(Base::readFile("/proc/self/status").value().size(), 200U);
     EXPECT_EQ(Base::readFile(folder.path()).error().message,

@@ -27,8 +27,11 @@ protected:
         std::ofstream{m_folder.path() / "Plain.bundle"} << "a file, not a folder";
         ::setenv("KEST_RESOURCES", m_folder.path().c_str(), 1);
     }
+
+public:
     ~ResourceBundleTest() override { ::unsetenv("KEST_RESOURCES"); }
 
+protected:
     const TemporaryFolder m_folder;
 };
 using ResourceBundleDeathTest = ResourceBundleTest;

@@ -49,7 +49,7 @@ TEST(Serial, KeepsTheOrderOfWhatWaits)
 {
     std::promise<void> gate;
     Serial<std::vector<int>> serial{{}};
-    auto first = serial.ask([opened = gate.get_future()](auto &) { opened.wait(); });
+    (void)serial.ask([opened = gate.get_future()](auto &) { opened.wait(); });
     for (int i = 0; i < 100; ++i) {
         (void)serial.ask([i](std::vector<int> &seen) { seen.push_back(i); });
     }
@@ -64,11 +64,11 @@ TEST(Serial, RunsAllThatItAcceptedBeforeItGoes)
     std::atomic<int> ran = 0;
     std::promise<void> gate;
     std::optional<Serial<int>> serial{std::in_place, 0};
-    auto first = serial->ask([opened = gate.get_future()](int &) { opened.wait(); });
+    (void)serial->ask([opened = gate.get_future()](int &) { opened.wait(); });
     for (int i = 0; i < 100; ++i) {
         (void)serial->ask([&ran](int &) { ++ran; });
     }
-    std::jthread opener{[&gate] { gate.set_value(); }};
+    const std::jthread opener{[&gate] { gate.set_value(); }};
     serial.reset();
     EXPECT_EQ(ran, 100);
 }

@@ -20,8 +20,6 @@
 #include <optional>
 #include <random>
 
-extern char **environ;
-
 namespace
 {
 
@@ -61,10 +59,10 @@ std::optional<Victim> startVictim(const std::filesystem::path &database)
 }
 
 // Reads on until there are so many lines, or the other end is closed.
-void readLines(int descriptor, std::ptrdiff_t wanted, std::string &text)
+void readLines(int descriptor, std::size_t wanted, std::string &text)
 {
     std::array<char, 4096> piece{};
-    while (std::ranges::count(text, '\n') < wanted) {
+    while (static_cast<std::size_t>(std::ranges::count(text, '\n')) < wanted) {
         const ssize_t size = read(descriptor, piece.data(), piece.size());
         if (size <= 0) {
             return;
@@ -159,7 +157,7 @@ KillReport runKillRounds(const std::filesystem::path &database, int rounds, std:
             report.failure = "the victim ended by itself";
             return report;
         }
-        readLines(victim->answers.get(), std::numeric_limits<std::ptrdiff_t>::max(), answers);
+        readLines(victim->answers.get(), std::numeric_limits<std::size_t>::max(), answers);
         const auto acknowledged = lastTally(answers);
         report.killedWhileOpening += acknowledged ? 0 : 1;
         report.acknowledged += acknowledged ? acknowledged->revision - known.revision : 0;

@@ -11,8 +11,6 @@
 
 #include <stdexcept>
 
-extern char **environ;
-
 Outcome runKest(const std::filesystem::path &folder, std::vector<std::string> arguments)
 {
     // Outputs go through files, so that neither can fill up while the other is read.

@@ -213,9 +213,10 @@ TEST(Catalogue, LinksToTheSourceThatItNames)
     const std::regex link{R"((\d+)[a-z]?(/(\d+)(-(\d+))?)?)"};
     for (const Phrase &phrase : allPhrases()) {
         SCOPED_TRACE(phrase.id + ": " + phrase.source);
-        const auto at = std::ranges::find_if(kCollections, [&](const Collection &collection) {
-            return phrase.source.starts_with(std::string{collection.name} + " ");
-        });
+        const auto *const at =
+            std::ranges::find_if(kCollections, [&](const Collection &collection) {
+                return phrase.source.starts_with(std::string{collection.name} + " ");
+            });
         ASSERT_NE(at, kCollections.end());
         ASSERT_TRUE(phrase.sourceUrl.value().starts_with(at->address));
         std::smatch named;

@@ -10,7 +10,9 @@
 namespace KestCore
 {
 
-static void PrintTo(const EdgeFrames &frames, std::ostream *out)
+// gtest finds it by this name.
+// NOLINTNEXTLINE(misc-use-internal-linkage,readability-identifier-naming)
+void PrintTo(const EdgeFrames &frames, std::ostream *out)
 {
     const auto print = [&](const Rect &r) {
         *out << "[" << r.x << " " << r.y << " " << r.width << " " << r.height << "] ";

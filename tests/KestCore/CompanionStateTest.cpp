@@ -114,7 +114,7 @@ TEST(CompanionState, RefusesAndMendsTheSameFaults)
     const DockItem unknown{.kind = DockItemKind::tool, .target = "x"};
     const Case cases[] = {
         {"item", [&](State &s) { s.workspaces[0].items.push_back(unknown); }},
-        {"widget", [](State &s) { s.workspaces[2].homeWidgets.push_back("x"); }},
+        {"widget", [](State &s) { s.workspaces[2].homeWidgets.emplace_back("x"); }},
         {"summons", [](State &s) { s.shortcuts.push_back({"x", "nothing", 1, {}}); }},
         {"twice", [](State &s) { s.workspaces.push_back({.id = "faith", .name = "2"}); }},
         {"selection", [](State &s) { s.selectedWorkspaceID = "gone"; }},

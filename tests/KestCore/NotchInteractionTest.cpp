@@ -16,7 +16,9 @@
 namespace KestCore
 {
 
-static void PrintTo(const NotchInteraction &notch, std::ostream *out)
+// gtest finds it by this name.
+// NOLINTNEXTLINE(misc-use-internal-linkage,readability-identifier-naming)
+void PrintTo(const NotchInteraction &notch, std::ostream *out)
 {
     *out << Base::textOf(notch.state) << " deadline "
          << (notch.deadline ? std::to_string(*notch.deadline) : "none")

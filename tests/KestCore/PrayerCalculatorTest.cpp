@@ -292,7 +292,7 @@ TEST(PrayerInputs, FailWithOneMessage)
              {"prayer.method", "other"},
              {"prayer.method", "Karachi"},
          }) {
-        SCOPED_TRACE(key + " = " + value);
+        SCOPED_TRACE(testing::Message() << key << " = " << value);
         const auto inputs = KestCore::prayerInputs(with(kCairo, {{key, value}}));
         ASSERT_FALSE(inputs.has_value());
         EXPECT_EQ(inputs.error(), Base::KestError::unavailable(

@@ -35,8 +35,11 @@ protected:
         std::filesystem::copy(program / kBundle, m_folder.path() / kBundle);
         ::setenv("KEST_RESOURCES", m_folder.path().c_str(), 1);
     }
+
+public:
     ~ResourceFaultDeathTest() override { ::unsetenv("KEST_RESOURCES"); }
 
+protected:
     void breakResource(const std::string &name, std::string_view bytes) const
     {
         std::ofstream{m_folder.path() / kBundle / name} << bytes;

@@ -22,7 +22,7 @@ TEST(Methods, HaveTheirOwnAnglesAndMinutes)
         Rounding rounding;
         int sunriseMinutes, dhuhrMinutes, asrMinutes, maghribMinutes;
     };
-    constexpr auto nearest = Rounding::nearest;
+    const auto nearest = Rounding::nearest;
     const std::optional<double> none;
     for (const auto &row : {
              Case{"muslimWorldLeague", 18, 17, 0, none, nearest, 0, 1, 0, 0},

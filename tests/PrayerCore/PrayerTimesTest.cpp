@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <limits>
 
 namespace PrayerCoreTests
@@ -65,12 +66,12 @@ TEST(PrayerTimes, AreRefusedWithoutAPlaceADayOrAngles)
     EXPECT_FALSE(prayerTimes(kLondon, 2026y / 2 / 29, usual));
     EXPECT_FALSE(prayerTimes(kLondon, 10000y / 1 / 1, usual));
     for (const double angle : {kNaN, std::numeric_limits<double>::infinity(), 90.5, -91.0}) {
-        for (int which = 0; which < 3; ++which) {
-            auto wrong = usual;
-            (which == 0   ? wrong.fajrAngle
-             : which == 1 ? wrong.ishaAngle
-                          : wrong.maghribAngle.emplace()) = angle;
-            EXPECT_FALSE(prayerTimes(kLondon, 2026y / 1 / 1, wrong)) << angle << which;
+        std::array<CalculationParameters, 3> wrong{usual, usual, usual};
+        wrong[0].fajrAngle = angle;
+        wrong[1].ishaAngle = angle;
+        wrong[2].maghribAngle = angle;
+        for (const CalculationParameters &parameters : wrong) {
+            EXPECT_FALSE(prayerTimes(kLondon, 2026y / 1 / 1, parameters)) << angle;
         }
     }
     auto last = PrayerDays::from(kLondon, 9999y / 12 / 31, usual);

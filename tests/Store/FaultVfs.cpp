@@ -19,11 +19,15 @@ std::atomic<bool> struck{false};
 
 bool strikes(FaultVfs::Fault fault)
 {
-    if (armedFault != fault || callsLeft == 0 || --callsLeft != 0) {
+    if (armedFault != fault || callsLeft == 0) {
         return false;
     }
-    struck = true;
-    return true;
+    --callsLeft;
+    if (callsLeft == 0) {
+        struck = true;
+        return true;
+    }
+    return false;
 }
 
 // SQLite allocates this and, behind it, the real layer's file.

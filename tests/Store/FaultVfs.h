@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 // A file layer under SQLite that fails on demand. While an object of this class lives, every
@@ -9,7 +10,7 @@
 class FaultVfs
 {
 public:
-    enum class Fault {
+    enum class Fault : std::uint8_t {
         diskFull,    // a write finds no room
         writeFailed, // a write fails
         syncFailed,  // the disk does not confirm

@@ -71,7 +71,7 @@ TEST(CorruptState, IsRefusedAndTheFileStaysAsItWas)
                            "{\"x\":" + std::string(100'000, '[') + std::string(100'000, ']') +
                                ","),
                   native},
-             Case{"a text for a number", replaced(good, "\"version\":3", "\"version\":\"3\""),
+             Case{"a text for a number", replaced(good, "\"version\":3", R"("version":"3")"),
                   native},
              Case{"a number that does not fit",
                   replaced(good, "\"revision\":0", "\"revision\":9223372036854775808"), native},
@@ -82,7 +82,7 @@ TEST(CorruptState, IsRefusedAndTheFileStaysAsItWas)
                   replaced(good, "\"reminderInterval\":60", "\"reminderInterval\":0"),
                   kDevotionalMessage},
              Case{"an unknown word",
-                  replaced(good, "\"textSize\":\"medium\"", "\"textSize\":\"huge\""),
+                  replaced(good, R"("textSize":"medium")", R"("textSize":"huge")"),
                   kDevotionalMessage},
          }) {
         SCOPED_TRACE(name);
@@ -99,7 +99,8 @@ TEST(CorruptState, SurvivesAnyFlippedBit)
     int refused = 0;
     for (int round = 0; round < 300; ++round) {
         std::string body = good;
-        body[random() % body.size()] ^= static_cast<char>(1 << (random() % 8));
+        char &byte = body[random() % body.size()];
+        byte = static_cast<char>(static_cast<unsigned char>(byte) ^ (1U << (random() % 8)));
         RawFile::setBody(folder.database(), "state", body);
         const std::string before = RawFile::dump(folder.database());
         const auto store = StateStore::open(folder.database());
@@ -170,10 +171,10 @@ TEST(ForeignDatabase, IsNotEvenPrepared)
 
 TEST(CorruptRecord, StopsSnapshotsButNotTheCount)
 {
-    for (const char *body : {"", "{", R"({"id":"a","kind":"note"})",
-                             R"({"id":1,"kind":"note","title":"","body":"",)"
-                             R"("updated":0,"extra":{}})",
-                             "\xff\xff"}) {
+    for (const char *body :
+         {"", "{", R"({"id":"a","kind":"note"})",
+          R"({"id":1,"kind":"note","title":"","body":"","updated":0,"extra":{}})",
+          "\xff\xff"}) {
         SCOPED_TRACE(body);
         const TemporaryFolder folder;
         auto store = *StateStore::open(folder.database());

@@ -114,7 +114,7 @@ TEST(Store, RefusedMutationsChangeNothing)
               own);
     EXPECT_EQ(store
                   .update([](NativeState &state) -> Result<void> {
-                      state.enabled.push_back("nothing");
+                      state.enabled.emplace_back("nothing");
                       return {};
                   })
                   .error(),
@@ -172,6 +172,33 @@ TEST(Store, RecordsKeepTheirPlaceAndTheirIdentity)
     // Deleting what is not there is a change like any other.
     const auto before = store.state().revision;
     EXPECT_EQ(store.deleteRecord("b")->state.revision, before + 1);
+}
+
+TEST(Store, RecordsChangeTogetherAndAreReadApart)
+{
+    const TemporaryFolder folder;
+    auto store = *StateStore::open(folder.database());
+    const auto link = record("l", "link", R"({"url":"https://a"})");
+    ASSERT_TRUE(store.changeRecords({.written = {note("p:1"), link, note("p:2"), note("q")}}));
+    const std::vector<LocalRecord> ofPrefix{note("p:1"), note("p:2")};
+    EXPECT_EQ(store.recordsWithIdPrefix("p:"), ofPrefix);
+    EXPECT_EQ(store.recordsOfKind("link"), std::vector{link});
+    EXPECT_EQ(store.record("q").value(), note("q"));
+    EXPECT_EQ(store.record("Q").value(), std::nullopt);
+
+    ASSERT_EQ(idsOf(*store.snapshot()), (Ids{"p:1", "l", "p:2", "q"}));
+    const auto moved = record("p:2", "link", R"({"url":"https://b"})");
+    ASSERT_TRUE(store.changeRecords({.written = {note("r"), moved}, .removed = {"l", "gone"}}));
+    EXPECT_EQ(idsOf(*store.snapshot()), (Ids{"p:1", "p:2", "q", "r"}));
+    EXPECT_EQ(store.recordsOfKind("link"), std::vector{moved});
+    EXPECT_EQ(store.state().revision, 2);
+
+    const std::string before = RawFile::dump(folder.database());
+    const auto refused = store.changeRecords(
+        {.written = {note("s"), record("t", "timer", "{}")}, .removed = {"q"}});
+    EXPECT_EQ(refused.error(), KestError::invalidData("Invalid timer"));
+    EXPECT_EQ(RawFile::dump(folder.database()), before);
+    EXPECT_EQ(idsOf(*store.snapshot()), (Ids{"p:1", "p:2", "q", "r"}));
 }
 
 TEST(Store, SnapshotsSeeWhatAnotherConnectionWrote)
