@@ -6,7 +6,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 
 namespace Base
 {
@@ -18,15 +20,19 @@ std::error_code lastError() { return {errno, std::generic_category()}; }
 
 } // namespace
 
-Result<std::string> readFile(const std::filesystem::path &file)
+Result<std::string> readFile(const std::filesystem::path &file, std::size_t limit)
 {
+    constexpr std::size_t kRoomBehind = 64;
     const FileDescriptor descriptor{::open(file.c_str(), O_RDONLY | O_CLOEXEC)};
     struct stat info{};
     if (!descriptor.isOpen() || fstat(descriptor.get(), &info) != 0) {
         return std::unexpected(fileError(file, lastError()));
     }
     // The size is only a hint: a file of /proc says 0, and a growing one says too little.
-    std::string bytes(static_cast<std::size_t>(info.st_size) + 1, '\0');
+    const auto hint = std::min(static_cast<std::size_t>(info.st_size), limit) + 1;
+    std::string bytes;
+    bytes.reserve(hint + kRoomBehind);
+    bytes.resize(hint);
     std::size_t size = 0;
     while (true) {
         const ssize_t got = ::read(descriptor.get(), bytes.data() + size, bytes.size() - size);
@@ -40,8 +46,11 @@ Result<std::string> readFile(const std::filesystem::path &file)
             break;
         }
         size += static_cast<std::size_t>(got);
+        if (size > limit) {
+            break;
+        }
         if (size == bytes.size()) {
-            bytes.resize(bytes.size() * 2);
+            bytes.resize(std::min(bytes.size() * 2, limit + 1));
         }
     }
     bytes.resize(size);
@@ -51,6 +60,57 @@ Result<std::string> readFile(const std::filesystem::path &file)
 KestError fileError(const std::filesystem::path &file, std::error_code code)
 {
     return KestError::unavailable(file.string() + ": " + code.message());
+}
+
+ReplacingFile::ReplacingFile(std::filesystem::path target, std::string partial,
+                             FileDescriptor descriptor)
+    : m_target(std::move(target)), m_partial(std::move(partial)),
+      m_descriptor(std::move(descriptor))
+{
+}
+
+Result<ReplacingFile> ReplacingFile::create(const std::filesystem::path &target)
+{
+    std::string partial = target.string() + ".XXXXXX";
+    FileDescriptor descriptor{::mkostemp(partial.data(), O_CLOEXEC)};
+    if (!descriptor.isOpen()) {
+        return std::unexpected(fileError(target, lastError()));
+    }
+    return ReplacingFile{target, std::move(partial), std::move(descriptor)};
+}
+
+ReplacingFile::~ReplacingFile()
+{
+    if (!m_partial.empty()) {
+        ::unlink(m_partial.c_str());
+    }
+}
+
+Result<void> ReplacingFile::write(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(m_descriptor.get(), bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) {
+            return std::unexpected(fileError(m_target, lastError()));
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
+    }
+    return {};
+}
+
+Result<void> ReplacingFile::commit()
+{
+    if (::fsync(m_descriptor.get()) != 0 ||
+        ::rename(m_partial.c_str(), m_target.c_str()) != 0) {
+        return std::unexpected(fileError(m_target, lastError()));
+    }
+    m_partial.clear();
+    // Without this a power cut may bring the old file back; that the folder cannot be synced
+    // on some file systems is no reason to call the new file a failure.
+    const auto parent = std::filesystem::path{m_target}.replace_filename(".");
+    const FileDescriptor folder{::open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    (void)::fsync(folder.get());
+    return {};
 }
 
 FileDescriptor::~FileDescriptor()

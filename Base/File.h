@@ -5,6 +5,7 @@
 #include "Base/Result.h"
 
 #include <filesystem>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -12,8 +13,11 @@
 namespace Base
 {
 
-// The whole file. Fails with unavailable, in the system's words.
-[[nodiscard]] Result<std::string> readFile(const std::filesystem::path &file);
+// The whole file, or of a longer one `limit` + 1 bytes, with room behind them as a JSON parser
+// needs it. Fails with unavailable, in the system's words.
+[[nodiscard]] Result<std::string>
+readFile(const std::filesystem::path &file,
+         std::size_t limit = std::numeric_limits<std::size_t>::max() - 1);
 
 // What the file system refused, such as "/x/y: Permission denied".
 KestError fileError(const std::filesystem::path &file, std::error_code code);
@@ -42,6 +46,32 @@ public:
 
 private:
     int m_descriptor = -1;
+};
+
+// A file that is written beside the one whose place it takes, so that a reader sees the old
+// one or the new one and never a part. Only the user can read it. Every failure is
+// unavailable, in the system's words, and leaves the old file as it is.
+class ReplacingFile
+{
+public:
+    [[nodiscard]] static Result<ReplacingFile> create(const std::filesystem::path &target);
+    ReplacingFile(const ReplacingFile &) = delete;
+    ReplacingFile &operator=(const ReplacingFile &) = delete;
+    ReplacingFile(ReplacingFile &&) noexcept = default;
+    ReplacingFile &operator=(ReplacingFile &&) = delete;
+    // What was not committed is removed.
+    ~ReplacingFile();
+
+    [[nodiscard]] Result<void> write(std::string_view bytes);
+    // Takes the target's place once every byte is on the disk.
+    [[nodiscard]] Result<void> commit();
+
+private:
+    ReplacingFile(std::filesystem::path target, std::string partial, FileDescriptor descriptor);
+
+    std::filesystem::path m_target;
+    std::string m_partial; // empty once committed
+    FileDescriptor m_descriptor;
 };
 
 } // namespace Base

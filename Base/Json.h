@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,6 +47,12 @@ struct OrNull {
     std::optional<T> value{};
 
     bool operator==(const OrNull &) const = default;
+};
+
+// An object or array that stays as it is written, for a member that is too large to be held
+// decoded or that has rules of its own. Shows the document, which must outlive it.
+struct RawJson {
+    std::string_view text{};
 };
 
 template <class T>
@@ -139,5 +146,11 @@ template <class T>
 {
     return decode<T>(PaddedText{text});
 }
+
+// Hands over the items of an array, which must be objects, one after the other. An item is
+// only cut out here, not checked: that is for its own decoder. `array` comes from a decoded
+// document. Fails with invalidData, or as `take` does.
+using ItemTaker = std::function<Result<void>(const PaddedText &)>;
+[[nodiscard]] Result<void> forEachItem(const RawJson &array, const ItemTaker &take);
 
 } // namespace Base::json

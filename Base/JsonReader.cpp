@@ -31,6 +31,20 @@ bool Reader::readBytes(ondemand::value value, Bytes &out)
     return true;
 }
 
+bool Reader::readRaw(ondemand::value value, RawJson &out)
+{
+    ondemand::json_type type{};
+    if (!take(value.type(), type)) {
+        return false;
+    }
+    if (type == ondemand::json_type::array) {
+        ondemand::array array;
+        return take(value.get_array(), array) && take(array.raw_json(), out.text);
+    }
+    ondemand::object object;
+    return take(value.get_object(), object) && take(object.raw_json(), out.text);
+}
+
 bool Reader::checkText(std::string_view text)
 {
     if (m_hasEscapes && !simdjson::validate_utf8(text)) {
@@ -138,6 +152,40 @@ bool Reader::inside(std::string_view key)
 {
     m_place.insert(0, m_place.empty() ? std::string{key} : std::string{key} + ".");
     return false;
+}
+
+Result<void> forEachItem(const RawJson &array, const ItemTaker &take)
+{
+    const auto failure = [](simdjson::error_code code) {
+        return std::unexpected(KestError::invalidData(simdjson::error_message(code)));
+    };
+    ondemand::parser parser; // its own: `take` decodes with the shared one meanwhile
+    ondemand::document document;
+    ondemand::array items;
+    // What follows in the document is the room behind the array that the parser needs.
+    const std::size_t room = array.text.size() + PaddedText::kPadding;
+    auto code = parser.iterate(array.text.data(), array.text.size(), room).get(document);
+    if (code == simdjson::SUCCESS) {
+        code = document.get_array().get(items);
+    }
+    if (code != simdjson::SUCCESS) {
+        return failure(code);
+    }
+    PaddedText text;
+    for (auto item : items) {
+        ondemand::object object;
+        std::string_view raw;
+        code = item.get_object().get(object);
+        if (code == simdjson::SUCCESS) {
+            code = object.raw_json().get(raw);
+        }
+        if (code != simdjson::SUCCESS) {
+            return failure(code);
+        }
+        text.assign(raw);
+        KEST_CHECK(take(text));
+    }
+    return {};
 }
 
 ParserLoan::ParserLoan(std::size_t documentSize)

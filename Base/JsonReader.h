@@ -107,6 +107,8 @@ private:
             return true;
         } else if constexpr (std::same_as<T, Bytes>) {
             return readBytes(value, out);
+        } else if constexpr (std::same_as<T, RawJson>) {
+            return readRaw(value, out);
         } else if constexpr (TextEnum<T>) {
             return readEnum(value, out);
         } else if constexpr (detail::isOptional<T>) {
@@ -322,6 +324,7 @@ private:
         return take(value.get_string(), out) && checkText(out);
     }
     bool readBytes(ondemand::value value, Bytes &out);
+    bool readRaw(ondemand::value value, RawJson &out);
     bool checkText(std::string_view text);
     bool skip(ondemand::value value, int depth);
     bool skipArray(ondemand::value value, int depth);

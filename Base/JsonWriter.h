@@ -73,6 +73,8 @@ public:
             string(toBase64(value));
         } else if constexpr (TextEnum<T>) {
             string(textOf(value));
+        } else if constexpr (std::same_as<T, RawJson>) {
+            literal(value.text);
         } else if constexpr (detail::isA<T, OrNull>) {
             value.value ? write(*value.value) : literal("null");
         } else if constexpr (detail::isA<T, SharedList>) {

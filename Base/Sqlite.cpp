@@ -80,17 +80,25 @@ Result<void> Database::forEachRow(std::string_view sql, Parameters parameters,
     int code = SQLITE_ROW;
     while ((code = sqlite3_step(statement.get())) == SQLITE_ROW) {
         row.assign(firstColumn(statement.get()));
-        KEST_CHECK(take(row));
+        if (auto taken = take(row); !taken) {
+            forgetPages(statement.get());
+            return taken;
+        }
     }
     if (code != SQLITE_DONE) {
         KestError error = lastError();
-        sqlite3_reset(statement.get());
-        // A read that came up short left a page of zeros in the cache, and the next statement
-        // would take it for the file's.
-        sqlite3_db_release_memory(m_handle.get());
+        forgetPages(statement.get());
         return std::unexpected(std::move(error));
     }
     return {};
+}
+
+// A read that came up short left a page of zeros in the cache, which SQLite may not even have
+// noticed, and the next statement would take it for the file's.
+void Database::forgetPages(sqlite3_stmt *statement)
+{
+    sqlite3_reset(statement);
+    sqlite3_db_release_memory(m_handle.get());
 }
 
 Result<std::vector<Database::Row>> Database::query(std::string_view sql, Parameters parameters)

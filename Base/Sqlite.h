@@ -14,6 +14,7 @@
 #include <vector>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace Base
 {
@@ -72,6 +73,7 @@ private:
 
     explicit Database(std::unique_ptr<sqlite3, Close> handle) : m_handle(std::move(handle)) {}
     void rollBack();
+    void forgetPages(sqlite3_stmt *statement);
     KestError lastError() const;
 
     std::unique_ptr<sqlite3, Close> m_handle;

@@ -167,7 +167,9 @@ int main(int argc, char **argv)
         }
     }
     Bench::print(rows);
-    Bench::save(rows, KEST_BENCH_JSON);
+    if (argc < 2) { // a part of the suites must not take the place of the whole record
+        Bench::save(rows, KEST_BENCH_JSON);
+    }
     std::filesystem::remove_all(KEST_BENCH_FOLDER);
     return std::ranges::all_of(rows, &Bench::Row::met) ? 0 : 1;
 }

@@ -49,6 +49,18 @@ consteval auto jsonFields(Of<CountAnswer>)
 }
 static_assert(json::coversAllMembers<CountAnswer>());
 
+// Of backup export and backup import.
+struct BackupAnswer {
+    std::int64_t records{};
+    std::int64_t revision{};
+};
+consteval auto jsonFields(Of<BackupAnswer>)
+{
+    return std::tuple{json::Field{"records", &BackupAnswer::records},
+                      json::Field{"revision", &BackupAnswer::revision}};
+}
+static_assert(json::coversAllMembers<BackupAnswer>());
+
 // One finding of doctor.
 struct Finding {
     enum class State : std::uint8_t { full, degraded, off };

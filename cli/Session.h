@@ -36,6 +36,7 @@ void addSettingsCommand(CLI::App &program, Session &session);
 void addPrayerCommands(CLI::App &program, Session &session);
 void addPlaceCommands(CLI::App &program, Session &session);
 void addReminderCommands(CLI::App &program, Session &session);
+void addBackupCommands(CLI::App &program, Session &session);
 void addDoctorCommand(CLI::App &program, Session &session);
 void addCompletionCommands(CLI::App &program, Session &session);
 

@@ -47,6 +47,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addPrayerCommands(program, session);
     Cli::addPlaceCommands(program, session);
     Cli::addReminderCommands(program, session);
+    Cli::addBackupCommands(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 }

@@ -5,11 +5,13 @@
 #include "Base/FileLock.h"
 #include "Base/Sqlite.h"
 #include "KestCore/Models/Snapshot.h"
+#include "KestCore/Store/Backup.h"
 #include "KestCore/Store/StateEncoder.h"
 
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -76,6 +78,20 @@ public:
     // enabled tools, their order and the pin.
     [[nodiscard]] Result<Snapshot> resetAll();
 
+    // The bytes of one backup, piece by piece; returns how many records it holds. A row that
+    // does not decode fails the whole call, whatever the sink has taken by then.
+    [[nodiscard]] Result<std::int64_t> exportBackup(Base::Instant now, const BackupSink &sink);
+    // How many records would travel, by kind.
+    [[nodiscard]] Result<std::map<std::string, std::int64_t>> portableCounts();
+    // Replaces the state, the companion and the records that travel in backups by the
+    // backup's, in one step; fails with storage when a record of its has the id of one that
+    // stays. `progress` is told how many records are written. Reads no records.
+    using RestoreProgress = std::function<void(std::int64_t)>;
+    [[nodiscard]] Result<void>
+    restore(const Backup &backup, const RestoreProgress &progress = [](std::int64_t) {});
+    // Reads, proves and restores. Fails as Backup::read and restore do.
+    [[nodiscard]] Result<Snapshot> importBackup(std::string bytes);
+
     // SQLite's own findings about the file, "ok" when it is sound.
     [[nodiscard]] Result<std::string> checkIntegrity();
 
@@ -94,6 +110,8 @@ private:
     // Writes `next` with what else belongs to the change, and only then replaces the memory.
     [[nodiscard]] Result<void> commit(NativeState next, const Write &alsoWrite,
                                       const RecordEdit &edit, Records records);
+    [[nodiscard]] Result<void> replaceBy(const Backup &backup, const RestoreProgress &progress,
+                                         Records records);
     [[nodiscard]] Result<Snapshot> commitForSnapshot(NativeState next, const Write &alsoWrite,
                                                      const RecordEdit &edit);
     [[nodiscard]] Result<bool> hasFreshRecords();

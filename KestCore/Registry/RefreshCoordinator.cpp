@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/Registry/RefreshCoordinator.h"
+
+#include <utility>
+
+namespace KestCore
+{
+
+RefreshCoordinator::RefreshCoordinator(Clock clock) : m_clock(std::move(clock)) {}
+
+RefreshCoordinator::~RefreshCoordinator()
+{
+    auto threads = m_owned
+                       .ask([](Owned &owned) {
+                           owned.plan.cancelAll();
+                           return std::exchange(owned.threads, {});
+                       })
+                       .get();
+    threads.clear(); // joins them, while the queue still takes what they report
+}
+
+std::future<FetchAnswer> RefreshCoordinator::refresh(std::string key, Base::Seconds lifetime,
+                                                     Fetch fetch)
+{
+    std::promise<FetchAnswer> promise;
+    auto answer = promise.get_future();
+    (void)m_owned.ask([this, key = std::move(key), lifetime, fetch = std::move(fetch),
+                       promise = std::move(promise)](Owned &owned) mutable {
+        auto next = owned.plan.request(
+            key, m_clock(), lifetime,
+            [promise = std::move(promise)](const FetchAnswer &result) mutable {
+                promise.set_value(result);
+            });
+        if (next) {
+            start(owned, key, std::move(*next), std::move(fetch));
+        }
+    });
+    return answer;
+}
+
+void RefreshCoordinator::start(Owned &owned, const std::string &key, RefreshPlan::Start start,
+                               Fetch fetch)
+{
+    const std::uint64_t number = ++owned.lastThread;
+    owned.threads.emplace(
+        number, [this, number, key, start = std::move(start), fetch = std::move(fetch)] {
+            auto result = fetch(start.stop);
+            (void)m_owned.ask([this, number, key, generation = start.generation,
+                               result = std::move(result)](Owned &own) mutable {
+                own.plan.finish(key, generation, std::move(result), m_clock());
+                own.threads.erase(number); // joins a thread whose last act this was
+            });
+        });
+}
+
+std::future<void> RefreshCoordinator::cancel(std::string key)
+{
+    return m_owned.ask([key = std::move(key)](Owned &owned) { owned.plan.cancel(key); });
+}
+
+std::future<void> RefreshCoordinator::cancelAll()
+{
+    return m_owned.ask([](Owned &owned) { owned.plan.cancelAll(); });
+}
+
+} // namespace KestCore
