@@ -43,6 +43,12 @@ Row durationRow(std::string name, const Pair &seconds, double longestSeconds);
 // A row whose goal is to go through `bytes` at so many megabytes a second at least.
 Row rateRow(std::string name, const Pair &seconds, std::size_t bytes, double lowestRate);
 
+// A row whose goal is to need less than `most`; all in bytes.
+Row memoryRow(std::string name, double value, double floor, double most);
+
+// Runs a program with its output thrown away; it must succeed.
+void runProgram(const std::vector<std::string> &arguments);
+
 // An empty folder for this run's files, on the disk that holds the build.
 std::filesystem::path freshFolder(const std::string &name);
 
@@ -71,5 +77,6 @@ std::vector<Row> storeSuite();
 std::vector<Row> jsonSuite();
 std::vector<Row> prayerSuite();
 std::vector<Row> programSuite();
+std::vector<Row> backupSuite();
 
 } // namespace Bench

@@ -4,6 +4,8 @@
 #include "bench/Bench.h"
 #include "bench/Samples.h"
 
+#include <fmt/format.h>
+
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/resource.h>
@@ -18,9 +20,12 @@ namespace Bench
 namespace
 {
 
-// Runs a program with its output thrown away and gives its resource use.
-rusage runProgram(std::vector<char *> argv)
+rusage runAndMeasure(std::vector<std::string> arguments)
 {
+    std::vector<char *> argv;
+    for (std::string &argument : arguments) {
+        argv.push_back(argument.data());
+    }
     argv.push_back(nullptr);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
@@ -38,36 +43,28 @@ rusage runProgram(std::vector<char *> argv)
     return usage;
 }
 
-std::vector<char *> pointersTo(std::vector<std::string> &arguments)
-{
-    std::vector<char *> pointers;
-    for (std::string &argument : arguments) {
-        pointers.push_back(argument.data());
-    }
-    return pointers;
-}
+} // namespace
+
+void runProgram(const std::vector<std::string> &arguments) { runAndMeasure(arguments); }
 
 Row memoryRow(std::string name, double value, double floor, double most)
 {
-    Row row{.name = std::move(name),
+    return {.name = std::move(name),
             .value = value / 1e6,
             .unit = "MB",
             .floor = floor / 1e6,
             .ratio = value / floor,
-            .goal = "< 20 MB",
+            .goal = fmt::format("< {} MB", most / 1e6),
             .met = value < most};
-    return row;
 }
-
-} // namespace
 
 int printPeakMemory(char **arguments)
 {
-    std::vector<char *> argv;
+    std::vector<std::string> words;
     for (; *arguments != nullptr; ++arguments) {
-        argv.push_back(*arguments);
+        words.emplace_back(*arguments);
     }
-    std::printf("%ld\n", runProgram(std::move(argv)).ru_maxrss * 1024);
+    std::printf("%ld\n", runAndMeasure(std::move(words)).ru_maxrss * 1024);
     return 0;
 }
 
@@ -101,13 +98,14 @@ std::vector<Row> programSuite()
             return {};
         }));
     }
-    std::vector<std::string> show{KEST_PROGRAM, "--data-dir", folder.string(), "show"};
-    std::vector<std::string> prayer{KEST_PROGRAM, "--data-dir", folder.string(), "prayer"};
-    std::vector<std::string> nothing{"/bin/true"};
-    const Pair seconds = measureByTurns(
-        60, [&] { runProgram(pointersTo(show)); }, [&] { runProgram(pointersTo(nothing)); });
-    const Pair prayerSeconds = measureByTurns(
-        60, [&] { runProgram(pointersTo(prayer)); }, [&] { runProgram(pointersTo(nothing)); });
+    const std::vector<std::string> show{KEST_PROGRAM, "--data-dir", folder.string(), "show"};
+    const std::vector<std::string> prayer{KEST_PROGRAM, "--data-dir", folder.string(),
+                                          "prayer"};
+    const std::vector<std::string> nothing{"/bin/true"};
+    const Pair seconds =
+        measureByTurns(60, [&] { runProgram(show); }, [&] { runProgram(nothing); });
+    const Pair prayerSeconds =
+        measureByTurns(60, [&] { runProgram(prayer); }, [&] { runProgram(nothing); });
     return {durationRow("kest prayer as a whole process", prayerSeconds, 0.010),
             durationRow("kest show as a whole process, 1,000 sessions", seconds, 0.010),
             memoryRow("memory of kest show, 1,000 sessions", peakMemory(show),

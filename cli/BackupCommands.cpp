@@ -206,7 +206,7 @@ Result<bool> mayReplace(const Session &session, StateStore &store, const Backup 
 
 Result<void> importBackup(const Session &session, const BackupChoice &choice)
 {
-    const std::string_view source = choice.file == kPipe ? "/dev/stdin" : choice.file;
+    const std::filesystem::path source{choice.file == kPipe ? "/dev/stdin" : choice.file};
     KEST_TRY(std::string bytes, Base::readFile(source, KestCore::kLargestBackup));
     KEST_TRY(const Backup backup, Backup::read(std::move(bytes)));
     KEST_TRY(StateStore store, session.openStore());

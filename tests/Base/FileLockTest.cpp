@@ -104,6 +104,41 @@ TEST(FileLock, SaysWhatTheFileSystemRefused)
               Base::KestError::unavailable(file.string() + ": No such file or directory"));
 }
 
+TEST(File, TakesThePlaceOfAnotherWholeOrNotAtAll)
+{
+    namespace fs = std::filesystem;
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "data.json";
+    std::ofstream{file} << "old";
+    {
+        auto given = Base::ReplacingFile::create(file).value();
+        ASSERT_TRUE(given.write("a part of the new"));
+    }
+    EXPECT_EQ(Base::readFile(file), "old");
+    auto given = Base::ReplacingFile::create(file).value();
+    ASSERT_TRUE(given.write("ne") && given.write("w"));
+    EXPECT_EQ(Base::readFile(file), "old");
+    ASSERT_TRUE(given.commit());
+    EXPECT_EQ(Base::readFile(file), "new");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(std::distance(fs::directory_iterator{folder.path()}, {}), 1);
+
+    fs::create_directory(folder.path() / "folder");
+    auto blocked = Base::ReplacingFile::create(folder.path() / "folder").value();
+    EXPECT_EQ(blocked.commit().error().message,
+              (folder.path() / "folder").string() + ": Is a directory");
+}
+
+TEST(File, ReadsNoMoreThanAsked)
+{
+    const TemporaryFolder folder;
+    std::ofstream{folder.path() / "file"} << "12345";
+    EXPECT_EQ(Base::readFile(folder.path() / "file", 5), "12345");
+    EXPECT_EQ(Base::readFile(folder.path() / "file", 4), "12345");
+    EXPECT_EQ(Base::readFile(folder.path() / "file", 3), "1234");
+    EXPECT_EQ(Base::readFile("/dev/zero", 100'000).value().size(), 100'001U);
+}
+
 TEST(File, ReadsWholeFilesAndThoseThatSayTheyAreEmpty)
 {
     const TemporaryFolder folder;

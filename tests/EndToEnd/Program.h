@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <sys/types.h>
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -13,5 +15,9 @@ struct Outcome {
     std::string err{};
 };
 
-// Runs kest on the data in this folder, without a terminal.
-Outcome runKest(const std::filesystem::path &folder, std::vector<std::string> arguments);
+// Runs kest on the data in this folder, without a terminal, its input from a file.
+Outcome runKest(const std::filesystem::path &folder, std::vector<std::string> arguments,
+                const std::filesystem::path &input = "/dev/null");
+
+// Starts it and lets it run, its output thrown away; the caller waits for the process.
+pid_t startKest(const std::filesystem::path &folder, std::vector<std::string> arguments);
