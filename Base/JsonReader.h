@@ -172,8 +172,9 @@ private:
         return read(value, out.emplace());
     }
 
-    template <class T>
-    bool readMap(ondemand::value value, std::map<std::string, T> &out)
+    // Keys are texts, or the words of an enumeration.
+    template <class Key, class T>
+    bool readMap(ondemand::value value, std::map<Key, T> &out)
     {
         ondemand::object object;
         if (!take(value.get_object(), object)) {
@@ -186,12 +187,22 @@ private:
                 !checkText(key)) {
                 return false;
             }
-            const auto [place, isNew] = out.try_emplace(std::string{key});
+            const std::string name{key};
+            std::optional<Key> known;
+            if constexpr (TextEnum<Key>) {
+                known = fromText<Key>(name);
+            } else {
+                known = name;
+            }
+            if (!known) {
+                return failAt(name, "unknown word");
+            }
+            const auto [place, isNew] = out.try_emplace(*std::move(known));
             if (!isNew) {
-                return failAt(place->first, "key given twice");
+                return failAt(name, "key given twice");
             }
             if (!read(field.value(), place->second)) {
-                return inside(place->first);
+                return inside(name);
             }
         }
         return true;

@@ -169,7 +169,7 @@ private:
                 literal(",");
             }
             first = false;
-            string(key);
+            write(key);
             literal(":");
             write(value);
         }
