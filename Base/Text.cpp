@@ -8,6 +8,7 @@
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
+#include <unicode/utf8.h>
 
 #include <algorithm>
 
@@ -63,6 +64,34 @@ std::string foldCaseAndDiacritics(std::string_view text)
     std::string out;
     normalizer(icu::Normalizer2::getNFCInstance).normalize(bare, status).toUTF8String(out);
     return out;
+}
+
+std::string lowerAscii(std::string_view text)
+{
+    std::string lower{text};
+    std::ranges::transform(lower, lower.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    return lower;
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    const auto *bytes = reinterpret_cast<const std::uint8_t *>(text.data());
+    const auto size = static_cast<std::int32_t>(text.size());
+    std::int32_t begin = size;
+    std::int32_t end = size;
+    for (std::int32_t at = 0, next = 0; at < size; at = next) {
+        UChar32 character = 0;
+        // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions): ICU's macro
+        U8_NEXT(bytes, next, size, character);
+        // A byte that is no character is no blank either.
+        if (character < 0 || u_isUWhiteSpace(character) == 0) {
+            begin = std::min(begin, at);
+            end = next;
+        }
+    }
+    return text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
 }
 
 void replaceAll(std::string &text, std::string_view from, std::string_view to)

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <charconv>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace Base
@@ -22,5 +25,25 @@ std::vector<std::string_view> split(std::string_view text, char separator);
 
 // Puts `to` in the place of every `from`, which must not be empty.
 void replaceAll(std::string &text, std::string_view from, std::string_view to);
+
+// The text with the letters A to Z as a to z; others stay as they are.
+std::string lowerAscii(std::string_view text);
+
+// The text without the white space and the line breaks at its ends, by Unicode's own list.
+std::string_view trimmed(std::string_view text);
+
+// A number that fills the whole text: no blanks, no words, an optional sign, a point whatever
+// the language. A double may be infinite or not a number where the text says so.
+template <class Number>
+std::optional<Number> numberFrom(std::string_view text)
+{
+    if (text.starts_with('+') && !text.starts_with("+-")) {
+        text.remove_prefix(1);
+    }
+    Number value{};
+    const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return code == std::errc{} && end == text.data() + text.size() ? std::optional{value}
+                                                                   : std::nullopt;
+}
 
 } // namespace Base

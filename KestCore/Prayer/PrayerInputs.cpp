@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Prayer/PrayerInputs.h"
 
+#include "Base/Text.h"
+
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -30,22 +31,9 @@ std::string_view valueOf(const Settings &settings, const std::string &key)
     return found == settings.end() ? std::string_view{} : std::string_view{found->second};
 }
 
-// A number that fills the whole text: no blanks, no words, an optional sign.
-template <class Number>
-std::optional<Number> wholeNumberText(std::string_view text)
-{
-    if (text.starts_with('+') && !text.starts_with("+-")) {
-        text.remove_prefix(1);
-    }
-    Number value{};
-    const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return code == std::errc{} && end == text.data() + text.size() ? std::optional{value}
-                                                                   : std::nullopt;
-}
-
 std::optional<double> degrees(std::string_view text, double furthest)
 {
-    const auto value = wholeNumberText<double>(text);
+    const auto value = Base::numberFrom<double>(text);
     return value && std::abs(*value) <= furthest ? value : std::nullopt;
 }
 
@@ -53,7 +41,7 @@ std::optional<double> degrees(std::string_view text, double furthest)
 std::int64_t adjustment(const Settings &settings, std::string_view prayer)
 {
     constexpr std::int64_t kMinutesOfDay = 1440;
-    const auto minutes = wholeNumberText<std::int64_t>(
+    const auto minutes = Base::numberFrom<std::int64_t>(
         valueOf(settings, "prayer.adjust." + std::string{prayer}));
     return minutes && *minutes >= -kMinutesOfDay && *minutes <= kMinutesOfDay ? *minutes : 0;
 }

@@ -3,17 +3,19 @@
 #pragma once
 
 #include "Base/Instant.h"
-#include "KestCore/Vocabulary.h"
+#include "KestCore/Models/NativeState.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace KestCore
 {
 
 // One timer as it is stored: the body of a record of kind "timer". Lengths in seconds.
 struct TimerState {
-    std::string mode{};                      // pomodoro, countdown, stopwatch, hydration
+    std::string mode{};                      // a TimerMode's text
     double duration{};                       // of the current run
     std::optional<Base::Instant> deadline{}; // of a running countdown
     double elapsed{};                        // consumed while not running
@@ -38,5 +40,53 @@ static_assert(json::coversAllMembers<TimerState>());
 
 // A timer that decodes is kept whatever its numbers: its arithmetic copes with all of them.
 inline bool keepsRules(const TimerState &) { return true; }
+
+// The kinds that are offered. A stored mode that is none of them counts down.
+enum class TimerMode : std::uint8_t { pomodoro, countdown, stopwatch, hydration };
+constexpr auto enumTexts(Of<TimerMode>)
+{
+    using enum TimerMode;
+    return Base::EnumTexts<TimerMode, 4>{{{pomodoro, "pomodoro"},
+                                          {countdown, "countdown"},
+                                          {stopwatch, "stopwatch"},
+                                          {hydration, "hydration"}}};
+}
+
+inline constexpr double kShortestTimer = 60;
+inline constexpr double kLongestTimer = 31'536'000; // 365 days
+inline constexpr double kMostTimerMinutes = 525'600;
+
+// The message of every length outside the limits.
+inline constexpr std::string_view kTimerLimits = "Choose between 1 minute and 365 days.";
+
+// "Focus", "Timer", "Stopwatch" or "Water".
+std::string_view displayTitle(std::string_view mode);
+
+// The length of a new timer: the setting "timer.duration." + mode where it is a number from 1
+// to 525,600, else the mode's own.
+double configuredMinutes(std::string_view mode, const Settings &settings);
+
+// A timer that has not started.
+TimerState newTimer(std::string_view mode, double duration);
+
+bool countsDown(const TimerState &timer);
+
+// Seconds, never negative: what is left of a countdown, what a stopwatch has counted.
+double remaining(const TimerState &timer, Base::Instant now);
+
+// Starts or resumes. One whose end was announced begins from zero.
+void start(TimerState &timer, Base::Instant now);
+void pause(TimerState &timer, Base::Instant now);
+
+// Sets the time left of a countdown, running or not. Fails with invalidData for a stopwatch,
+// for less than a minute or more than 365 days, and when this and what has run make more than
+// 365 days; the timer is then as before.
+[[nodiscard]] Result<void> adjust(TimerState &timer, Base::Instant now, double seconds);
+
+// Re-arms a running water reminder for another full length; leaves any other timer alone.
+void repeatHydration(TimerState &timer, Base::Instant now);
+
+// A countdown whose time is up, paused or not.
+bool hasEnded(const TimerState &timer, Base::Instant now);
 
 } // namespace KestCore
