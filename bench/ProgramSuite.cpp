@@ -101,12 +101,16 @@ std::vector<Row> programSuite()
     const std::vector<std::string> show{KEST_PROGRAM, "--data-dir", folder.string(), "show"};
     const std::vector<std::string> prayer{KEST_PROGRAM, "--data-dir", folder.string(),
                                           "prayer"};
+    const std::vector<std::string> convert{KEST_PROGRAM, "convert", "5 km to mi"};
     const std::vector<std::string> nothing{"/bin/true"};
     const Pair seconds =
         measureByTurns(60, [&] { runProgram(show); }, [&] { runProgram(nothing); });
     const Pair prayerSeconds =
         measureByTurns(60, [&] { runProgram(prayer); }, [&] { runProgram(nothing); });
-    return {durationRow("kest prayer as a whole process", prayerSeconds, 0.010),
+    const Pair convertSeconds =
+        measureByTurns(60, [&] { runProgram(convert); }, [&] { runProgram(nothing); });
+    return {durationRow("kest convert as a whole process", convertSeconds, 0.010),
+            durationRow("kest prayer as a whole process", prayerSeconds, 0.010),
             durationRow("kest show as a whole process, 1,000 sessions", seconds, 0.010),
             memoryRow("memory of kest show, 1,000 sessions", peakMemory(show),
                       peakMemory(nothing), 20e6)};

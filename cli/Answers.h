@@ -61,6 +61,44 @@ consteval auto jsonFields(Of<BackupAnswer>)
 }
 static_assert(json::coversAllMembers<BackupAnswer>());
 
+// One timer, of every timer command.
+struct TimerAnswer {
+    std::string id{};
+    std::string title{};
+    std::string mode{};
+    double remaining{}; // seconds left, or counted by a stopwatch
+    bool running{};
+    bool ended{};
+    std::optional<std::string> deadline{}; // while a countdown runs
+};
+consteval auto jsonFields(Of<TimerAnswer>)
+{
+    using R = TimerAnswer;
+    return std::tuple{json::Field{"id", &R::id},
+                      json::Field{"title", &R::title},
+                      json::Field{"mode", &R::mode},
+                      json::Field{"remaining", &R::remaining},
+                      json::Field{"running", &R::running},
+                      json::Field{"ended", &R::ended},
+                      json::Field{"deadline", &R::deadline}};
+}
+static_assert(json::coversAllMembers<TimerAnswer>());
+
+// Of convert.
+struct ConvertAnswer {
+    std::string category{};
+    std::string result{}; // in the user's locale
+    std::string from{};   // unit ids
+    std::string to{};
+};
+consteval auto jsonFields(Of<ConvertAnswer>)
+{
+    using R = ConvertAnswer;
+    return std::tuple{json::Field{"category", &R::category}, json::Field{"result", &R::result},
+                      json::Field{"from", &R::from}, json::Field{"to", &R::to}};
+}
+static_assert(json::coversAllMembers<ConvertAnswer>());
+
 // One finding of doctor.
 struct Finding {
     enum class State : std::uint8_t { full, degraded, off };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Registry/ToolRegistry.h"
+#include "KestCore/Tools/TimerState.h"
+#include "KestCore/Tools/Units.h"
 #include "cli/Session.h"
 
 #include <CLI/CLI.hpp>
@@ -70,6 +72,24 @@ Words settingKeys()
     return keys;
 }
 
+Words timerModes()
+{
+    Words modes;
+    for (const auto &[mode, text] : enumTexts(Base::Of<KestCore::TimerMode>{})) {
+        modes.emplace_back(text);
+    }
+    return modes;
+}
+
+Words unitIds()
+{
+    Words ids;
+    for (const auto &unit : KestCore::Units::all()) {
+        ids.emplace_back(unit.id);
+    }
+    return ids;
+}
+
 // The values that fit where an argument of this command is wanted.
 Words argumentsFor(const CLI::App &owner, const Words &typed)
 {
@@ -85,7 +105,13 @@ Words argumentsFor(const CLI::App &owner, const Words &typed)
     if (command == "completion") {
         return {"bash", "fish", "zsh"};
     }
+    if (command == "convert") {
+        return unitIds();
+    }
     const CLI::App *parent = owner.get_parent();
+    if (command == "start" && parent != nullptr && parent->get_name() == "timer") {
+        return timerModes();
+    }
     return parent != nullptr && parent->get_name() == "settings" ? settingKeys() : Words{};
 }
 

@@ -37,6 +37,8 @@ void addPrayerCommands(CLI::App &program, Session &session);
 void addPlaceCommands(CLI::App &program, Session &session);
 void addReminderCommands(CLI::App &program, Session &session);
 void addBackupCommands(CLI::App &program, Session &session);
+void addTimerCommands(CLI::App &program, Session &session);
+void addConvertCommand(CLI::App &program, Session &session);
 void addDoctorCommand(CLI::App &program, Session &session);
 void addCompletionCommands(CLI::App &program, Session &session);
 

@@ -48,6 +48,8 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addPlaceCommands(program, session);
     Cli::addReminderCommands(program, session);
     Cli::addBackupCommands(program, session);
+    Cli::addTimerCommands(program, session);
+    Cli::addConvertCommand(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 }
