@@ -114,6 +114,8 @@ public:
         m_text.assign(text);
     }
     std::string_view view() const { return m_text; }
+    // The text back, for a caller that must wipe it.
+    std::string release() { return std::move(m_text); }
     std::size_t capacity() const { return m_text.capacity(); }
 
 private:
@@ -124,6 +126,11 @@ private:
 // out. Fails with invalidData for a number that is not finite and for text that is not UTF-8.
 template <class T>
 [[nodiscard]] Result<std::string> encode(const T &value);
+
+// The same for a record that is secret: no trace of it stays in memory but the answer, which
+// the caller wipes. `room` is at least the document's size.
+template <class T>
+[[nodiscard]] Result<std::string> encodeSecret(const T &value, std::size_t room);
 
 // The document cut where its one SharedList stands, for a caller that keeps that list's
 // text from an earlier encoding.

@@ -20,8 +20,19 @@ KestError Reader::error() const
 bool Reader::readBytes(ondemand::value value, Bytes &out)
 {
     std::string_view text;
-    if (!readText(value, text)) {
-        return false;
+    if (m_hasEscapes) {
+        if (!readText(value, text)) {
+            return false;
+        }
+    } else {
+        // Large bytes are decoded where they stand, not copied into the parser's memory first.
+        text = value.raw_json_token();
+        ondemand::raw_json_string string;
+        if (!take(value.get_raw_json_string(), string)) {
+            return false;
+        }
+        text.remove_prefix(1);
+        text = text.substr(0, text.rfind('"'));
     }
     auto bytes = fromBase64(text);
     if (!bytes) {

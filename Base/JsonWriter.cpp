@@ -3,6 +3,7 @@
 #include "Base/JsonWriter.h"
 
 #include "Base/Fault.h"
+#include "Base/Secret.h"
 
 #include <simdjson.h>
 
@@ -66,6 +67,23 @@ void Writer::string(std::string_view text)
     literal("\"");
 }
 
+void Writer::bytes(const Bytes &value)
+{
+    literal("\"");
+    if (const std::size_t size = base64Size(value.size()); size <= kPieceSize) {
+        writeBase64(value, room(size));
+        m_pieceSize += size;
+    } else {
+        flush();
+        const std::size_t before = m_text.size();
+        m_text.resize_and_overwrite(before + size, [&](char *out, std::size_t) {
+            writeBase64(value, out + before);
+            return before + size;
+        });
+    }
+    literal("\"");
+}
+
 void Writer::escapedCharacter(char c)
 {
     switch (c) {
@@ -121,6 +139,18 @@ Result<std::string> Writer::finish()
 {
     flush();
     KEST_CHECK(checkText());
+    return std::move(m_text);
+}
+
+Result<std::string> Writer::finishSecret()
+{
+    const std::size_t used = m_text.empty() ? m_pieceSize : m_piece.size();
+    flush();
+    OPENSSL_cleanse(m_piece.data(), used);
+    if (auto sound = checkText(); !sound) {
+        wipe(m_text);
+        return std::unexpected(std::move(sound).error());
+    }
     return std::move(m_text);
 }
 

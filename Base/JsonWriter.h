@@ -55,6 +55,12 @@ public:
     explicit Writer(SharedLists sharedLists = SharedLists::written) : m_sharedLists(sharedLists)
     {
     }
+    // Takes all the memory that it may need at once, so that no part of a secret stays behind
+    // in memory that was outgrown.
+    explicit Writer(std::size_t room) : m_sharedLists(SharedLists::written)
+    {
+        m_text.reserve(room);
+    }
 
     template <class T>
     void write(const T &value)
@@ -70,7 +76,7 @@ public:
         } else if constexpr (std::same_as<T, std::string>) {
             string(value);
         } else if constexpr (std::same_as<T, Bytes>) {
-            string(toBase64(value));
+            bytes(value);
         } else if constexpr (TextEnum<T>) {
             string(textOf(value));
         } else if constexpr (std::same_as<T, RawJson>) {
@@ -90,6 +96,8 @@ public:
 
     // The text, or why there is none. The writer is spent afterwards.
     [[nodiscard]] Result<std::string> finish();
+    // The same, and nothing of the text stays behind in the writer.
+    [[nodiscard]] Result<std::string> finishSecret();
     // The two halves around the list that was left out.
     [[nodiscard]] Result<EncodedAround> finishAround();
 
@@ -123,6 +131,7 @@ private:
         m_pieceSize += text.size();
     }
     void string(std::string_view text);
+    void bytes(const Bytes &value);
     void escapedCharacter(char c);
     void number(double value);
 
@@ -221,6 +230,14 @@ Result<std::string> encode(const T &value)
     Writer writer;
     writer.write(value);
     return writer.finish();
+}
+
+template <class T>
+Result<std::string> encodeSecret(const T &value, std::size_t room)
+{
+    Writer writer{room};
+    writer.write(value);
+    return writer.finishSecret();
 }
 
 template <class T>
