@@ -52,17 +52,6 @@ namespace
 constexpr std::size_t kLongestText = 1'000'000; // bytes of one note
 constexpr std::size_t kLongestAddress = 8'192;
 
-bool isWebAddress(std::string_view url)
-{
-    for (const std::string_view scheme : {"https://", "http://"}) {
-        if (url.starts_with(scheme)) {
-            return url.size() > scheme.size() && url.size() <= kLongestAddress &&
-                   url.find_first_of(" \t\r\n") == std::string_view::npos;
-        }
-    }
-    return false;
-}
-
 bool isAbsolutePath(std::string_view path)
 {
     return path.starts_with('/') && path.size() <= kLongestAddress && !path.contains('\0');
@@ -76,6 +65,17 @@ bool isDay(std::string_view text)
 }
 
 } // namespace
+
+bool isWebAddress(std::string_view text)
+{
+    for (const std::string_view scheme : {"https://", "http://"}) {
+        if (text.starts_with(scheme)) {
+            return text.size() > scheme.size() && text.size() <= kLongestAddress &&
+                   text.find_first_of(" \t\r\n") == std::string_view::npos;
+        }
+    }
+    return false;
+}
 
 bool keepsRules(const SavedLink &link)
 {

@@ -8,12 +8,16 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 // What the body of a local record holds, one struct a kind. Each is a JSON document; the
 // record's title, id and time stay in the record. `keepsRules` tells whether the values make
 // sense. Texts are bounded so that one record cannot make every snapshot slow.
 namespace KestCore
 {
+
+// Whether the text is one https:// or http:// address and nothing else.
+bool isWebAddress(std::string_view text);
 
 // Kind "link": a bookmark of a web page.
 struct SavedLink {

@@ -35,6 +35,8 @@ constexpr std::string_view kReadRecords = "SELECT body FROM records ORDER BY row
 constexpr std::string_view kReadRecord = "SELECT body FROM records WHERE id=CAST(? AS TEXT)";
 constexpr std::string_view kReadRecordsOfKind =
     "SELECT body FROM records WHERE kind=CAST(? AS TEXT) ORDER BY rowid";
+constexpr std::string_view kReadIdsOfKind =
+    "SELECT id FROM records WHERE kind=CAST(? AS TEXT) ORDER BY rowid";
 constexpr std::string_view kReadRecordsBetween =
     "SELECT body FROM records WHERE id>=CAST(? AS TEXT) AND id<CAST(? AS TEXT) ORDER BY rowid";
 constexpr std::string_view kWriteState =
@@ -349,6 +351,16 @@ StateStore::selectRecords(std::string_view sql, Base::Database::Parameters param
 Result<std::vector<LocalRecord>> StateStore::recordsOfKind(std::string_view kind)
 {
     return selectRecords(kReadRecordsOfKind, {kind});
+}
+
+Result<std::vector<std::string>> StateStore::recordIdsOfKind(std::string_view kind)
+{
+    std::vector<std::string> ids;
+    KEST_CHECK(m_database.forEachRow(kReadIdsOfKind, {kind}, [&](const auto &row) {
+        ids.emplace_back(row.view());
+        return Result<void>{};
+    }));
+    return ids;
 }
 
 Result<std::vector<LocalRecord>> StateStore::recordsWithIdPrefix(std::string_view prefix)

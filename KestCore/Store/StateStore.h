@@ -71,6 +71,8 @@ public:
     // `prefix` is ASCII and not empty.
     [[nodiscard]] Result<std::vector<LocalRecord>> recordsWithIdPrefix(std::string_view prefix);
     [[nodiscard]] Result<std::optional<LocalRecord>> record(std::string_view id);
+    // Only the ids, in insertion order: no body is read.
+    [[nodiscard]] Result<std::vector<std::string>> recordIdsOfKind(std::string_view kind);
 
     // Forgets finished sessions and the records of use, clipboard and completion.
     [[nodiscard]] Result<Snapshot> clearHistory();

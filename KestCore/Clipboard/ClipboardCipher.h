@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/AesGcm.h"
+#include "KestCore/Clipboard/ClipboardPayload.h"
+
+namespace KestCore
+{
+
+// Turns content into the text that is stored, and back: AES-256-GCM under a fresh nonce, in
+// Base64 on one line.
+class ClipboardCipher
+{
+public:
+    ClipboardCipher() = delete;
+
+    // Fails with the payload's own error, or when the cipher fails.
+    [[nodiscard]] static Result<std::string> seal(const ClipboardPayload &payload,
+                                                  const Base::AesKey &key);
+    // Fails with invalidData: "Invalid encrypted entry" for a text that is not Base64, the
+    // cipher's own error for one that was not sealed under this key, the payload's for one
+    // that keeps no rules.
+    [[nodiscard]] static Result<ClipboardPayload> open(std::string_view text,
+                                                       const Base::AesKey &key);
+
+    // The same for a short text that is no payload, such as what a list shows.
+    [[nodiscard]] static Result<std::string> sealLine(std::string_view line,
+                                                      const Base::AesKey &key);
+    [[nodiscard]] static Result<std::string> openLine(std::string_view text,
+                                                      const Base::AesKey &key);
+
+    // The same for equal content, and without the key of no help in guessing it.
+    static std::string fingerprint(const ClipboardPayload &payload, const Base::AesKey &key);
+};
+
+} // namespace KestCore

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/Clipboard/ClipboardKey.h"
+
+namespace KestCore
+{
+
+Base::SecretResult<Base::AesKey> clipboardKey(Base::SecretStore &secrets)
+{
+    KEST_TRY(const auto kept, secrets.read(kClipboardKeyAccount));
+    if (kept) {
+        if (auto key = Base::AesKey::fromBytes(*kept)) {
+            return *std::move(key);
+        }
+        // To put another in its place would make the history unreadable for good.
+        return std::unexpected(
+            Base::SecretFailure{.kind = Base::SecretFailure::Kind::failed,
+                                .message = "The clipboard's key in the keyring is damaged"});
+    }
+    Base::AesKey key = Base::AesKey::random();
+    KEST_CHECK(secrets.write(kClipboardKeyAccount, key.bytes()));
+    return key;
+}
+
+Availability availabilityOf(Base::SecretFailure::Kind kind)
+{
+    switch (kind) {
+    case Base::SecretFailure::Kind::noService:
+        return Availability::unconfigured;
+    case Base::SecretFailure::Kind::locked:
+        return Availability::permissionDenied;
+    case Base::SecretFailure::Kind::failed:
+        break;
+    }
+    return Availability::error;
+}
+
+} // namespace KestCore
