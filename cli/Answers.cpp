@@ -10,3 +10,5 @@ template Base::Result<std::string> Base::json::encode(const Cli::BackupAnswer &)
 template Base::Result<std::string> Base::json::encode(const std::vector<Cli::Finding> &);
 template Base::Result<std::string> Base::json::encode(const std::vector<Cli::TimerAnswer> &);
 template Base::Result<std::string> Base::json::encode(const Cli::ConvertAnswer &);
+template Base::Result<std::string>
+Base::json::encode(const std::vector<Cli::ClipboardAnswer> &);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KestCore/Clipboard/ClipboardPayload.h"
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Models/NativeState.h"
 
@@ -98,6 +99,27 @@ consteval auto jsonFields(Of<ConvertAnswer>)
                       json::Field{"from", &R::from}, json::Field{"to", &R::to}};
 }
 static_assert(json::coversAllMembers<ConvertAnswer>());
+
+// Of every clipboard command but show: a list of these.
+struct ClipboardAnswer {
+    std::string id{};
+    KestCore::ClipboardKind kind{};
+    std::string createdAt{};
+    std::int64_t byteCount{};
+    bool favourite{};
+    std::string display{}; // no credential, cut where it is long
+};
+consteval auto jsonFields(Of<ClipboardAnswer>)
+{
+    using R = ClipboardAnswer;
+    return std::tuple{json::Field{"id", &R::id},
+                      json::Field{"kind", &R::kind},
+                      json::Field{"createdAt", &R::createdAt},
+                      json::Field{"byteCount", &R::byteCount},
+                      json::Field{"favourite", &R::favourite},
+                      json::Field{"display", &R::display}};
+}
+static_assert(json::coversAllMembers<ClipboardAnswer>());
 
 // One finding of doctor.
 struct Finding {

@@ -40,6 +40,7 @@ void addBackupCommands(CLI::App &program, Session &session);
 void addTimerCommands(CLI::App &program, Session &session);
 void addConvertCommand(CLI::App &program, Session &session);
 void addDoctorCommand(CLI::App &program, Session &session);
+void addClipboardCommands(CLI::App &program, Session &session);
 void addCompletionCommands(CLI::App &program, Session &session);
 
 // The counter on the whole terminal. Fails when there is no terminal.

@@ -50,6 +50,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addBackupCommands(program, session);
     Cli::addTimerCommands(program, session);
     Cli::addConvertCommand(program, session);
+    Cli::addClipboardCommands(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 }

@@ -10,6 +10,7 @@ declare -A below=(
     [Base]="Base"
     [PrayerCore]="Base PrayerCore"
     [KestCore]="Base PrayerCore KestCore"
+    [SecretService]="Base SecretService"
     [MonitorCore]="Base MonitorCore"
     [MonitorLinux]="Base MonitorCore MonitorLinux"
 )

@@ -1,0 +1,193 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Velvetnook developers
+# SPDX-License-Identifier: MIT
+# check-keyring.sh KEST: the clipboard's commands with a real keyring that is open, locked or
+# not there. Each keyring lives on a message bus and in a home of its own.
+# shellcheck disable=SC2317 # `inside` calls functions by their names
+set -euo pipefail
+kest=$1
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)/$(basename "${BASH_SOURCE[0]}")
+
+keyring=
+failed=0
+fail() {
+    echo "check-keyring: $*"
+    failed=1
+}
+
+# says STATUS TEXT WORD...: kest ends so, and prints or complains so.
+says() {
+    local status=$1 text=$2 code=0 said
+    shift 2
+    said=$(timeout 30 "$kest" "$@" 2>&1 </dev/null) || code=$?
+    [[ $code -eq $status ]] || fail "$*: ended with $code: $said"
+    [[ $said == *"$text"* ]] || fail "$*: said: $said"
+}
+
+add() { timeout 30 "$kest" clipboard add --json || fail "add: status $?"; }
+
+id_of() { sed -E 's/^\[\{"id":"([0-9A-F-]{36})".*/\1/'; }
+
+nothing_kept() { [[ ! -e $KEST_DATA_DIR ]] || fail "$1: something was put on the disk"; }
+
+ask_bus() { dbus-send --session --print-reply "$@" 2>/dev/null; }
+
+has_service() {
+    ask_bus --dest=org.freedesktop.DBus / org.freedesktop.DBus.NameHasOwner \
+        string:org.freedesktop.secrets | grep -q true
+}
+
+has_collection() {
+    has_service && ask_bus --dest=org.freedesktop.secrets /org/freedesktop/secrets \
+        org.freedesktop.Secret.Service.ReadAlias string:default | grep -q '"/org'
+}
+
+# start_keyring READY OPTION...: starts one and waits until it is ready.
+start_keyring() {
+    local ready=$1
+    shift
+    printf 'the password' | gnome-keyring-daemon --foreground --components=secrets \
+        --control-directory="$HOME/control" "$@" >"$HOME/keyring.log" 2>&1 &
+    keyring=$!
+    for _ in {1..200}; do
+        if "$ready"; then
+            return
+        fi
+        sleep 0.05
+    done
+    fail "the keyring did not start: $(cat "$HOME/keyring.log")"
+}
+
+stop_keyring() {
+    if [[ -n $keyring ]]; then
+        kill "$keyring" 2>/dev/null || true
+        wait "$keyring" || true
+        keyring=
+    fi
+}
+
+check_absent() {
+    says 1 "kest: There is no keyring" clipboard list
+    says 1 "kest: There is no keyring" clipboard clear --yes
+    if printf 'a secret' | timeout 30 "$kest" clipboard add >/dev/null 2>&1; then
+        fail "add works without a keyring"
+    fi
+    nothing_kept "without a keyring"
+}
+
+check_without_collection() {
+    start_keyring has_service
+    says 1 "kest: There is no default keyring" clipboard list
+    nothing_kept "without a collection"
+    stop_keyring
+}
+
+check_open() {
+    local id link
+    start_keyring has_collection --unlock
+    says 0 "The clipboard history is empty." clipboard list
+    id=$(printf 'a\033[31msecret\nwords' | add | id_of)
+    link=$(printf 'https://example.org/' | add | id_of)
+    says 0 "[{\"id\":\"$link\",\"kind\":\"link\"" clipboard list --json
+    says 0 '"byteCount":18,"favourite":false,"display":"a\u001b[31msecret\nwords"}]' \
+        clipboard list --json
+    says 0 'a·[31msecret·words' clipboard search SECRET
+    says 1 'has the id "no id like that"' clipboard show "no id like that"
+    says 0 "${id:0:8}" clipboard list
+}
+
+check_entries() {
+    local id link found
+    found=$("$kest" clipboard list --json)
+    link=$(id_of <<<"$found")
+    id=$(sed -E 's/.*"id":"([0-9A-F-]{36})".*/\1/' <<<"$found")
+    cmp <(printf 'a\033[31msecret\nwords') <("$kest" clipboard show "${id:0:8}") ||
+        fail "show does not print what was added"
+    says 0 '"kind":"link","text":"https://example.org/"' clipboard show --json "$link"
+    says 0 "*" clipboard favourite "${id,,}"
+    says 1 "kest: Confirm with --yes" clipboard clear
+    says 0 "$id" clipboard clear --yes --json
+    says 1 "kest: No clipboard entry has the id" clipboard show "$link"
+    if grep -rqaF -e secret -e example.org "$HOME/data" "$KEST_DATA_DIR"; then
+        fail "content stands in the clear on the disk"
+    fi
+    grep -rqaF "$id" "$KEST_DATA_DIR" || fail "the search of the disk finds nothing at all"
+    says 0 "[]" clipboard search --json "https"
+}
+
+refuse_wrong_input() {
+    says 1 "kest: Invalid clipboard text" clipboard add
+    if head -c 100001 /dev/zero | tr '\0' x | "$kest" clipboard add >/dev/null 2>&1; then
+        fail "add takes more than 100,000 bytes"
+    fi
+    head -c 100000 /dev/zero | tr '\0' x | add >/dev/null
+    says 2 "" clipboard
+    says 2 "" clipboard show
+}
+
+# A keyring that was there before but that nobody has unlocked.
+check_locked() {
+    stop_keyring
+    local before
+    before=$(md5sum "$KEST_DATA_DIR"/*)
+    start_keyring has_collection
+    says 1 "kest: The keyring is locked." clipboard list
+    says 1 "kest: The keyring is locked." clipboard remove x
+    [[ $(md5sum "$KEST_DATA_DIR"/*) == "$before" ]] || fail "a locked keyring: data changed"
+    rm -r "$KEST_DATA_DIR"
+    says 1 "kest: The keyring is locked." clipboard list
+    nothing_kept "with a locked keyring"
+    stop_keyring
+}
+
+inside() {
+    trap stop_keyring EXIT
+    "$@"
+    return "$failed"
+}
+
+# on_bus WORD...: runs this script again on a bus of its own that starts no services.
+on_bus() {
+    timeout --kill-after=5 120 dbus-run-session --config-file="$HOME/bus.conf" -- \
+        bash "$here" "$kest" "$@" 2>&1 | { grep -v 'fd limit' || true; }
+}
+
+if [[ $# -gt 1 ]]; then
+    case $2 in
+    absent) inside check_absent ;;
+    bare) inside check_without_collection ;;
+    *)
+        all() {
+            check_open
+            check_entries
+            refuse_wrong_input
+            check_locked
+        }
+        inside all
+        ;;
+    esac
+    exit
+fi
+
+HOME=$(mktemp -d)
+trap 'rm -rf "$HOME"' EXIT
+export HOME XDG_RUNTIME_DIR=$HOME/run XDG_DATA_HOME=$HOME/data XDG_CONFIG_HOME=$HOME/config
+export XDG_CACHE_HOME=$HOME/cache KEST_DATA_DIR=$HOME/kest LC_ALL=C.UTF-8
+unset DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
+mkdir -m 700 "$XDG_RUNTIME_DIR" "$XDG_DATA_HOME" "$HOME/control"
+cat >"$HOME/bus.conf" <<'END'
+<busconfig>
+  <type>session</type>
+  <listen>unix:tmpdir=/tmp</listen>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+END
+check_absent # without even a bus
+on_bus absent
+on_bus bare
+on_bus open
+exit "$failed"
