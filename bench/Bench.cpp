@@ -145,8 +145,11 @@ int main(int argc, char **argv)
         return Bench::printPeakMemory(argv + 2);
     }
     const std::pair<std::string_view, Bench::Suite> suites[] = {
-        {"json", Bench::jsonSuite},     {"store", Bench::storeSuite},
-        {"prayer", Bench::prayerSuite}, {"program", Bench::programSuite},
+        {"json", Bench::jsonSuite},
+        {"store", Bench::storeSuite},
+        {"prayer", Bench::prayerSuite},
+        {"clipboard", Bench::clipboardSuite},
+        {"program", Bench::programSuite},
         {"backup", Bench::backupSuite},
     };
     for (int at = 1; at < argc; ++at) {

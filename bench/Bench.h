@@ -76,6 +76,7 @@ using Suite = std::vector<Row> (*)();
 std::vector<Row> storeSuite();
 std::vector<Row> jsonSuite();
 std::vector<Row> prayerSuite();
+std::vector<Row> clipboardSuite();
 std::vector<Row> programSuite();
 std::vector<Row> backupSuite();
 
