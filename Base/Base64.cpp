@@ -105,7 +105,8 @@ std::optional<Bytes> fromBase64(std::string_view text)
     if (text.empty()) {
         return Bytes{};
     }
-    const std::size_t padding = text.ends_with("==") ? 2 : text.ends_with('=') ? 1 : 0;
+    const std::size_t padding =
+        (text.ends_with('=') ? 1U : 0U) + (text.ends_with("==") ? 1U : 0U);
     Bytes bytes(text.size() / 4 * 3 - padding);
     const std::size_t whole = text.size() / 4 - 1;
     std::uint32_t foreign = 0;

@@ -91,7 +91,8 @@ public:
 
     SecretFailure failure() const
     {
-        const bool isLocked = g_error_matches(m_error, SECRET_ERROR, SECRET_ERROR_IS_LOCKED);
+        const bool isLocked =
+            g_error_matches(m_error, SECRET_ERROR, SECRET_ERROR_IS_LOCKED) != FALSE;
         return {.kind = isLocked ? Kind::locked : Kind::failed,
                 .message = isLocked ? lockedMessage()
                                     : std::string{"The keyring: "} + m_error->message};

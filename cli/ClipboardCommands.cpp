@@ -25,7 +25,6 @@ namespace
 
 using KestCore::ClipboardEntry;
 using KestCore::ClipboardHistory;
-using KestCore::ClipboardKind;
 using KestCore::ClipboardListing;
 using KestCore::ClipboardPayload;
 using Listings = std::vector<ClipboardListing>;

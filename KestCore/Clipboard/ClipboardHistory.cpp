@@ -87,7 +87,7 @@ Result<ClipboardHistory::Rows> ClipboardHistory::rows()
     if (!repairs.written.empty() || !repairs.removed.empty()) {
         KEST_CHECK(m_store.changeRecords(repairs));
     }
-    std::ranges::stable_sort(rows, comesBefore);
+    std::ranges::sort(rows, comesBefore);
     return rows;
 }
 
@@ -170,8 +170,7 @@ Result<bool> ClipboardHistory::hasWords(const ClipboardIndexRow &row, std::strin
         return false;
     }
     const auto payload = content(row.id);
-    return payload && payload->text &&
-           Base::foldCaseAndDiacritics(*payload->text).contains(folded);
+    return payload && Base::foldCaseAndDiacritics(payload->text.value_or("")).contains(folded);
 }
 
 Result<ClipboardEntry> ClipboardHistory::find(std::string_view idOrBeginning)
@@ -221,7 +220,7 @@ Result<ClipboardEntry> ClipboardHistory::add(const ClipboardPayload &payload, Ba
                          .createdAt = toMilliseconds(now),
                          .byteCount = payload.byteCount()};
     const std::string print = fingerprint(payload);
-    std::ranges::stable_sort(all, std::ranges::greater{}, &ClipboardIndexRow::createdAt);
+    std::ranges::sort(all, std::ranges::greater{}, &ClipboardIndexRow::createdAt);
     const auto equal = std::ranges::find(all, print, &ClipboardIndexRow::fingerprint);
     if (equal != all.end()) {
         entry.id = equal->id;

@@ -21,7 +21,10 @@ bool drawsOnBudget(const ClipboardEntry &entry)
 
 bool ClipboardRetention::comesBefore(const ClipboardEntry &a, const ClipboardEntry &b)
 {
-    return a.favourite != b.favourite ? a.favourite : a.createdAt > b.createdAt;
+    if (a.favourite != b.favourite) {
+        return a.favourite;
+    }
+    return a.createdAt != b.createdAt ? a.createdAt > b.createdAt : a.id < b.id;
 }
 
 std::vector<ClipboardEntry> ClipboardRetention::prune(std::vector<ClipboardEntry> entries,
@@ -33,7 +36,7 @@ std::vector<ClipboardEntry> ClipboardRetention::prune(std::vector<ClipboardEntry
     std::erase_if(entries, [&](const ClipboardEntry &entry) {
         return !(entry.createdAt >= cutOff) || entry.byteCount < 0;
     });
-    std::ranges::stable_sort(entries, comesBefore);
+    std::ranges::sort(entries, comesBefore);
 
     const auto most =
         static_cast<std::size_t>(std::clamp<std::int64_t>(maxCount, 1, kMostEntries));

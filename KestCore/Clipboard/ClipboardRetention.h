@@ -15,7 +15,7 @@ public:
 
     static constexpr std::int64_t kMostEntries = 2'000;
 
-    // The history's order: favourites first, then the newest first.
+    // The history's order: favourites first, then the newest first; among equals, by id.
     static bool comesBefore(const ClipboardEntry &a, const ClipboardEntry &b);
 
     // The entries to keep, in the history's order: those of the last `days` (at least one), at

@@ -21,8 +21,9 @@ std::string_view valueOf(const Settings &settings, const std::string &key)
 void readNumber(std::string_view text, std::int64_t &number)
 {
     std::int64_t read = 0;
-    const char *end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, read);
+    const char *const begin = text.data();
+    const char *const end = begin + text.size();
+    const auto [stop, error] = std::from_chars(begin, end, read);
     if (error == std::errc{} && stop == end) {
         number = read;
     }

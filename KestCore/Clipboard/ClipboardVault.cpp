@@ -117,12 +117,12 @@ Result<std::optional<ClipboardPayload>> ClipboardVault::read()
         return payload->validate() ? Result<std::optional<ClipboardPayload>>{payload}
                                    : refuse(kFilesNotSaved);
     }
-    auto image = m_pasteboard.readImage(ClipboardPayload::kLargestImage);
-    if (!image) {
+    auto readImage = m_pasteboard.readImage(ClipboardPayload::kLargestImage);
+    if (!readImage) {
         return refuse(kImageNotTaken);
     }
-    if (*image && !(*image)->empty()) {
-        KEST_TRY(payload, imagePayload(**std::move(image)));
+    if (auto image = *std::move(readImage); image && !image->empty()) {
+        KEST_TRY(payload, imagePayload(*std::move(image)));
         return payload;
     }
     KEST_TRY(auto text, m_pasteboard.readText(ClipboardPayload::kLargestText));
