@@ -102,6 +102,8 @@ std::vector<Row> programSuite()
     const std::vector<std::string> prayer{KEST_PROGRAM, "--data-dir", folder.string(),
                                           "prayer"};
     const std::vector<std::string> convert{KEST_PROGRAM, "convert", "5 km to mi"};
+    const std::vector<std::string> emoji{KEST_PROGRAM, "--data-dir", folder.string(), "emoji",
+                                         "heart"};
     const std::vector<std::string> nothing{"/bin/true"};
     const Pair seconds =
         measureByTurns(60, [&] { runProgram(show); }, [&] { runProgram(nothing); });
@@ -109,7 +111,10 @@ std::vector<Row> programSuite()
         measureByTurns(60, [&] { runProgram(prayer); }, [&] { runProgram(nothing); });
     const Pair convertSeconds =
         measureByTurns(60, [&] { runProgram(convert); }, [&] { runProgram(nothing); });
-    return {durationRow("kest convert as a whole process", convertSeconds, 0.010),
+    const Pair emojiSeconds =
+        measureByTurns(60, [&] { runProgram(emoji); }, [&] { runProgram(nothing); });
+    return {durationRow("kest emoji as a whole process", emojiSeconds, 0.010),
+            durationRow("kest convert as a whole process", convertSeconds, 0.010),
             durationRow("kest prayer as a whole process", prayerSeconds, 0.010),
             durationRow("kest show as a whole process, 1,000 sessions", seconds, 0.010),
             memoryRow("memory of kest show, 1,000 sessions", peakMemory(show),

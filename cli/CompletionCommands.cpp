@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Registry/ToolRegistry.h"
+#include "KestCore/Surfaces/MessageAnimation.h"
+#include "KestCore/Tools/Emoji.h"
 #include "KestCore/Tools/TimerState.h"
 #include "KestCore/Tools/Units.h"
 #include "cli/Session.h"
@@ -72,13 +74,14 @@ Words settingKeys()
     return keys;
 }
 
-Words timerModes()
+template <class Enum>
+Words textsOf()
 {
-    Words modes;
-    for (const auto &[mode, text] : enumTexts(Base::Of<KestCore::TimerMode>{})) {
-        modes.emplace_back(text);
+    Words texts;
+    for (const auto &[value, text] : enumTexts(Base::Of<Enum>{})) {
+        texts.emplace_back(text);
     }
-    return modes;
+    return texts;
 }
 
 Words unitIds()
@@ -108,9 +111,15 @@ Words argumentsFor(const CLI::App &owner, const Words &typed)
     if (command == "convert") {
         return unitIds();
     }
+    if (!typed.empty() && typed.back() == "--animation") {
+        return textsOf<KestCore::MessageAnimation>();
+    }
+    if (!typed.empty() && typed.back() == "--tone") {
+        return textsOf<KestCore::SkinTone>();
+    }
     const CLI::App *parent = owner.get_parent();
     if (command == "start" && parent != nullptr && parent->get_name() == "timer") {
-        return timerModes();
+        return textsOf<KestCore::TimerMode>();
     }
     return parent != nullptr && parent->get_name() == "settings" ? settingKeys() : Words{};
 }

@@ -51,6 +51,11 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addTimerCommands(program, session);
     Cli::addConvertCommand(program, session);
     Cli::addClipboardCommands(program, session);
+    Cli::addNoteCommands(program, session);
+    Cli::addLinkCommands(program, session);
+    Cli::addEmojiCommands(program, session);
+    Cli::addShelfCommands(program, session);
+    Cli::addMessageCommands(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 }

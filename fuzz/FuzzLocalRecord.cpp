@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     const std::string body{reinterpret_cast<const char *>(data), size};
     for (const char *kind : {"link", "timer", "note", "scratchpad", "emoji", "shortcut",
-                             "message", "prayer", "completion", "usage", "shelf", "file"}) {
+                             "message", "prayer", "completion", "usage", "shelf", "file", "trash"}) {
         (void)KestCore::validate(KestCore::LocalRecord{.kind = kind, .body = body});
     }
     return 0;

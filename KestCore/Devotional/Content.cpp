@@ -34,40 +34,6 @@ IdSet idsOf(std::span<const Phrase> phrases)
     return ids;
 }
 
-constexpr std::string_view kPlainAlef = "\u0627";
-
-// Harakat and Quranic marks U+064B to U+065F are D9 8B to D9 9F in UTF-8.
-void removeArabicMarks(std::string &text)
-{
-    std::string kept;
-    kept.reserve(text.size());
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const auto lead = static_cast<unsigned char>(text[at]);
-        const auto next = at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) : 0;
-        const bool isHaraka = lead == 0xD9 && next >= 0x8B && next <= 0x9F;
-        const bool isSuperscriptAlef = lead == 0xD9 && next == 0xB0;
-        const bool isTatweel = lead == 0xD9 && next == 0x80;
-        if (isHaraka || isSuperscriptAlef || isTatweel) {
-            ++at;
-            continue;
-        }
-        kept += text[at];
-    }
-    text = std::move(kept);
-}
-
-// Beyond the normal form: what a keyboard does not offer or people leave out.
-std::string looseForm(std::string_view text)
-{
-    std::string form = normalizeForSearch(text);
-    Base::replaceAll(form, "\u0671", kPlainAlef);
-    for (const std::string_view dropped :
-         {"\u02BE", "\u02BF", "\u2018", "\u2019", "'", "`", "-", "\u2013", "\u2014"}) {
-        Base::replaceAll(form, dropped, "");
-    }
-    return form;
-}
-
 std::string_view orEmpty(const std::optional<std::string> &text)
 {
     return text ? std::string_view{*text} : std::string_view{};
@@ -83,7 +49,7 @@ std::string searchableText(const Phrase &phrase)
         text += '\n';
         text += field;
     }
-    std::string form = looseForm(text);
+    std::string form = looseSearchForm(text);
     std::erase(form, ' ');
     return form;
 }
@@ -115,20 +81,10 @@ const Phrase &phraseById(std::string_view id, std::span<const Phrase> phrases,
     return found == phrases.end() ? fallback : *found;
 }
 
-std::string normalizeForSearch(std::string_view text)
-{
-    std::string form = Base::foldCaseAndDiacritics(text);
-    removeArabicMarks(form);
-    for (const std::string_view alef : {"\u0623", "\u0625", "\u0622"}) {
-        Base::replaceAll(form, alef, kPlainAlef);
-    }
-    return form;
-}
-
 std::vector<const Phrase *> searchPhrases(std::span<const Phrase> phrases,
                                           std::string_view query)
 {
-    const std::string wanted = looseForm(query);
+    const std::string wanted = looseSearchForm(query);
     const auto words = Base::split(wanted, ' ');
     std::vector<const Phrase *> found;
     for (const Phrase &phrase : phrases) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KestCore/SearchForm.h"
 #include "KestCore/Vocabulary.h"
 
 #include <optional>
@@ -72,10 +73,6 @@ bool isNameId(std::string_view id);
 // longer in the catalogue keeps working.
 const Phrase &phraseById(std::string_view id, std::span<const Phrase> phrases,
                          const Phrase &fallback);
-
-// The form in which texts are compared when searching: no case, no diacritics, no harakat or
-// tatweel, every alef a plain one.
-std::string normalizeForSearch(std::string_view text);
 
 // The phrases in which every word of the query occurs, in catalogue order. Spaces, hyphens
 // and the signs for hamza and ayn may be left out, as people type "allahu akbar" and "mumin".

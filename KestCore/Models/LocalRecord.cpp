@@ -37,6 +37,13 @@ bool hasPayload(const LocalRecord &record)
     return payload && keepsRules(*payload);
 }
 
+// A record that waits in the bin: its body is the record that was removed.
+bool holdsRecord(const LocalRecord &record)
+{
+    const auto held = json::decode<LocalRecord>(std::string_view{record.body});
+    return held && held->kind != record.kind && validate(*held);
+}
+
 struct KindRule {
     std::string_view kind;
     bool (*accepts)(const LocalRecord &);
@@ -57,6 +64,7 @@ constexpr KindRule kKindRules[] = {
     {"usage", hasPayload<ApplicationUsage>, kInvalidUtilityRecord},
     {"shelf", hasPayload<ShelfItem>, kInvalidUtilityRecord},
     {"file", hasPayload<FileItem>, kInvalidUtilityRecord},
+    {"trash", holdsRecord, kInvalidUtilityRecord},
 };
 
 } // namespace
@@ -73,6 +81,8 @@ Result<void> validate(const LocalRecord &record)
     }
     return {};
 }
+
+KestError removedItem() { return KestError::invalidData("This item was removed."); }
 
 Result<LocalRecord> decodeLocalRecord(const json::PaddedText &text)
 {

@@ -39,6 +39,9 @@ static_assert(json::coversAllMembers<LocalRecord>());
 // "Invalid timer" or "Invalid utility record".
 [[nodiscard]] Result<void> validate(const LocalRecord &record);
 
+// What is said of an id that no record has, or has no more: "This item was removed."
+KestError removedItem();
+
 // A stored row as a record; fails with "Invalid utility record" when it does not decode.
 [[nodiscard]] Result<LocalRecord> decodeLocalRecord(const json::PaddedText &text);
 

@@ -49,8 +49,6 @@ namespace KestCore
 namespace
 {
 
-constexpr std::size_t kLongestText = 1'000'000; // bytes of one note
-constexpr std::size_t kLongestAddress = 8'192;
 
 bool isAbsolutePath(std::string_view path)
 {
@@ -108,7 +106,7 @@ bool keepsRules(const QuickShortcut &shortcut)
 
 bool keepsRules(const StripMessage &message)
 {
-    return !message.text.empty() && Base::countCodePoints(message.text) <= 200;
+    return !message.text.empty() && Base::countCodePoints(message.text) <= kLongestStripMessage;
 }
 
 bool keepsRules(const Completion &completion)

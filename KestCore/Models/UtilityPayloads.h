@@ -5,6 +5,7 @@
 #include "KestCore/Surfaces/MessageAnimation.h"
 #include "KestCore/Vocabulary.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -15,6 +16,10 @@
 // sense. Texts are bounded so that one record cannot make every snapshot slow.
 namespace KestCore
 {
+
+inline constexpr std::size_t kLongestText = 1'000'000;   // bytes of one note
+inline constexpr std::size_t kLongestAddress = 8'192;    // bytes
+inline constexpr std::size_t kLongestStripMessage = 200; // characters
 
 // Whether the text is one https:// or http:// address and nothing else.
 bool isWebAddress(std::string_view text);

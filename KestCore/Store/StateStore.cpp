@@ -389,7 +389,7 @@ Result<Snapshot> StateStore::updateRecord(std::string_view id, const RecordMutat
 {
     KEST_TRY(auto found, record(id));
     if (!found) {
-        return std::unexpected(KestError::invalidData("This item was removed."));
+        return std::unexpected(removedItem());
     }
     KEST_CHECK(mutation(*found));
     if (found->id != id) {

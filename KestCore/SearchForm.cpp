@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/SearchForm.h"
+
+#include "Base/Text.h"
+
+namespace KestCore
+{
+
+namespace
+{
+
+constexpr std::string_view kPlainAlef = "\u0627";
+
+// Harakat and Quranic marks U+064B to U+065F are D9 8B to D9 9F in UTF-8.
+void removeArabicMarks(std::string &text)
+{
+    std::string kept;
+    kept.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const auto lead = static_cast<unsigned char>(text[at]);
+        const auto next = at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) : 0;
+        const bool isHaraka = lead == 0xD9 && next >= 0x8B && next <= 0x9F;
+        const bool isSuperscriptAlef = lead == 0xD9 && next == 0xB0;
+        const bool isTatweel = lead == 0xD9 && next == 0x80;
+        if (isHaraka || isSuperscriptAlef || isTatweel) {
+            ++at;
+            continue;
+        }
+        kept += text[at];
+    }
+    text = std::move(kept);
+}
+
+} // namespace
+
+std::string normalizeForSearch(std::string_view text)
+{
+    std::string form = Base::foldCaseAndDiacritics(text);
+    removeArabicMarks(form);
+    for (const std::string_view alef : {"\u0623", "\u0625", "\u0622"}) {
+        Base::replaceAll(form, alef, kPlainAlef);
+    }
+    return form;
+}
+
+std::string looseSearchForm(std::string_view text)
+{
+    std::string form = normalizeForSearch(text);
+    Base::replaceAll(form, "\u0671", kPlainAlef);
+    for (const std::string_view dropped :
+         {"\u02BE", "\u02BF", "\u2018", "\u2019", "'", "`", "-", "\u2013", "\u2014"}) {
+        Base::replaceAll(form, dropped, "");
+    }
+    return form;
+}
+
+} // namespace KestCore

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/Tools/Notes.h"
+#include "cli/ItemAnswers.h"
+#include "cli/ListCommands.h"
+
+#include <CLI/CLI.hpp>
+
+// note: the notes, and the scratchpad.
+namespace Cli
+{
+
+namespace
+{
+
+using KestCore::LocalRecord;
+using KestCore::NoteChange;
+using KestCore::RecordList;
+
+constexpr const char *kWhenEmpty = "No notes yet.";
+
+struct Arguments {
+    NoteChange change{};
+    std::string id{};
+    std::string query{};
+    std::optional<std::string> appended{};
+    bool replaces{};
+};
+
+// Standard input may take its time; the store is opened after it.
+Result<void> readInput(NoteChange &change)
+{
+    if (change.text) {
+        KEST_TRY(change.text, textOrInput(*change.text));
+    }
+    return {};
+}
+
+Result<void> runAdd(const ListTool &tool, NoteChange given)
+{
+    if (!given.title && !given.text) {
+        given.text = "-";
+    }
+    KEST_CHECK(readInput(given));
+    return runOnList(tool, [&](RecordList &list) -> Result<std::vector<LocalRecord>> {
+        KEST_TRY(auto note, KestCore::makeNote(given));
+        KEST_TRY(note, list.add(std::move(note), KestCore::ListEnd::front));
+        return std::vector{std::move(note)};
+    });
+}
+
+Result<void> runEdit(const ListTool &tool, const std::string &id, NoteChange change)
+{
+    KEST_CHECK(readInput(change));
+    return runOnList(tool, [&](RecordList &list) -> Result<std::vector<LocalRecord>> {
+        KEST_TRY(auto note, list.edit(id, [&](LocalRecord &record) {
+            return KestCore::changeNote(record, change);
+        }));
+        return std::vector{std::move(note)};
+    });
+}
+
+Result<void> runSearch(const Session &session, const std::string &query)
+{
+    KEST_TRY(auto store, session.openStore());
+    KEST_TRY(const auto notes,
+             RecordList(store, KestCore::kNoteKind, Base::wallClock()).items());
+    return printHits(session.console, KestCore::searchNotes(notes, query));
+}
+
+Result<void> runShow(const Session &session, const std::string &id)
+{
+    KEST_TRY(auto store, session.openStore());
+    KEST_TRY(const auto record,
+             RecordList(store, KestCore::kNoteKind, Base::wallClock()).find(id));
+    if (session.console.isJson) {
+        return printItems(session.console, {record}, kWhenEmpty);
+    }
+    KEST_TRY(const auto note,
+             Base::json::decode<KestCore::Note>(std::string_view{record.body}));
+    printText(session.console, note.text);
+    return {};
+}
+
+Result<void> runScratchpad(const Session &session, const Arguments &args)
+{
+    const bool writes = args.replaces || args.appended;
+    std::string text;
+    if (writes) {
+        KEST_TRY(text, textOrInput(args.appended.value_or("-")));
+    }
+    KEST_TRY(auto store, session.openStore());
+    if (args.appended) {
+        KEST_CHECK(KestCore::appendToScratchpad(store, text, Base::wallClock()));
+    } else if (args.replaces) {
+        KEST_CHECK(KestCore::replaceScratchpad(store, text, Base::wallClock()));
+    }
+    KEST_TRY(const auto page, KestCore::readScratchpad(store));
+    PageAnswer answer{.text = page.text};
+    if (page.updated) {
+        KEST_TRY(answer.updated, Base::toIso8601(*page.updated));
+    }
+    return session.console.answer(answer, [&] {
+        if (!writes) {
+            printText(session.console, page.text);
+        }
+    });
+}
+
+void addAdd(const ListTool &tool, const std::shared_ptr<Arguments> &args)
+{
+    CLI::App *add = tool.command->add_subcommand("add", "Adds a note, at the front");
+    add->add_option("TITLE", args->change.title,
+                    "Its title; else its first line is. Alone, all there is to the note");
+    add->add_option("TEXT", args->change.text,
+                    "Its text, or - for standard input, as without any argument");
+    add->callback([=] { tool.session->command = [=] { return runAdd(tool, args->change); }; });
+}
+
+void addEdit(const ListTool &tool, const std::shared_ptr<Arguments> &args)
+{
+    CLI::App *edit = tool.command->add_subcommand("edit", "Changes a note");
+    edit->add_option("ID", args->id, "As list shows it, or the beginning of it")->required();
+    edit->add_option("--title", args->change.title, "Its new title; \"\" for the first line");
+    edit->add_option("--text", args->change.text, "Its new text, or - for standard input");
+    edit->callback([=] {
+        if (!args->change.title && !args->change.text) {
+            throw CLI::RequiredError("--title or --text");
+        }
+        tool.session->command = [=] { return runEdit(tool, args->id, args->change); };
+    });
+}
+
+void addScratchpad(const ListTool &tool, const std::shared_ptr<Arguments> &args)
+{
+    CLI::App *page = tool.command->add_subcommand("scratchpad", "Prints the scratchpad");
+    CLI::Option *append = page->add_option("--append", args->appended,
+                                           "Add a line to it, or - for standard input");
+    page->add_flag("--replace", args->replaces, "Put standard input in its place")
+        ->excludes(append);
+    page->callback(
+        [=] { tool.session->command = [=] { return runScratchpad(*tool.session, *args); }; });
+}
+
+} // namespace
+
+void addNoteCommands(CLI::App &program, Session &session)
+{
+    const auto args = std::make_shared<Arguments>();
+    const ListTool tool{.command = program.add_subcommand("note", "Keeps notes"),
+                        .session = &session,
+                        .kind = KestCore::kNoteKind,
+                        .whenEmpty = kWhenEmpty};
+    tool.command->require_subcommand(1);
+    addBasicCommands(tool);
+    CLI::App *show = tool.command->add_subcommand("show", "Prints a note's text");
+    show->add_option("ID", args->id, "As list shows it, or the beginning of it")->required();
+    show->callback(
+        [=] { tool.session->command = [=] { return runShow(*tool.session, args->id); }; });
+    addAdd(tool, args);
+    addEdit(tool, args);
+    addPinCommands(tool);
+    addRestoreCommand(tool);
+    CLI::App *search = tool.command->add_subcommand("search", "Finds notes by their words");
+    search->add_option("TEXT", args->query, "Words, without regard to case and marks")
+        ->required();
+    search->callback(
+        [=] { tool.session->command = [=] { return runSearch(*tool.session, args->query); }; });
+    addScratchpad(tool, args);
+}
+
+} // namespace Cli

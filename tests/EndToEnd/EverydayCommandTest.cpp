@@ -1,0 +1,264 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Base/File.h"
+#include "KestCore/Store/StateStore.h"
+#include "tests/EndToEnd/Program.h"
+#include "tests/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <fstream>
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::MatchesRegex;
+using testing::Not;
+using testing::StartsWith;
+using Words = std::vector<std::string>;
+
+namespace
+{
+
+constexpr int kRefused = 1;
+constexpr int kWrongUsage = 2;
+
+// The values of a key in a JSON answer, in order.
+Words valuesOf(const std::string &json, const std::string &key)
+{
+    const std::string begin = "\"" + key + "\":\"";
+    Words values;
+    for (auto at = json.find(begin); at != std::string::npos; at = json.find(begin, at)) {
+        at += begin.size();
+        values.push_back(json.substr(at, json.find('"', at) - at));
+    }
+    return values;
+}
+
+Words titles(const TemporaryFolder &folder, const char *tool)
+{
+    return valuesOf(runKest(folder.path(), {"--json", tool, "list"}).out, "title");
+}
+
+std::string idOf(const TemporaryFolder &folder, const char *tool, std::size_t line)
+{
+    return valuesOf(runKest(folder.path(), {"--json", tool, "list"}).out, "id").at(line);
+}
+
+// Runs a line of shell with kest as $K; gives what it prints.
+std::string shell(const TemporaryFolder &folder, const std::string &line)
+{
+    const auto out = folder.path() / "shell-out";
+    const std::string command = "K='" KEST_PROGRAM " --data-dir " + folder.path().string() +
+                                "'; (" + line + ") >" + out.string() + " 2>&1";
+    EXPECT_EQ(std::system(command.c_str()), 0) << line;
+    return Base::readFile(out).value_or("");
+}
+
+} // namespace
+
+TEST(EverydayCommands, KeepNotesInTheOrderThatIsWanted)
+{
+    const TemporaryFolder folder;
+    const auto kest = [&](Words words) { return runKest(folder.path(), std::move(words)); };
+    for (const char *title : {"three", "two", "one"}) {
+        ASSERT_EQ(kest({"note", "add", title, "text of " + std::string{title}}).status, 0);
+    }
+    EXPECT_THAT(titles(folder, "note"), ElementsAre("one", "two", "three"));
+    const std::string two = idOf(folder, "note", 1);
+    EXPECT_THAT(kest({"--json", "note", "pin", two}).out,
+                MatchesRegex(R"(\[\{"id":"[0-9A-F-]{36}","title":"two","text":"text of two",)"
+                             R"("pinned":true,"updated":"20[0-9T:.-]+Z"\}\])"
+                             "\n"));
+    EXPECT_EQ(kest({"note", "move", idOf(folder, "note", 1), "99"}).status, 0);
+    EXPECT_THAT(titles(folder, "note"), ElementsAre("two", "three", "one"));
+    ASSERT_EQ(kest({"note", "edit", two.substr(0, 8), "--text", "deux"}).status, 0);
+    EXPECT_EQ(kest({"note", "show", two}).out, "deux\n");
+
+    ASSERT_EQ(kest({"note", "remove", two}).status, 0);
+    EXPECT_EQ(kest({"note", "show", two}).err, "kest: This item was removed.\n");
+    EXPECT_THAT(titles(folder, "note"), ElementsAre("three", "one"));
+    EXPECT_EQ(kest({"link", "restore"}).status, kRefused);
+    ASSERT_EQ(kest({"note", "restore"}).status, 0);
+    EXPECT_THAT(titles(folder, "note"), ElementsAre("two", "three", "one"));
+    EXPECT_THAT(kest({"note", "list"}).out, AllOf(HasSubstr("*  two"), HasSubstr("   three")));
+    EXPECT_THAT(valuesOf(kest({"--json", "note", "search", "TEXT of"}).out, "excerpt"),
+                ElementsAre("text of three", "text of one"));
+}
+
+TEST(EverydayCommands, TakeTextsFromStandardInput)
+{
+    const TemporaryFolder folder;
+    EXPECT_THAT(shell(folder, "printf 'first\\nrest\\n' | $K note add --json"),
+                HasSubstr(R"("title":"first","text":"first\nrest","pinned")"));
+    EXPECT_THAT(shell(folder, "printf x | $K note add Title - --json"),
+                HasSubstr(R"("title":"Title","text":"x")"));
+    EXPECT_EQ(shell(folder, "$K note scratchpad --append one && printf two |"
+                            "$K note scratchpad --append - && $K note scratchpad"),
+              "one\ntwo\n");
+    EXPECT_THAT(shell(folder, "! head -c 1000001 /dev/zero | tr '\\0' x |"
+                              "$K note scratchpad --replace"),
+                StartsWith("kest: The scratchpad holds at most 1,000,000 bytes"));
+    EXPECT_EQ(shell(folder, "printf new | $K note scratchpad --replace;"
+                            "$K note scratchpad"),
+              "new\n");
+    EXPECT_EQ(shell(folder, "! printf '\\377' | $K note add"),
+              "kest: Text that is not valid UTF-8 cannot be saved\n");
+}
+
+TEST(EverydayCommands, RefuseAndChangeNothing)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(runKest(folder.path(), {"link", "add", "e.org"}).status, 0);
+    ASSERT_EQ(runKest(folder.path(), {"shelf", "add-text", "t"}).status, 0);
+    const std::string before = runKest(folder.path(), {"records", "--json"}).out;
+    struct Case {
+        Words words;
+        int status;
+        const char *message;
+    };
+    for (const auto &[words, status, message] : {
+             Case{{"link", "add", "https://E.org/"},
+                  kRefused,
+                  "kest: This address is saved already, as \"e.org\"\n"},
+             Case{{"link", "add", "data:x"}, kRefused, "kest: Only http:// and https://"},
+             Case{{"link", "edit", "zzz", "--title", "x"},
+                  kRefused,
+                  "kest: This item was removed.\n"},
+             Case{{"link", "pin", ""}, kRefused, "kest: This item was removed.\n"},
+             Case{{"link", "open", "zzz"}, kRefused, "kest: This item was removed.\n"},
+             Case{{"link", "edit", "zzz"}, kWrongUsage, ""},
+             Case{{"note", "add", " "}, kRefused, "kest: A note needs a title or a text\n"},
+             Case{{"note", "add"}, kRefused, "kest: A note needs a title or a text\n"},
+             Case{{"note", "restore"},
+                  kRefused,
+                  "kest: Nothing was removed in the last 30 seconds\n"},
+             Case{{"note", "scratchpad", "--replace", "--append", "x"}, kWrongUsage, ""},
+             Case{{"shelf", "add", "/no/such/file"},
+                  kRefused,
+                  "kest: /no/such/file: No such file or directory\n"},
+             Case{{"shelf", "clear"},
+                  kRefused,
+                  "kest: Confirm before clearing the shelf, as --yes does\n"},
+             Case{{"shelf", "move", "x", "0"}, kWrongUsage, ""},
+             Case{{"message", "add", "a\nb"}, kRefused, "kest: A message is one line"},
+             Case{{"message", "add", "a", "--animation", "jump"}, kWrongUsage, ""},
+             Case{{"emoji", "use", "x"}, kRefused, "kest: \"x\" is no emoji\n"},
+             Case{{"emoji", "cat", "--tone", "blue"}, kWrongUsage, ""},
+             Case{{"emoji"}, kWrongUsage, ""},
+             Case{{"note"}, kWrongUsage, ""},
+         }) {
+        SCOPED_TRACE(testing::PrintToString(words));
+        const auto outcome = runKest(folder.path(), words);
+        EXPECT_EQ(outcome.status, status);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_THAT(outcome.err, StartsWith(message));
+        EXPECT_NE(outcome.err, "");
+    }
+    EXPECT_EQ(runKest(folder.path(), {"records", "--json"}).out, before);
+}
+
+TEST(EverydayCommands, ARestoredLinkDoesNotDoubleAnAddress)
+{
+    const TemporaryFolder folder;
+    const auto kest = [&](Words words) { return runKest(folder.path(), std::move(words)); };
+    ASSERT_EQ(kest({"link", "add", "e.org", "--title", "Old", "--note", "n"}).status, 0);
+    ASSERT_EQ(kest({"link", "remove", idOf(folder, "link", 0)}).status, 0);
+    ASSERT_EQ(kest({"link", "add", "e.org", "--title", "New"}).status, 0);
+    EXPECT_EQ(kest({"link", "restore"}).err,
+              "kest: This address is saved already, as \"New\"\n");
+    ASSERT_EQ(kest({"link", "edit", idOf(folder, "link", 0), "--url", "f.org"}).status, 0);
+    EXPECT_EQ(kest({"link", "restore"}).status, 0);
+    EXPECT_THAT(titles(folder, "link"), testing::UnorderedElementsAre("Old", "New"));
+}
+
+TEST(EverydayCommands, OpenALinkAsOneArgument)
+{
+    const TemporaryFolder folder;
+    const auto opener = folder.path() / "xdg-open";
+    std::ofstream{opener}
+        << "#!/bin/sh\nprintf '%s|' $# \"$@\" > \"$(dirname \"$0\")/opened\"\n";
+    ASSERT_EQ(chmod(opener.c_str(), 0700), 0);
+    const std::string address = "https://e.org/$(touch${IFS}x);'&q=\"1\"";
+    ASSERT_EQ(runKest(folder.path(), {"link", "add", address}).status, 0);
+    const std::string id = idOf(folder, "link", 0);
+    EXPECT_EQ(shell(folder, "PATH=" + folder.path().string() + ":$PATH $K link open " + id),
+              "");
+    EXPECT_EQ(Base::readFile(folder.path() / "opened").value_or(""), "1|" + address + "|");
+    EXPECT_THAT(shell(folder, "! PATH=/nowhere $K link open " + id),
+                StartsWith("kest: xdg-open could not be started"));
+}
+
+TEST(EverydayCommands, TheShelfTellsWhereFilesAreAndLeavesThemAlone)
+{
+    const TemporaryFolder folder;
+    const auto kest = [&](Words words) { return runKest(folder.path(), std::move(words)); };
+    const auto stays = folder.path() / "stays";
+    const auto moves = folder.path() / "moves";
+    const auto goes = folder.path() / "goes";
+    for (const auto &file : {stays, moves, goes}) {
+        std::ofstream{file} << file.string();
+    }
+    ASSERT_EQ(kest({"shelf", "add", stays, moves, goes}).status, 0);
+    std::filesystem::rename(moves, folder.path() / "moved");
+    std::filesystem::remove(goes);
+    const auto list = kest({"--json", "shelf", "list"});
+    EXPECT_THAT(valuesOf(list.out, "state"), ElementsAre("present", "moved", "missing"));
+    EXPECT_THAT(valuesOf(list.out, "foundAt"), ElementsAre((folder.path() / "moved").string()));
+    ASSERT_EQ(kest({"shelf", "clear", "--yes"}).status, 0);
+    EXPECT_EQ(kest({"--json", "shelf", "list"}).out, "[]\n");
+    EXPECT_EQ(Base::readFile(stays).value_or(""), stays.string());
+    ASSERT_EQ(kest({"shelf", "restore"}).status, 0);
+    EXPECT_EQ(kest({"--json", "shelf", "list"}).out, list.out);
+}
+
+TEST(EverydayCommands, KeepMessagesAndFindEmoji)
+{
+    const TemporaryFolder folder;
+    const auto kest = [&](Words words) { return runKest(folder.path(), std::move(words)); };
+    ASSERT_EQ(kest({"message", "add", "Salam", "--animation", "wave"}).status, 0);
+    ASSERT_EQ(kest({"message", "add", "Bismillah"}).status, 0);
+    ASSERT_EQ(kest({"message", "move", idOf(folder, "message", 1), "1"}).status, 0);
+    EXPECT_THAT(valuesOf(kest({"--json", "message", "list"}).out, "animation"),
+                ElementsAre("scroll", "wave"));
+
+    EXPECT_THAT(
+        kest({"--json", "emoji", "thumbs", "up"}).out,
+        StartsWith("[{\"emoji\":\"\U0001F44D\",\"name\":\"thumbs up\",\"arabicName\":"));
+    ASSERT_EQ(kest({"settings", "set", "emoji.skinTone", "dark"}).status, 0);
+    EXPECT_THAT(kest({"emoji", "thumbs up"}).out,
+                StartsWith("\U0001F44D\U0001F3FF  thumbs up"));
+    EXPECT_THAT(kest({"emoji", "thumbs up", "--tone", "light"}).out,
+                StartsWith("\U0001F44D\U0001F3FB"));
+    EXPECT_EQ(kest({"emoji", "use", "\U0001F54C"}).out, "\U0001F54C\n");
+    EXPECT_THAT(kest({"--json", "emoji", "recent"}).out,
+                AllOf(HasSubstr("\"name\":\"mosque\""), HasSubstr("\"uses\":1,")));
+    EXPECT_THAT(kest({"complete", "--", "message", "add", "x", "--animation"}).out,
+                HasSubstr("rainbow\n"));
+}
+
+TEST(EverydayCommands, StoredTextsCannotDriveTheTerminal)
+{
+    const TemporaryFolder folder;
+    {
+        auto store = *KestCore::StateStore::open(folder.database());
+        ASSERT_TRUE(store.changeRecords(
+            {.written = {{.id = "\x1b[2J",
+                          .kind = "link",
+                          .title = "\x1b[2J",
+                          .body = R"({"url":"https://e\u001b[2J","note":"\u001b[2J"})"},
+                         {.id = "2",
+                          .kind = "emoji",
+                          .title = "\x1b[2J",
+                          .body = R"({"emoji":"\u001b[2J","uses":1})"}}}));
+    }
+    for (const Words &words :
+         {Words{"link", "list"}, {"link", "search", "e"}, {"emoji", "recent"}}) {
+        const auto outcome = runKest(folder.path(), words);
+        EXPECT_EQ(outcome.status, 0) << outcome.err;
+        EXPECT_THAT(outcome.out, AllOf(HasSubstr("[2J"), Not(HasSubstr("\x1b"))));
+    }
+}

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/Tools/Emoji.h"
+
+#include "Base/Text.h"
+#include "KestCore/Tools/RecentEmoji.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <set>
+
+namespace KestCoreTests
+{
+
+using namespace KestCore;
+
+namespace
+{
+
+const Base::Instant kNow = Base::fromSeconds1970(1'800'000'000);
+constexpr double kDay = 24 * 3600;
+
+std::vector<std::string_view> found(std::string_view query, std::size_t limit = 1000)
+{
+    std::vector<std::string_view> texts;
+    for (const Emoji *emoji : searchEmoji(query, limit)) {
+        texts.push_back(emoji->text);
+    }
+    return texts;
+}
+
+std::string toned(std::string_view text, SkinTone tone)
+{
+    return withTone(*emojiOf(text), tone);
+}
+
+bool hasLetters(std::string_view words, bool arabic)
+{
+    return std::ranges::any_of(words, [&](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return arabic ? byte >= 0xD8 && byte <= 0xDB : c >= 'a' && c <= 'z';
+    });
+}
+
+// The records after these uses, each of an emoji at so many seconds from now.
+std::vector<LocalRecord> used(const std::vector<std::pair<std::string, double>> &uses)
+{
+    std::vector<LocalRecord> records;
+    for (const auto &[emoji, seconds] : uses) {
+        const auto changes = usingEmoji(records, emoji, kNow + Base::Seconds{seconds});
+        for (const LocalRecord &written : changes->written) {
+            std::erase_if(records, [&](const auto &old) { return old.id == written.id; });
+            records.push_back(written);
+        }
+        std::erase_if(records, [&](const LocalRecord &record) {
+            return std::ranges::find(changes->removed, record.id) != changes->removed.end();
+        });
+    }
+    return records;
+}
+
+} // namespace
+
+TEST(Emoji, TheListIsWhole)
+{
+    std::set<std::string_view> texts;
+    std::size_t withTones = 0;
+    for (const Emoji &emoji : allEmoji()) {
+        SCOPED_TRACE(emoji.text);
+        EXPECT_TRUE(texts.insert(emoji.text).second);
+        EXPECT_EQ(emojiOf(emoji.text), &emoji);
+        EXPECT_TRUE(hasLetters(emoji.words, false));
+        EXPECT_TRUE(hasLetters(emoji.arabicWords, true));
+        for (const auto &[words, name] :
+             {std::pair{emoji.words, emoji.name}, {emoji.arabicWords, emoji.arabicName}}) {
+            // The list is made by another program; both must fold words in the same way.
+            const auto pieces = Base::split(words, '|');
+            EXPECT_EQ(pieces.front(), emojiSearchForm(name));
+            for (const std::string_view word : pieces) {
+                EXPECT_EQ(emojiSearchForm(word), word);
+            }
+        }
+        if (!emoji.toned.empty()) {
+            ++withTones;
+            EXPECT_EQ(emojiOf(withTone(emoji, SkinTone::mediumDark)), &emoji);
+        }
+    }
+    EXPECT_GT(texts.size(), 1800U);
+    EXPECT_GT(withTones, 300U);
+}
+
+TEST(Emoji, TonesGoToEachPersonAndToNothingElse)
+{
+    using enum SkinTone;
+    for (const auto &[text, tone, expected] :
+         std::initializer_list<std::tuple<const char *, SkinTone, const char *>>{
+             {"\U0001F44D", dark, "\U0001F44D\U0001F3FF"},
+             {"\U0001F44D", none, "\U0001F44D"},
+             {"\u261D\uFE0F", light, "\u261D\U0001F3FB"},
+             {"\U0001F575\uFE0F\u200D\u2640\uFE0F", medium,
+              "\U0001F575\U0001F3FD\u200D\u2640\uFE0F"},
+             {"\U0001F9D1\u200D\U0001F91D\u200D\U0001F9D1", mediumLight,
+              "\U0001F9D1\U0001F3FC\u200D\U0001F91D\u200D\U0001F9D1\U0001F3FC"},
+             {"\U0001F46B", mediumDark, "\U0001F46B\U0001F3FE"},
+             {"\U0001F355", dark, "\U0001F355"},
+             {"\U0001F468\u200D\U0001F469\u200D\U0001F467", dark,
+              "\U0001F468\u200D\U0001F469\u200D\U0001F467"},
+         }) {
+        EXPECT_EQ(toned(text, tone), expected);
+    }
+    EXPECT_EQ(chosenTone({{"emoji.skinTone", "medium-dark"}}), mediumDark);
+    EXPECT_EQ(chosenTone({{"emoji.skinTone", "green"}}), none);
+    EXPECT_EQ(chosenTone({}), none);
+}
+
+TEST(Emoji, AreKnownWithAnyToneAndNothingElseIs)
+{
+    for (const auto &[text, name] :
+         std::initializer_list<std::pair<const char *, const char *>>{
+             {"\u2764", "red heart"},
+             {"\u261D\U0001F3FE", "index pointing up"},
+             {"\U0001F469\U0001F3FB\u200D\U0001F91D\u200D\U0001F468\U0001F3FF",
+              "woman and man holding hands"},
+             {"\U0001F1F8\U0001F1E6", "flag: Saudi Arabia"},
+         }) {
+        ASSERT_NE(emojiOf(text), nullptr) << text;
+        EXPECT_EQ(emojiOf(text)->name, name);
+    }
+    for (const char *text : {"", "x", "\uFE0F", "\U0001F3FB", "\U0001F355\U0001F3FB",
+                             "\U0001F355\U0001F355", "\U0001F1F8"}) {
+        EXPECT_EQ(emojiOf(text), nullptr) << text;
+    }
+}
+
+TEST(Emoji, AreFoundInBothLanguagesTheBestFirst)
+{
+    for (const auto &[query, first] :
+         std::initializer_list<std::pair<const char *, const char *>>{
+             {"mosque", "\U0001F54C"},
+             {":thumbs_up:", "\U0001F44D"},
+             {"+1", "\U0001F44D"},
+             {"RED  heart", "\u2764\uFE0F"},
+             {"\u0645\u064E\u0633\u0652\u062C\u0650\u062F", "\U0001F54C"},
+             {"\u0627\u0644\u0645\u0633\u062C\u062F", "\U0001F54C"},
+             {"\u0645\u0635\u0627\u0641\u062D\u0647", "\U0001F91D"},
+             {"saudi", "\U0001F1F8\U0001F1E6"},
+             {"palms prayer", "\U0001F932"},
+         }) {
+        EXPECT_EQ(found(query, 1), std::vector<std::string_view>{first}) << query;
+    }
+    const auto cats = found("cat");
+    const auto placeOf = [&](std::string_view emoji) {
+        return std::ranges::find(cats, emoji) - cats.begin();
+    };
+    const std::string_view exact = "\U0001F408";     // cat
+    const std::string_view wordStart = "\U0001F63A"; // "grinning cat", by the keyword cat
+    const std::string_view inside = "\U0001F393";    // "graduation cap": edu-cat-ion
+    EXPECT_EQ(placeOf(exact), 0);
+    EXPECT_LT(placeOf(wordStart), placeOf(inside));
+    EXPECT_TRUE(found("").empty());
+    EXPECT_TRUE(found(":_:").empty());
+    EXPECT_TRUE(found("qwxzy").empty());
+    EXPECT_TRUE(found("cat qwxzy").empty());
+}
+
+TEST(Emoji, ABrokenListIsRefusedByItsLine)
+{
+    for (const char *line : {"", "x", "x\tn\ta\tw", "x\tn\ta\tw\tv\tno tone", "x\tn\t\tw\tv",
+                             "x\tn\ta\tw\tv\t\U0001F44D\U0001F3FB\ty\tz"}) {
+        EXPECT_EQ(parseEmoji(std::string{"# a\n#\n"} + line + "\n").error().message,
+                  std::string{"bad line 3: \""} + line + "\"");
+    }
+}
+
+TEST(RecentEmoji, WeighUsesAgainstTime)
+{
+    const std::string pizza = "\U0001F355";
+    const std::string thumb = "\U0001F44D\U0001F3FD";
+    const std::string cat = "\U0001F408";
+    // Three uses three weeks ago weigh less than one today; two a day ago weigh more.
+    const auto records = used({{pizza, -21 * kDay},
+                               {pizza, -21 * kDay},
+                               {pizza, -21 * kDay},
+                               {cat, -kDay},
+                               {cat, -kDay},
+                               {thumb, -60}});
+    const auto recent = recentEmoji(records, kNow, 10);
+    ASSERT_EQ(recent.size(), 3U);
+    EXPECT_EQ(recent[0].emoji, cat);
+    EXPECT_EQ(recent[1], (RecentEmoji{thumb, 1, kNow - Base::Seconds{60}}));
+    EXPECT_EQ(recent[2].uses, 3);
+    EXPECT_EQ(recentEmoji(records, kNow, 2).size(), 2U);
+    EXPECT_FALSE(usingEmoji(records, "pizza", kNow));
+    // From a clock that ran ahead: no more than its one use.
+    EXPECT_EQ(recentEmoji(used({{cat, 0}, {cat, 0}, {thumb, 90 * kDay}}), kNow, 1)[0].emoji,
+              cat);
+}
+
+TEST(RecentEmoji, TheLeastUsedOfManyAreForgotten)
+{
+    std::vector<std::pair<std::string, double>> uses{{"\U0001F408", -9 * kDay}};
+    for (int at = 0; at < 110; ++at) {
+        uses.emplace_back(allEmoji()[static_cast<std::size_t>(at)].text, at);
+    }
+    const auto records = used(uses);
+    EXPECT_EQ(records.size(), 100U);
+    EXPECT_EQ(recentEmoji(records, kNow, 1)[0].emoji, allEmoji()[109].text);
+    EXPECT_TRUE(std::ranges::none_of(
+        records, [](const LocalRecord &record) { return record.title == "cat"; }));
+}
+
+} // namespace KestCoreTests
