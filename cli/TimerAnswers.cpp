@@ -18,14 +18,6 @@ namespace
 
 using KestCore::Timer;
 
-std::vector<std::string> idsOf(std::span<const Timer> timers)
-{
-    std::vector<std::string> ids;
-    std::ranges::transform(timers, std::back_inserter(ids),
-                           [](const Timer &timer) { return timer.record.id; });
-    return ids;
-}
-
 TimerAnswer answerOf(const Timer &timer, Base::Instant now)
 {
     const auto &state = timer.state;
@@ -75,7 +67,7 @@ Result<std::vector<Timer>> timersIn(KestCore::StateStore &store)
 
 Result<std::size_t> findTimer(std::span<const Timer> timers, std::string_view typed)
 {
-    return KestCore::findByIdPrefix(idsOf(timers), typed, "timer");
+    return KestCore::findByIdPrefix(KestCore::idsOf(timers, &Timer::record), typed, "timer");
 }
 
 Result<void> answerTimers(const Console &console, std::span<const Timer> shown,
@@ -86,7 +78,8 @@ Result<void> answerTimers(const Console &console, std::span<const Timer> shown,
         answers.push_back(answerOf(timer, now));
     }
     return console.answer(answers, [&] {
-        const std::size_t idLength = KestCore::shortIdLength(idsOf(all));
+        const std::size_t idLength =
+            KestCore::shortIdLength(KestCore::idsOf(all, &Timer::record));
         std::vector<std::vector<std::string>> rows;
         for (const Timer &timer : shown) {
             rows.push_back(

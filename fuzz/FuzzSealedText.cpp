@@ -11,8 +11,8 @@ namespace
 const Base::AesKey &key()
 {
     static const auto kKey =
-        Base::AesKey::fromBytes(std::array<std::uint8_t, Base::AesKey::kSize>{1, 2, 3});
-    return kKey ? *kKey : std::abort(), *kKey;
+        Base::AesKey::fromBytes(std::array<std::uint8_t, Base::AesKey::kSize>{1, 2, 3}).value();
+    return kKey;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "Base/Uuid.h"
 #include "KestCore/Clipboard/ClipboardPrivacy.h"
 #include "KestCore/Clipboard/ClipboardRetention.h"
+#include "KestCore/Models/RecordIds.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,7 +20,6 @@ namespace
 
 constexpr const char *kDamagedImage = "This saved image is damaged.";
 constexpr const char *kDamagedEntry = "This saved entry cannot be opened.";
-constexpr const char *kRemoved = "This item was removed.";
 
 void addRemoval(std::string_view id, RecordChanges &changes)
 {
@@ -36,15 +36,6 @@ Base::Instant toMilliseconds(Base::Instant instant)
 bool comesBefore(const ClipboardIndexRow &a, const ClipboardIndexRow &b)
 {
     return ClipboardRetention::comesBefore(a.entry(), b.entry());
-}
-
-std::string upperCase(std::string_view text)
-{
-    std::string upper{text};
-    std::ranges::transform(upper, upper.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    return upper;
 }
 
 bool isTextual(ClipboardKind kind)
@@ -175,31 +166,17 @@ Result<bool> ClipboardHistory::hasWords(const ClipboardIndexRow &row, std::strin
 
 Result<ClipboardEntry> ClipboardHistory::find(std::string_view idOrBeginning)
 {
-    const std::string wanted = upperCase(idOrBeginning);
     KEST_TRY(const Rows all, rows());
-    std::vector<ClipboardEntry> found;
-    for (const ClipboardIndexRow &row : all) {
-        const std::string id = upperCase(row.id);
-        if (id == wanted) {
-            return row.entry();
-        }
-        if (id.starts_with(wanted) && !wanted.empty()) {
-            found.push_back(row.entry());
-        }
-    }
-    if (found.size() == 1) {
-        return found.front();
-    }
-    const char *reason = found.empty() ? "No clipboard entry has the id \""
-                                       : "More than one clipboard entry has an id like \"";
-    return std::unexpected(KestError::invalidData(reason + std::string{idOrBeginning} + "\""));
+    KEST_TRY(const std::size_t at,
+             findByIdPrefix(idsOf(all), idOrBeginning, "clipboard entry"));
+    return all[at].entry();
 }
 
 Result<ClipboardPayload> ClipboardHistory::content(std::string_view id)
 {
     KEST_TRY(const auto record, m_store.record(id));
     if (!record || !isContentRecord(*record)) {
-        return std::unexpected(KestError::invalidData(kRemoved));
+        return std::unexpected(removedItem());
     }
     auto payload = ClipboardCipher::open(record->body, m_key);
     if (!payload) {
@@ -246,7 +223,7 @@ Result<ClipboardEntry> ClipboardHistory::setFavourite(std::string_view id, bool 
     KEST_TRY(auto row, rowOf(id));
     KEST_TRY(auto record, m_store.record(id));
     if (!row || !record) {
-        return std::unexpected(KestError::invalidData(kRemoved));
+        return std::unexpected(removedItem());
     }
     row->favourite = favourite;
     KEST_TRY(LocalRecord index, indexRecord(*row));

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <set>
-#include <vector>
 
 namespace KestCore
 {

@@ -3,8 +3,8 @@
 #include "KestCore/Tools/RecordList.h"
 
 #include "Base/Uuid.h"
+#include "KestCore/Models/RecordIds.h"
 #include "KestCore/Tools/RecordBin.h"
-#include "KestCore/Tools/RecordLookup.h"
 
 #include <algorithm>
 
@@ -19,8 +19,9 @@ Result<std::vector<LocalRecord>> RecordList::items()
 
 Result<LocalRecord> RecordList::find(std::string_view idPrefix)
 {
-    KEST_TRY(const auto records, m_store.recordsOfKind(m_kind));
-    return findByIdPrefix(records, idPrefix);
+    KEST_TRY(auto records, m_store.recordsOfKind(m_kind));
+    KEST_TRY(const std::size_t at, findByIdPrefix(idsOf(records), idPrefix, "item"));
+    return std::move(records[at]);
 }
 
 Result<void> RecordList::write(std::vector<LocalRecord> records)
@@ -81,12 +82,13 @@ Result<LocalRecord> RecordList::pin(std::string_view idPrefix, bool pinned)
 Result<LocalRecord> RecordList::move(std::string_view idPrefix, std::size_t line)
 {
     KEST_TRY(const auto ordered, items());
-    KEST_TRY(LocalRecord record, findByIdPrefix(ordered, idPrefix));
-    auto changed = moved(ordered, record.id, line);
+    KEST_TRY(const std::size_t at, findByIdPrefix(idsOf(ordered), idPrefix, "item"));
+    const std::string &id = ordered[at].id;
+    auto changed = moved(ordered, id, line);
     if (!changed.empty()) {
         KEST_CHECK(write(std::move(changed)));
     }
-    return find(record.id);
+    return find(id);
 }
 
 Result<LocalRecord> RecordList::remove(std::string_view idPrefix)

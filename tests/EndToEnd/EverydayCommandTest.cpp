@@ -79,7 +79,7 @@ TEST(EverydayCommands, KeepNotesInTheOrderThatIsWanted)
     EXPECT_EQ(kest({"note", "show", two}).out, "deux\n");
 
     ASSERT_EQ(kest({"note", "remove", two}).status, 0);
-    EXPECT_EQ(kest({"note", "show", two}).err, "kest: This item was removed.\n");
+    EXPECT_EQ(kest({"note", "show", two}).err, "kest: No item has the id \"" + two + "\"\n");
     EXPECT_THAT(titles(folder, "note"), ElementsAre("three", "one"));
     EXPECT_EQ(kest({"link", "restore"}).status, kRefused);
     ASSERT_EQ(kest({"note", "restore"}).status, 0);
@@ -127,9 +127,9 @@ TEST(EverydayCommands, RefuseAndChangeNothing)
              Case{{"link", "add", "data:x"}, kRefused, "kest: Only http:// and https://"},
              Case{{"link", "edit", "zzz", "--title", "x"},
                   kRefused,
-                  "kest: This item was removed.\n"},
-             Case{{"link", "pin", ""}, kRefused, "kest: This item was removed.\n"},
-             Case{{"link", "open", "zzz"}, kRefused, "kest: This item was removed.\n"},
+                  "kest: No item has the id \"zzz\"\n"},
+             Case{{"link", "pin", ""}, kRefused, "kest: No item has the id \"\"\n"},
+             Case{{"link", "open", "zzz"}, kRefused, "kest: No item has the id \"zzz\"\n"},
              Case{{"link", "edit", "zzz"}, kWrongUsage, ""},
              Case{{"note", "add", " "}, kRefused, "kest: A note needs a title or a text\n"},
              Case{{"note", "add"}, kRefused, "kest: A note needs a title or a text\n"},

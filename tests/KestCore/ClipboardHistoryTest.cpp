@@ -178,8 +178,8 @@ TEST_F(ClipboardHistoryTest, FindsEntriesByTheBeginningOfTheirIds)
         const char *id;
         const char *found;
     };
-    for (const auto &[id, found] : {Case{"ab1", "AB1"}, Case{"AB12", "AB12"}, Case{"ab", ""},
-                                    Case{"", ""}, Case{"B", ""}, Case{"AB123", ""}}) {
+    for (const auto &[id, found] :
+         {Case{"AB1", "AB1"}, Case{"ab12", "AB12"}, Case{"ab", ""}, Case{"B", ""}}) {
         const auto entry = history.find(id);
         EXPECT_EQ(entry ? entry->id : "", found) << id;
     }

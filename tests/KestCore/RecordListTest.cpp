@@ -3,7 +3,6 @@
 #include "KestCore/Tools/RecordList.h"
 
 #include "KestCore/Tools/RecordBin.h"
-#include "KestCore/Tools/RecordLookup.h"
 #include "tests/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -63,28 +62,6 @@ struct Fixture {
 LocalRecord note(const char *title) { return {.title = title, .body = R"({"text":""})"}; }
 
 } // namespace
-
-TEST(RecordLookup, TakesAnIdOrItsBeginning)
-{
-    const std::vector<LocalRecord> records{
-        {.id = "AB12"}, {.id = "AB34"}, {.id = "AB"}, {.id = "c"}, {.id = "\u00C9"}};
-    for (const auto &[prefix, id] :
-         std::initializer_list<std::pair<const char *, const char *>>{{"AB12", "AB12"},
-                                                                      {"ab3", "AB34"},
-                                                                      {"AB", "AB"},
-                                                                      {"C", "c"},
-                                                                      {"\u00C9", "\u00C9"}}) {
-        EXPECT_EQ(findByIdPrefix(records, prefix)->id, id) << prefix;
-    }
-    for (const auto &[prefix, message] :
-         std::initializer_list<std::pair<const char *, const char *>>{
-             {"", "This item was removed."},
-             {"AB123", "This item was removed."},
-             {"x", "This item was removed."},
-             {"ab", "\"ab\" fits 3 items; write more of the id"}}) {
-        EXPECT_EQ(findByIdPrefix(records, prefix).error(), KestError::invalidData(message));
-    }
-}
 
 TEST(RecordOrder, PutsPinnedFirstThenPositionThenAge)
 {
@@ -219,7 +196,8 @@ TEST(RecordList, EveryChangeEmptiesTheBinOfWhatIsOver)
     ASSERT_TRUE(
         f.listAt(Seconds{-3600}).edit(kept, [](LocalRecord &) { return Result<void>{}; }));
     EXPECT_EQ(f.binSize(), 0);
-    EXPECT_EQ(f.listAt(Seconds{0}).remove(gone).error().message, "This item was removed.");
+    EXPECT_EQ(f.listAt(Seconds{0}).remove(gone).error().message,
+              "No item has the id \"" + gone + "\"");
 }
 
 TEST(RecordList, AFailedChangeChangesNothing)

@@ -113,12 +113,13 @@ TEST(Backup, MovesFromOneStoreToAnother)
     const TemporaryFolder into;
     auto source = *StateStore::open(from.database());
     auto target = *StateStore::open(into.database());
-    const std::vector<LocalRecord> local{{.id = "c", .kind = "clipboard", .body = "sealed"},
-                                         {.id = "f",
-                                          .kind = "file",
-                                          .body = R"({"path":"/a",)"
-                                                  R"("pinned":true})"},
-                                         {.id = "x", .kind = "trash"}};
+    const std::vector<LocalRecord> local{
+        {.id = "c", .kind = "clipboard", .body = "sealed"},
+        {.id = "f",
+         .kind = "file",
+         .body = R"({"path":"/a",)"
+                 R"("pinned":true})"},
+        {.id = "x", .kind = "trash", .body = bodyOf(note("x"))}};
     ASSERT_TRUE(target.changeRecords({.written = local}));
     RandomData random{7};
     for (int round = 0; round < 100; ++round) {
@@ -156,7 +157,7 @@ TEST(Backup, LeavesOutWhatIsBoundToTheMachine)
         {.written = {{.id = "c", .kind = "clipboard", .body = "SEALED"},
                      note("n"),
                      {.id = "s", .kind = "shelf", .body = R"({"text":"SHELF"})"},
-                     {.id = "t", .kind = "trash", .body = "TRASH"}}}));
+                     {.id = "t", .kind = "trash", .body = bodyOf(note("t"))}}}));
     const std::string bytes = backupOf(store);
     EXPECT_EQ(bytes, backupWith({bodyOf(note("n"))}, store.state()));
     EXPECT_THAT(*store.portableCounts(), testing::ElementsAre(testing::Pair("note", 1)));
