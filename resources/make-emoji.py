@@ -73,7 +73,7 @@ ADDED_WORDS = {
                    ["شبكة لاسلكية", "إنترنت", "شبكة", "لاسلكي", "واي فاي"]),
 }
 
-# The same comparison as the program's: see EmojiCatalogue.
+# The same comparison as the program's: see emojiSearchForm.
 SAME_LETTERS = str.maketrans({"ة": "ه", "ى": "ي", "\u0671": "ا", "ـ": None, "\u0670": None})
 SIGNS = re.compile("[\\s_:\u2013\u2014\u2019\u2018\u201c\u201d'\"!,.()-]+")
 
