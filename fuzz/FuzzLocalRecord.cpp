@@ -10,8 +10,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         (void)KestCore::validate(*record);
     }
     const std::string body{reinterpret_cast<const char *>(data), size};
-    for (const char *kind : {"link", "timer", "note", "scratchpad", "emoji", "shortcut",
-                             "message", "prayer", "completion", "usage", "shelf", "file", "trash"}) {
+    for (const char *kind :
+         {"link", "timer", "note", "scratchpad", "emoji", "shortcut", "message", "prayer",
+          "completion", "usage", "shelf", "file", "trash"}) {
         (void)KestCore::validate(KestCore::LocalRecord{.kind = kind, .body = body});
     }
     return 0;

@@ -49,7 +49,6 @@ namespace KestCore
 namespace
 {
 
-
 bool isAbsolutePath(std::string_view path)
 {
     return path.starts_with('/') && path.size() <= kLongestAddress && !path.contains('\0');
