@@ -18,15 +18,35 @@ namespace
 
 std::error_code lastError() { return {errno, std::generic_category()}; }
 
+// Where a link leads, also one to a file that is not there yet.
+std::filesystem::path followed(std::filesystem::path path)
+{
+    constexpr int kMostLinks = 40; // as the kernel has it
+    std::error_code error;
+    for (int link = 0; link < kMostLinks && std::filesystem::is_symlink(path, error); ++link) {
+        path = path.parent_path() / std::filesystem::read_symlink(path, error);
+    }
+    return path;
+}
+
 } // namespace
 
 Result<std::string> readFile(const std::filesystem::path &file, std::size_t limit)
 {
-    constexpr std::size_t kRoomBehind = 64;
     const FileDescriptor descriptor{::open(file.c_str(), O_RDONLY | O_CLOEXEC)};
-    struct stat info{};
-    if (!descriptor.isOpen() || fstat(descriptor.get(), &info) != 0) {
+    if (!descriptor.isOpen()) {
         return std::unexpected(fileError(file, lastError()));
+    }
+    return readDescriptor(descriptor.get(), file, limit);
+}
+
+Result<std::string> readDescriptor(int descriptor, const std::filesystem::path &name,
+                                   std::size_t limit)
+{
+    constexpr std::size_t kRoomBehind = 64;
+    struct stat info{};
+    if (fstat(descriptor, &info) != 0) {
+        return std::unexpected(fileError(name, lastError()));
     }
     // The size is only a hint: a file of /proc says 0, and a growing one says too little.
     const auto hint = std::min(static_cast<std::size_t>(info.st_size), limit) + 1;
@@ -35,12 +55,12 @@ Result<std::string> readFile(const std::filesystem::path &file, std::size_t limi
     bytes.resize(hint);
     std::size_t size = 0;
     while (true) {
-        const ssize_t got = ::read(descriptor.get(), bytes.data() + size, bytes.size() - size);
+        const ssize_t got = ::read(descriptor, bytes.data() + size, bytes.size() - size);
         if (got < 0 && errno == EINTR) {
             continue;
         }
         if (got < 0) {
-            return std::unexpected(fileError(file, lastError()));
+            return std::unexpected(fileError(name, lastError()));
         }
         if (got == 0) {
             break;
@@ -69,14 +89,21 @@ ReplacingFile::ReplacingFile(std::filesystem::path target, std::string partial,
 {
 }
 
-Result<ReplacingFile> ReplacingFile::create(const std::filesystem::path &target)
+Result<ReplacingFile> ReplacingFile::create(std::filesystem::path target)
 {
+    target = followed(std::move(target));
+    std::error_code error;
+    const auto status = std::filesystem::status(target, error);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+        return std::unexpected(
+            KestError::unavailable(target.string() + ": This is no regular file"));
+    }
     std::string partial = target.string() + ".XXXXXX";
     FileDescriptor descriptor{::mkostemp(partial.data(), O_CLOEXEC)};
     if (!descriptor.isOpen()) {
         return std::unexpected(fileError(target, lastError()));
     }
-    return ReplacingFile{target, std::move(partial), std::move(descriptor)};
+    return ReplacingFile{std::move(target), std::move(partial), std::move(descriptor)};
 }
 
 ReplacingFile::~ReplacingFile()

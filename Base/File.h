@@ -19,6 +19,11 @@ namespace Base
 readFile(const std::filesystem::path &file,
          std::size_t limit = std::numeric_limits<std::size_t>::max() - 1);
 
+// The same of a file that is open already, such as standard input; a failure calls it `name`.
+[[nodiscard]] Result<std::string>
+readDescriptor(int descriptor, const std::filesystem::path &name,
+               std::size_t limit = std::numeric_limits<std::size_t>::max() - 1);
+
 // What the file system refused, such as "/x/y: Permission denied".
 KestError fileError(const std::filesystem::path &file, std::error_code code);
 
@@ -49,12 +54,13 @@ private:
 };
 
 // A file that is written beside the one whose place it takes, so that a reader sees the old
-// one or the new one and never a part. Only the user can read it. Every failure is
-// unavailable, in the system's words, and leaves the old file as it is.
+// one or the new one and never a part. Only the user can read it. A link is followed and stays.
+// Every failure is unavailable, in the system's words, and leaves the old file as it is.
 class ReplacingFile
 {
 public:
-    [[nodiscard]] static Result<ReplacingFile> create(const std::filesystem::path &target);
+    // Fails for a target that is there and no file, such as a folder, a pipe or a device.
+    [[nodiscard]] static Result<ReplacingFile> create(std::filesystem::path target);
     ReplacingFile(const ReplacingFile &) = delete;
     ReplacingFile &operator=(const ReplacingFile &) = delete;
     ReplacingFile(ReplacingFile &&) noexcept = default;

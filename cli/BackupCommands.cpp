@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <memory>
 #include <numeric>
+#include <optional>
 
 // One file that carries everything to another computer.
 namespace Cli
@@ -22,7 +23,6 @@ namespace
 {
 
 using KestCore::Backup;
-using KestCore::LocalRecord;
 using KestCore::StateStore;
 
 constexpr std::string_view kPipe = "-";
@@ -33,39 +33,44 @@ struct BackupChoice {
     bool isYes = false;
 };
 
-// One line of standard error that is written over and over while a large file is worked on.
+// One line of standard error that is written over and over while a large backup is worked on.
 class ProgressLine
 {
 public:
-    static constexpr std::int64_t kStep = 1'000;
-
-    ProgressLine(std::string_view verb, std::int64_t total)
-        : m_verb(verb), m_total(total),
-          m_isShown(isatty(STDERR_FILENO) != 0 && total > 2 * kStep)
+    explicit ProgressLine(std::string_view verb)
+        : m_verb(verb), m_isTerminal(isatty(STDERR_FILENO) != 0)
     {
     }
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;
     ~ProgressLine()
     {
-        if (m_isShown) {
+        if (m_shown > 0) {
             std::fputs("\r\x1b[K", stderr);
         }
     }
 
-    void show(std::int64_t done) const
+    // Worth a line from the fourth megabyte on.
+    void showBytes(std::size_t done)
     {
-        if (m_isShown && done % kStep == 0) {
-            std::fprintf(stderr, "\r%s record %lld of %lld\x1b[K", m_verb.c_str(),
-                         static_cast<long long>(done), static_cast<long long>(m_total));
+        show(static_cast<std::int64_t>(done / 1'000'000), 4, "MB");
+    }
+    void showRecords(std::int64_t done) { show(done / 1'000, 2, "thousand records"); }
+
+private:
+    void show(std::int64_t done, std::int64_t least, const char *unit)
+    {
+        if (m_isTerminal && done >= least && done != m_shown) {
+            m_shown = done;
+            std::fprintf(stderr, "\r%s: %lld %s\x1b[K", m_verb.c_str(),
+                         static_cast<long long>(done), unit);
             std::fflush(stderr);
         }
     }
 
-private:
     std::string m_verb;
-    std::int64_t m_total;
-    bool m_isShown;
+    bool m_isTerminal;
+    std::int64_t m_shown = 0;
 };
 
 // Gathers small pieces, as most records are much smaller than a write is dear.
@@ -78,6 +83,7 @@ public:
     {
         m_total += piece.size();
         m_gathered += piece;
+        m_progress.showBytes(m_total);
         return m_gathered.size() < kPieceSize ? Result<void>{} : flush();
     }
     Result<void> flush()
@@ -92,6 +98,7 @@ private:
     KestCore::BackupSink m_sink;
     std::string m_gathered;
     std::size_t m_total = 0;
+    ProgressLine m_progress{"Exporting"};
 };
 
 Result<std::int64_t> exportTo(StateStore &store, Gatherer &gatherer)
@@ -104,50 +111,68 @@ Result<std::int64_t> exportTo(StateStore &store, Gatherer &gatherer)
 }
 
 // It is written nonetheless: whoever has so much may still want it in one place.
-void warnAboutSize(std::size_t size)
+void warnAboutLimits(std::size_t size, std::int64_t records)
 {
     if (size > KestCore::kLargestBackup) {
         std::fputs("kest: this backup exceeds the 50 MB that an import accepts\n", stderr);
     }
+    if (records > KestCore::kMostBackupRecords) {
+        std::fputs("kest: this backup exceeds the 100,000 records that an import accepts\n",
+                   stderr);
+    }
+}
+
+std::string recordsText(std::int64_t count)
+{
+    return fmt::format("{} record{}", count, count == 1 ? "" : "s");
 }
 
 Result<void> answerExport(const Session &session, const BackupAnswer &answer,
                           const std::filesystem::path &target)
 {
     return session.console.answer(answer, [&] {
-        session.console.line(fmt::format("{} records and the settings are in {}",
-                                         answer.records, printable(target.string())));
+        session.console.line(fmt::format("{} and the settings are in {}",
+                                         recordsText(answer.records),
+                                         printable(target.string())));
     });
 }
 
-Result<void> exportToFile(const Session &session, StateStore &store,
-                          std::filesystem::path target)
+Result<void> exportToFile(const Session &session, std::filesystem::path target)
 {
     std::error_code error;
     if (std::filesystem::is_directory(target, error)) {
         target /= KestCore::kBackupName;
     }
     KEST_TRY(auto file, Base::ReplacingFile::create(target));
+    KEST_TRY(StateStore store, session.openStore());
     Gatherer gatherer{[&](std::string_view bytes) { return file.write(bytes); }};
     KEST_TRY(const std::int64_t count, exportTo(store, gatherer));
     KEST_CHECK(file.commit());
-    warnAboutSize(gatherer.total());
+    warnAboutLimits(gatherer.total(), count);
     return answerExport(session, {count, store.state().revision}, target);
+}
+
+// Whoever reads the pipe may take his time, and the store must not be held for so long.
+Result<void> exportToPipe(const Session &session)
+{
+    std::string whole;
+    const auto spool = [&]() -> Result<std::int64_t> {
+        KEST_TRY(StateStore store, session.openStore());
+        return store.exportBackup(Base::wallClock(),
+                                  [&](std::string_view piece) -> Result<void> {
+                                      whole += piece;
+                                      return {};
+                                  });
+    };
+    KEST_TRY(const std::int64_t count, spool());
+    session.console.text(whole);
+    warnAboutLimits(whole.size(), count);
+    return Console::flush();
 }
 
 Result<void> exportBackup(const Session &session, const BackupChoice &choice)
 {
-    KEST_TRY(StateStore store, session.openStore());
-    if (choice.file != kPipe) {
-        return exportToFile(session, store, choice.file);
-    }
-    Gatherer gatherer{[&](std::string_view bytes) -> Result<void> {
-        session.console.text(bytes);
-        return Console::flush();
-    }};
-    KEST_TRY([[maybe_unused]] const std::int64_t count, exportTo(store, gatherer));
-    warnAboutSize(gatherer.total());
-    return {};
+    return choice.file == kPipe ? exportToPipe(session) : exportToFile(session, choice.file);
 }
 
 std::int64_t sum(const std::map<std::string, std::int64_t> &counts)
@@ -160,7 +185,7 @@ std::int64_t sum(const std::map<std::string, std::int64_t> &counts)
 // What is there now beside what the backup would put in its place.
 Result<void> printSummary(const Session &session, StateStore &store, const Backup &backup)
 {
-    KEST_TRY(const auto here, store.portableCounts());
+    KEST_TRY(const auto here, store.countsReplacedByImport());
     const auto number = [](std::size_t count) { return std::to_string(count); };
     std::vector<std::vector<std::string>> rows{{"", "here", "in the backup"}};
     rows.push_back({"finished sessions", number(store.state().devotional.records.size()),
@@ -186,16 +211,9 @@ Result<void> printSummary(const Session &session, StateStore &store, const Backu
 }
 
 // Whether the user wants it. Without a terminal to ask on, only --yes says so.
-Result<bool> mayReplace(const Session &session, StateStore &store, const Backup &backup,
-                        const BackupChoice &choice)
+Result<bool> confirmReplacing(const Session &session, bool fromPipe)
 {
-    if (choice.isYes) {
-        return true;
-    }
-    if (!session.console.isJson) {
-        KEST_CHECK(printSummary(session, store, backup));
-    }
-    if (choice.file == kPipe || session.console.isJson || !Console::isInteractive()) {
+    if (fromPipe || session.console.isJson || !Console::isInteractive()) {
         return std::unexpected(KestError::unavailable(fmt::format(
             "{} Say --yes to do it; nothing was changed.", KestCore::kReplaceText)));
     }
@@ -204,26 +222,66 @@ Result<bool> mayReplace(const Session &session, StateStore &store, const Backup 
         fmt::format("{} {}", KestCore::kReplaceTitle, KestCore::kReplaceText));
 }
 
+// Shows what is here and asks. The store is given back while the question stands, so the
+// answer holds only for what was shown: its revision, if the answer is yes.
+Result<std::optional<std::int64_t>> askToReplace(const Session &session, const Backup &backup,
+                                                 bool fromPipe)
+{
+    const auto shownRevision = [&]() -> Result<std::int64_t> {
+        KEST_TRY(StateStore store, session.openStore());
+        if (!session.console.isJson) {
+            KEST_CHECK(printSummary(session, store, backup));
+        }
+        return store.state().revision;
+    };
+    KEST_TRY(const std::int64_t revision, shownRevision());
+    KEST_TRY(const bool isWanted, confirmReplacing(session, fromPipe));
+    return isWanted ? std::optional{revision} : std::nullopt;
+}
+
+Result<void> replaceBy(const Session &session, const Backup &backup,
+                       std::optional<std::int64_t> shownRevision)
+{
+    KEST_TRY(StateStore store, session.openStore());
+    if (shownRevision && store.state().revision != *shownRevision) {
+        return std::unexpected(KestError::invalidData(
+            "The data has changed since the question; nothing was imported"));
+    }
+    {
+        ProgressLine progress{"Importing"};
+        KEST_CHECK(
+            store.restore(backup, [&](std::int64_t done) { progress.showRecords(done); }));
+    }
+    const BackupAnswer answer{sum(backup.recordCounts()), store.state().revision};
+    return session.console.answer(answer, [&] {
+        session.console.line(
+            fmt::format("{} and the settings were imported.", recordsText(answer.records)));
+    });
+}
+
+Result<Backup> readBackup(const std::string &file)
+{
+    KEST_TRY(std::string bytes, file == kPipe
+                                    ? Base::readDescriptor(STDIN_FILENO, "standard input",
+                                                           KestCore::kLargestBackup)
+                                    : Base::readFile(file, KestCore::kLargestBackup));
+    ProgressLine progress{"Checking"};
+    progress.showBytes(bytes.size());
+    return Backup::read(std::move(bytes));
+}
+
 Result<void> importBackup(const Session &session, const BackupChoice &choice)
 {
-    const std::filesystem::path source{choice.file == kPipe ? "/dev/stdin" : choice.file};
-    KEST_TRY(std::string bytes, Base::readFile(source, KestCore::kLargestBackup));
-    KEST_TRY(const Backup backup, Backup::read(std::move(bytes)));
-    KEST_TRY(StateStore store, session.openStore());
-    KEST_TRY(const bool isWanted, mayReplace(session, store, backup, choice));
-    if (!isWanted) {
+    KEST_TRY(const Backup backup, readBackup(choice.file));
+    if (choice.isYes) {
+        return replaceBy(session, backup, std::nullopt);
+    }
+    KEST_TRY(const auto revision, askToReplace(session, backup, choice.file == kPipe));
+    if (!revision) {
         session.console.line("Nothing was changed.");
         return {};
     }
-    const std::int64_t total = sum(backup.recordCounts());
-    {
-        const ProgressLine progress{"Importing", total};
-        KEST_CHECK(store.restore(backup, [&](std::int64_t done) { progress.show(done); }));
-    }
-    const BackupAnswer answer{total, store.state().revision};
-    return session.console.answer(answer, [&] {
-        session.console.line(fmt::format("{} records and the settings were imported.", total));
-    });
+    return replaceBy(session, backup, revision);
 }
 
 using Command = Result<void> (*)(const Session &, const BackupChoice &);

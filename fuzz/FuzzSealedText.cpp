@@ -10,8 +10,14 @@ namespace
 
 const Base::AesKey &key()
 {
-    static const auto kKey =
-        Base::AesKey::fromBytes(std::array<std::uint8_t, Base::AesKey::kSize>{1, 2, 3}).value();
+    static const Base::AesKey kKey = [] {
+        auto made =
+            Base::AesKey::fromBytes(std::array<std::uint8_t, Base::AesKey::kSize>{1, 2, 3});
+        if (!made) {
+            std::abort();
+        }
+        return *std::move(made);
+    }();
     return kKey;
 }
 

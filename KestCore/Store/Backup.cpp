@@ -20,7 +20,6 @@ constexpr std::array<std::string_view, 9> kPortableKinds{"scratchpad", "note",  
                                                          "shortcut",   "prayer", "completion"};
 constexpr std::string_view kFormat = "kest-native-backup";
 constexpr std::int64_t kVersion = 3;
-constexpr std::size_t kMostRecords = 100'000;
 constexpr std::size_t kLongestBody = 10'000'000;
 
 struct NativeBackup {
@@ -111,7 +110,7 @@ Result<void> Backup::proveRecords(Result<void> &firstRefusal)
 {
     std::unordered_set<std::string> ids;
     const auto walked = forEachRecord([&](const LocalRecord &record) -> Result<void> {
-        if (ids.size() == kMostRecords || !isPortable(record.kind) ||
+        if (std::ssize(ids) == kMostBackupRecords || !isPortable(record.kind) ||
             record.body.size() > kLongestBody || !ids.insert(record.id).second) {
             return invalidBackup();
         }

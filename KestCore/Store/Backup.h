@@ -23,8 +23,9 @@ inline constexpr std::string_view kReplaceTitle = "Replace local data?";
 inline constexpr std::string_view kReplaceText =
     "This replaces devotional and portable tool data.";
 
-// The largest file that is read, in bytes.
+// The largest file that is read, in bytes, and the most records.
 inline constexpr std::size_t kLargestBackup = 50'000'000;
+inline constexpr std::int64_t kMostBackupRecords = 100'000;
 
 // Whether records of this kind travel in a backup. The others stay on their machine.
 bool isPortable(std::string_view kind);

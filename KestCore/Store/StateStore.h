@@ -83,11 +83,12 @@ public:
     // The bytes of one backup, piece by piece; returns how many records it holds. A row that
     // does not decode fails the whole call, whatever the sink has taken by then.
     [[nodiscard]] Result<std::int64_t> exportBackup(Base::Instant now, const BackupSink &sink);
-    // How many records would travel, by kind.
-    [[nodiscard]] Result<std::map<std::string, std::int64_t>> portableCounts();
-    // Replaces the state, the companion and the records that travel in backups by the
-    // backup's, in one step; fails with storage when a record of its has the id of one that
-    // stays. `progress` is told how many records are written. Reads no records.
+    // How many records an import takes away, by kind: those that travel in backups, those of
+    // kinds that this build does not know, and what lies in the bin.
+    [[nodiscard]] Result<std::map<std::string, std::int64_t>> countsReplacedByImport();
+    // Replaces the state, the companion and all records but those that are bound to this
+    // machine by the backup's, in one step; fails with storage when a record of its has the id
+    // of one that stays. `progress` is told how many records are written. Reads no records.
     using RestoreProgress = std::function<void(std::int64_t)>;
     [[nodiscard]] Result<void>
     restore(const Backup &backup, const RestoreProgress &progress = [](std::int64_t) {});

@@ -12,13 +12,13 @@ namespace
 {
 
 // Rows of other kinds can be large, and no byte of them belongs in a backup.
-constexpr std::string_view kReadPortable =
+constexpr std::string_view kReadForBackup =
     "SELECT body FROM records WHERE kind NOT IN ('shelf','clipboard','usage') ORDER BY rowid";
-constexpr std::string_view kReadPortableKinds =
+constexpr std::string_view kReadReplacedKinds =
     "SELECT kind FROM records WHERE kind NOT IN ('shelf','clipboard','usage')";
 constexpr std::string_view kInsertRecord =
     "INSERT INTO records(id,kind,body) VALUES(CAST(? AS TEXT),CAST(? AS TEXT),?)";
-constexpr std::string_view kClearPortable =
+constexpr std::string_view kClearReplaced =
     "DELETE FROM records WHERE kind NOT IN ('shelf','clipboard','usage')";
 
 } // namespace
@@ -28,7 +28,7 @@ Result<std::int64_t> StateStore::exportBackup(Base::Instant now, const BackupSin
     KEST_TRY(const BackupFrame frame, backupFrame(m_companion, m_state, now));
     KEST_CHECK(sink(frame.head));
     std::int64_t count = 0;
-    KEST_CHECK(m_database.forEachRow(kReadPortable, {}, [&](const auto &row) -> Result<void> {
+    KEST_CHECK(m_database.forEachRow(kReadForBackup, {}, [&](const auto &row) -> Result<void> {
         KEST_TRY(const LocalRecord record, decodeLocalRecord(row));
         if (!isPortable(record.kind)) {
             return {};
@@ -42,14 +42,12 @@ Result<std::int64_t> StateStore::exportBackup(Base::Instant now, const BackupSin
     return count;
 }
 
-Result<std::map<std::string, std::int64_t>> StateStore::portableCounts()
+Result<std::map<std::string, std::int64_t>> StateStore::countsReplacedByImport()
 {
     std::map<std::string, std::int64_t> counts;
     KEST_CHECK(
-        m_database.forEachRow(kReadPortableKinds, {}, [&](const auto &row) -> Result<void> {
-            if (isPortable(row.view())) {
-                ++counts[std::string{row.view()}];
-            }
+        m_database.forEachRow(kReadReplacedKinds, {}, [&](const auto &row) -> Result<void> {
+            ++counts[std::string{row.view()}];
             return {};
         }));
     return counts;
@@ -62,7 +60,7 @@ Result<void> StateStore::replaceBy(const Backup &backup, const RestoreProgress &
     // What was read belongs to the rows that go.
     m_recordsVersion.clear();
     const auto write = [&]() -> Result<void> {
-        KEST_CHECK(m_database.run(kClearPortable));
+        KEST_CHECK(m_database.run(kClearReplaced));
         std::int64_t written = 0;
         KEST_CHECK(backup.forEachRecord([&](const LocalRecord &record) -> Result<void> {
             KEST_TRY(const std::string body, json::encode(record));

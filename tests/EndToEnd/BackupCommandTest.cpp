@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Base/File.h"
 #include "KestCore/Models/UtilityPayloads.h"
 #include "KestCore/Store/Backup.h"
 #include "KestCore/Store/StateStore.h"
@@ -134,6 +135,43 @@ TEST(BackupCommand, RefusesAndKeepsWhatIsThere)
     }
     EXPECT_EQ(runKest(folder.path(), {"backup"}).status, 2);
     EXPECT_EQ(runKest(folder.path(), {"backup", "import"}).status, 2);
+}
+
+TEST(BackupCommand, FollowsLinksAndReplacesOnlyFiles)
+{
+    const TemporaryFolder folder;
+    fill(folder.database(), "A", 1);
+    const auto target = folder.path() / "target.json";
+    const auto link = folder.path() / "link.json";
+    std::filesystem::create_symlink("target.json", link);
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_EQ(runKest(folder.path(), {"backup", "export", link.string()}).status, 0);
+        EXPECT_TRUE(std::filesystem::is_symlink(link));
+        EXPECT_TRUE(Backup::read(*Base::readFile(target)));
+    }
+    const auto pipe = folder.path() / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const auto refused = runKest(folder.path(), {"backup", "export", pipe.string()});
+    EXPECT_EQ(refused.err, "kest: " + pipe.string() + ": This is no regular file\n");
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+}
+
+TEST(BackupCommand, SaysEverythingThatAnImportTakesAway)
+{
+    const TemporaryFolder folder;
+    fill(folder.database(), "A", 1);
+    const auto file = exported(folder.path(), "a.json");
+    {
+        auto store = StateStore::open(folder.database()).value();
+        ASSERT_TRUE(store.changeRecords(
+            {.written = {{.id = "d", .kind = "diary"},
+                         {.id = "f", .kind = "file", .body = R"({"path":"/a","pinned":true})"},
+                         {.id = "c", .kind = "clipboard", .body = "sealed"}}}));
+    }
+    const auto summary = runKest(folder.path(), {"backup", "import", file}).out;
+    EXPECT_THAT(summary, HasSubstr("diary records      1     0\n"));
+    EXPECT_THAT(summary, HasSubstr("file records       1     0\n"));
+    EXPECT_THAT(summary, testing::Not(HasSubstr("clipboard")));
 }
 
 TEST(BackupCommand, AKilledImportLeavesTheOldOrTheNew)

@@ -49,6 +49,13 @@ std::string backupWith(const std::vector<std::string> &records,
     return bytes + frame.tail;
 }
 
+std::string letters(std::size_t count)
+{
+    std::string text;
+    text.resize(count, 'x');
+    return text;
+}
+
 LocalRecord note(std::string id, std::string text = "hello")
 {
     return {.id = std::move(id),
@@ -160,7 +167,8 @@ TEST(Backup, LeavesOutWhatIsBoundToTheMachine)
                      {.id = "t", .kind = "trash", .body = bodyOf(note("t"))}}}));
     const std::string bytes = backupOf(store);
     EXPECT_EQ(bytes, backupWith({bodyOf(note("n"))}, store.state()));
-    EXPECT_THAT(*store.portableCounts(), testing::ElementsAre(testing::Pair("note", 1)));
+    EXPECT_THAT(*store.countsReplacedByImport(),
+                testing::ElementsAre(testing::Pair("note", 1), testing::Pair("trash", 1)));
 
     RawFile::insertRecord(folder.database(), "bad", "note", "{");
     const auto refused =
@@ -197,7 +205,7 @@ TEST(Backup, RefusesWhatIsNotSoundAndChangesNothing)
          invalid},
         {"state", replaced(good, R"("revision":0,"migrated")", R"("revision":0,"migrate")"),
          invalid},
-        {"records no list", replaced(good, "\"records\":[{\"id\"", "\"records\":{\"id\""),
+        {"records no list", replaced(good, R"("records":[{"id")", R"("records":{"id")"),
          invalid},
         {"a number among the records", backupWith({"1"}), invalid},
         {"a record without a body", backupWith({R"({"id":"a","kind":"note"})"}), invalid},
@@ -208,7 +216,7 @@ TEST(Backup, RefusesWhatIsNotSoundAndChangesNothing)
         {"usage", withKind("usage"), invalid},
         {"file", withKind("file"), invalid},
         {"unknown kind", withKind("diary"), invalid},
-        {"long body", backupWith({bodyOf(note("a", std::string(10'000'000, 'x')))}), invalid},
+        {"long body", backupWith({bodyOf(note("a", letters(10'000'000)))}), invalid},
         {"a rule of the state", backupWith({}, wrongState), "Invalid native settings"},
         {"a rule of the state before one of a record", backupWith({timer}, wrongState),
          "Invalid native settings"},
@@ -234,7 +242,7 @@ TEST(Backup, RefusesWhatIsNotSoundAndChangesNothing)
 
 TEST(Backup, AcceptsItsLimits)
 {
-    const std::string body(9'999'989, 'x'); // with {"text":""} around it the longest body
+    const std::string body = letters(9'999'989); // with {"text":""} around it the longest body
     const LocalRecord longest = note("a", body);
     ASSERT_EQ(longest.body.size(), 10'000'000U);
     EXPECT_EQ(Backup::read(backupWith({bodyOf(longest)})).error(),
