@@ -123,10 +123,12 @@ TEST(File, TakesThePlaceOfAnotherWholeOrNotAtAll)
     EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_EQ(std::distance(fs::directory_iterator{folder.path()}, {}), 1);
 
-    fs::create_directory(folder.path() / "folder");
-    auto blocked = Base::ReplacingFile::create(folder.path() / "folder").value();
-    EXPECT_EQ(blocked.commit().error().message,
-              (folder.path() / "folder").string() + ": Is a directory");
+    const fs::path other = folder.path() / "folder";
+    auto blocked = Base::ReplacingFile::create(other).value();
+    fs::create_directory(other);
+    EXPECT_EQ(blocked.commit().error().message, other.string() + ": Is a directory");
+    EXPECT_EQ(Base::ReplacingFile::create(other).error().message,
+              other.string() + ": This is no regular file");
 }
 
 TEST(File, ReadsNoMoreThanAsked)
