@@ -56,7 +56,11 @@ attr_t attributesOf(Terminal::Ink ink)
 bool Terminal::isKnown()
 {
     int found = 0;
-    return setupterm(nullptr, STDOUT_FILENO, &found) == OK;
+    if (setupterm(nullptr, STDOUT_FILENO, &found) != OK) {
+        return false;
+    }
+    del_curterm(cur_term); // initscr makes its own
+    return true;
 }
 
 Terminal::Terminal()
