@@ -41,6 +41,30 @@ std::uint32_t foldOptions()
     return hasDotlessI ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT;
 }
 
+// Visits each code point, or a negative number for bytes that are none, with where it begins
+// and ends.
+template <class Visit>
+void forEachCodePoint(std::string_view text, const Visit &visit)
+{
+    const auto *bytes = reinterpret_cast<const std::uint8_t *>(text.data());
+    const auto size = static_cast<std::int32_t>(text.size());
+    for (std::int32_t at = 0, next = 0; at < size; at = next) {
+        UChar32 character = 0;
+        // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions): ICU's macro
+        U8_NEXT(bytes, next, size, character);
+        visit(character, static_cast<std::size_t>(at), static_cast<std::size_t>(next));
+    }
+}
+
+bool actsOnTerminal(UChar32 character)
+{
+    const auto type = u_charType(character);
+    const bool turnsText = (character >= 0x202A && character <= 0x202E) ||
+                           (character >= 0x2066 && character <= 0x2069);
+    return turnsText || type == U_CONTROL_CHAR || type == U_LINE_SEPARATOR ||
+           type == U_PARAGRAPH_SEPARATOR;
+}
+
 } // namespace
 
 std::size_t countCodePoints(std::string_view text)
@@ -77,21 +101,32 @@ std::string lowerAscii(std::string_view text)
 
 std::string_view trimmed(std::string_view text)
 {
-    const auto *bytes = reinterpret_cast<const std::uint8_t *>(text.data());
-    const auto size = static_cast<std::int32_t>(text.size());
-    std::int32_t begin = size;
-    std::int32_t end = size;
-    for (std::int32_t at = 0, next = 0; at < size; at = next) {
-        UChar32 character = 0;
-        // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions): ICU's macro
-        U8_NEXT(bytes, next, size, character);
+    std::size_t begin = text.size();
+    std::size_t end = text.size();
+    forEachCodePoint(text, [&](UChar32 character, std::size_t at, std::size_t next) {
         // A byte that is no character is no blank either.
         if (character < 0 || u_isUWhiteSpace(character) == 0) {
             begin = std::min(begin, at);
             end = next;
         }
-    }
-    return text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
+    });
+    return text.substr(begin, end - begin);
+}
+
+std::string printable(std::string_view text, Layout layout)
+{
+    std::string shown;
+    forEachCodePoint(text, [&](UChar32 character, std::size_t at, std::size_t next) {
+        const bool isLayout = character == '\t' || character == '\n';
+        if (character < 0) {
+            shown += "\uFFFD";
+        } else if (isLayout ? layout == Layout::flat : actsOnTerminal(character)) {
+            shown += "\u00B7";
+        } else {
+            shown += text.substr(at, next - at);
+        }
+    });
+    return shown;
 }
 
 void replaceAll(std::string &text, std::string_view from, std::string_view to)

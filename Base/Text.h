@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,15 @@ std::string lowerAscii(std::string_view text);
 
 // The text without the white space and the line breaks at its ends, by Unicode's own list.
 std::string_view trimmed(std::string_view text);
+
+// What becomes of the tabs and the ends of lines in a text that is made printable.
+enum class Layout : std::uint8_t { flat, kept };
+
+// The text for a terminal. What could move the cursor, fake a line or turn the order of the
+// letters around shows as a dot: controls, separators of lines, and the characters that embed,
+// override or isolate a direction. The marks of direction stay, as Arabic is written with
+// them. Bytes that are no UTF-8 show as U+FFFD.
+std::string printable(std::string_view text, Layout layout = Layout::flat);
 
 // A number that fills the whole text: no blanks, no words, an optional sign, a point whatever
 // the language. A double may be infinite or not a number where the text says so.

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Console.h"
 
-#include "Base/Text.h"
-
 #include <fmt/format.h>
 
 #include <unistd.h>
@@ -121,16 +119,6 @@ Result<void> Console::flush()
             std::string{"Standard output cannot be written: "} + std::strerror(errno)));
     }
     return {};
-}
-
-std::string printable(std::string_view text)
-{
-    std::string shown;
-    for (const char c : text) {
-        const bool isControl = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-        shown += isControl ? std::string_view{"\u00B7"} : std::string_view{&c, 1};
-    }
-    return shown;
 }
 
 std::string localTime(double milliseconds)

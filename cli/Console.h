@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Text.h"
 #include "KestCore/Vocabulary.h"
 
 #include <cstdint>
@@ -54,9 +55,9 @@ public:
     [[nodiscard]] static Result<void> flush();
 };
 
-// A stored text for the terminal: control characters, which could move the cursor or fake a
-// line, show as a dot.
-std::string printable(std::string_view text);
+// For every text that was stored or typed, wherever it is shown.
+using Base::Layout;
+using Base::printable;
 
 // "12 Nov 2026, 08:30" in the user's time zone, from milliseconds since 1970.
 std::string localTime(double milliseconds);

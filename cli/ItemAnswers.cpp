@@ -164,7 +164,7 @@ void printText(const Console &console, std::string_view text)
         return;
     }
     for (const std::string_view line : Base::split(text, '\n')) {
-        console.line(printable(line));
+        console.line(printable(line, Layout::kept));
     }
 }
 

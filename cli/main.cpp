@@ -9,6 +9,8 @@
 #include <clocale>
 #include <cstdio>
 #include <exception>
+#include <iostream>
+#include <sstream>
 #include <tuple>
 
 namespace
@@ -17,7 +19,7 @@ namespace
 int refuse(const Base::KestError &error)
 {
     std::fflush(stdout);
-    std::fprintf(stderr, "kest: %s\n", error.message.c_str());
+    std::fprintf(stderr, "kest: %s\n", Cli::printable(error.message).c_str());
     return 1;
 }
 
@@ -36,6 +38,15 @@ void fillStandardDescriptors()
 bool namesNoCommand(const CLI::App &program)
 {
     return program.get_subcommands().empty() && !program.remaining().empty();
+}
+
+// Prints help, the version or what is wrong with the command line, which it may quote.
+int explain(const CLI::App &program, const CLI::ParseError &error)
+{
+    std::ostringstream wrong;
+    const int code = program.exit(error, std::cout, wrong);
+    std::cerr << Cli::printable(wrong.str(), Cli::Layout::kept);
+    return code;
 }
 
 void addCommands(CLI::App &program, Cli::Session &session)
@@ -79,15 +90,15 @@ int run(int argc, char **argv)
         program.parse(argc, argv);
     } catch (const CLI::RequiredError &error) {
         if (!namesNoCommand(program)) {
-            program.exit(error);
+            explain(program, error);
             return 2;
         }
         std::fprintf(stderr, "kest: there is no command \"%s\"; kest --help lists them\n",
-                     program.remaining().front().c_str());
+                     Cli::printable(program.remaining().front()).c_str());
         return 2;
     } catch (const CLI::ParseError &error) {
         // Help and version are parse errors of status 0 to the library; the rest is usage.
-        return program.exit(error) == 0 ? 0 : 2;
+        return explain(program, error) == 0 ? 0 : 2;
     }
     Base::Result<void> outcome = session.command();
     if (outcome) {

@@ -85,4 +85,29 @@ TEST(Text, SplitsAtEverySeparator)
     EXPECT_EQ(Base::split(",a,", ','), (Pieces{"", "a", ""}));
 }
 
+TEST(Text, NothingPrintableActsOnTheTerminal)
+{
+    struct Case {
+        std::string_view text;
+        std::string_view shown;
+    };
+    for (const auto &[text, shown] : {
+             Case{"\x1b[2J\r\a\x7f", "\u00B7[2J\u00B7\u00B7\u00B7"},
+             Case{"\u009B2J \u0085", "\u00B72J \u00B7"},
+             Case{"a\u2028b\u2029", "a\u00B7b\u00B7"},
+             Case{"\u202Aa\u202E \u2066b\u2069", "\u00B7a\u00B7 \u00B7b\u00B7"},
+             Case{"\u0642\u0627\u0644\u200F:\u200D\u061C", // marks of direction, a joiner
+                  "\u0642\u0627\u0644\u200F:\u200D\u061C"},
+             Case{"\xC2\x9B", "\u00B7"},
+             Case{"a\x9B\xE2\x80", "a\uFFFD\uFFFD"},
+             Case{"\U0001F54C\u00A0", "\U0001F54C\u00A0"},
+             Case{"", ""},
+         }) {
+        EXPECT_EQ(Base::printable(text), shown);
+        EXPECT_EQ(Base::printable(text, Base::Layout::kept), shown);
+    }
+    EXPECT_EQ(Base::printable("a\tb\n"), "a\u00B7b\u00B7");
+    EXPECT_EQ(Base::printable("a\tb\n\r", Base::Layout::kept), "a\tb\n\u00B7");
+}
+
 } // namespace BaseTests

@@ -262,3 +262,34 @@ TEST(EverydayCommands, StoredTextsCannotDriveTheTerminal)
         EXPECT_THAT(outcome.out, AllOf(HasSubstr("[2J"), Not(HasSubstr("\x1b"))));
     }
 }
+
+TEST(EverydayCommands, RefusalsCannotDriveTheTerminal)
+{
+    const TemporaryFolder folder;
+    const std::string drives = "\x1b[2J\u009B\u202E\u2028";
+    {
+        auto store = *KestCore::StateStore::open(folder.database());
+        ASSERT_TRUE(store.changeRecords({.written = {{.id = "1",
+                                                      .kind = "link",
+                                                      .title = drives,
+                                                      .body = R"({"url":"https://e.org"})"}}}));
+    }
+    struct Case {
+        Words words;
+        int status;
+    };
+    for (const auto &[words, status] : {
+             Case{{"link", "add", "https://e.org"}, kRefused}, // names the stored title
+             Case{{"link", "pin", drives}, kRefused},
+             Case{{"link", "pin", "1", drives}, kWrongUsage},
+             Case{{drives}, kWrongUsage},
+         }) {
+        SCOPED_TRACE(testing::PrintToString(words));
+        const auto outcome = runKest(folder.path(), words);
+        EXPECT_EQ(outcome.status, status);
+        EXPECT_THAT(outcome.err, AllOf(HasSubstr("·[2J···"), testing::EndsWith("\n")));
+        for (const char *part : {"\x1b", "\u009B", "\u202E", "\u2028"}) {
+            EXPECT_THAT(outcome.err, Not(HasSubstr(part)));
+        }
+    }
+}
