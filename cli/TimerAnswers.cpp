@@ -65,6 +65,16 @@ Result<std::vector<Timer>> timersIn(KestCore::StateStore &store)
     return KestCore::timersOf(records);
 }
 
+Result<void> followClock(KestCore::StateStore &store, std::span<Timer> timers,
+                         Base::Instant now)
+{
+    KEST_TRY(auto changed, KestCore::followClock(timers, now));
+    if (changed.empty()) {
+        return {};
+    }
+    return store.changeRecords({.written = std::move(changed)});
+}
+
 Result<std::size_t> findTimer(std::span<const Timer> timers, std::string_view typed)
 {
     return KestCore::findByIdPrefix(KestCore::idsOf(timers, &Timer::record), typed, "timer");

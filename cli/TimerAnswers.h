@@ -15,6 +15,10 @@ namespace Cli
 
 [[nodiscard]] Result<std::vector<KestCore::Timer>> timersIn(KestCore::StateStore &store);
 
+// Follows the clock with the timers and saves those that this changed.
+[[nodiscard]] Result<void> followClock(KestCore::StateStore &store,
+                                       std::span<KestCore::Timer> timers, Base::Instant now);
+
 // Which timer is meant by an id or the beginning of one.
 [[nodiscard]] Result<std::size_t> findTimer(std::span<const KestCore::Timer> timers,
                                             std::string_view typed);

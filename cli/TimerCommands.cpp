@@ -53,9 +53,7 @@ Result<void> runList(const Session &session)
     KEST_TRY(StateStore store, session.openStore());
     KEST_TRY(auto timers, timersIn(store));
     const Base::Instant now = Base::wallClock();
-    for (Timer &timer : timers) {
-        KestCore::followClock(timer.state, now);
-    }
+    KEST_CHECK(followClock(store, timers, now));
     KestCore::sortForList(timers);
     KEST_CHECK(answerTimers(session.console, timers, timers, now));
     if (timers.empty() && !session.console.isJson) {
@@ -83,7 +81,11 @@ Result<void> runStart(const Session &session, const Arguments &args)
 
 using Change = std::function<Result<void>(TimerState &, Base::Instant now)>;
 
-Result<void> runChange(const Session &session, const std::string &id, const Change &change)
+// What a step does with an end that nobody announced yet.
+enum class PastEnd : std::uint8_t { settled, left };
+
+Result<void> runChange(const Session &session, const std::string &id, PastEnd pastEnd,
+                       const Change &change)
 {
     KEST_TRY(StateStore store, session.openStore());
     KEST_TRY(auto timers, timersIn(store));
@@ -91,10 +93,15 @@ Result<void> runChange(const Session &session, const std::string &id, const Chan
     Timer &timer = timers[at];
     const TimerState before = timer.state;
     const Base::Instant now = Base::wallClock();
+    std::vector<KestCore::LocalRecord> written;
+    if (pastEnd == PastEnd::settled) {
+        KEST_TRY(written, KestCore::settleTimer(timer, store.state(), now));
+    }
     KEST_CHECK(change(timer.state, now));
     if (timer.state != before) {
         KEST_TRY(timer.record, KestCore::savedTimer(timer, now));
-        KEST_CHECK(store.changeRecords({.written = {timer.record}}));
+        written.push_back(timer.record);
+        KEST_CHECK(store.changeRecords({.written = std::move(written)}));
     }
     return answerTimers(session.console, {&timer, 1}, timers, now);
 }
@@ -104,12 +111,17 @@ Result<void> runRemove(const Session &session, const std::string &id)
     KEST_TRY(StateStore store, session.openStore());
     KEST_TRY(const auto timers, timersIn(store));
     KEST_TRY(const std::size_t at, findTimer(timers, id));
-    KEST_CHECK(store.changeRecords({.removed = {timers[at].record.id}}));
+    const Timer &removed = timers[at];
+    const Base::Instant now = Base::wallClock();
+    Timer settled = removed;
+    KEST_TRY(auto written, KestCore::settleTimer(settled, store.state(), now));
+    KEST_CHECK(
+        store.changeRecords({.written = std::move(written), .removed = {removed.record.id}}));
     if (!session.console.isJson) {
-        session.console.line(fmt::format("Removed {}", printable(timers[at].record.title)));
+        session.console.line(fmt::format("Removed {}", printable(removed.record.title)));
         return {};
     }
-    return answerTimers(session.console, {&timers[at], 1}, timers, Base::wallClock());
+    return answerTimers(session.console, {&removed, 1}, timers, now);
 }
 
 using Run = std::function<Result<void>(const Session &, const Arguments &)>;
@@ -139,21 +151,24 @@ void addStart(CLI::App *timer, Session &session, const std::shared_ptr<Arguments
 
 void addChanges(CLI::App *timer, Session &session, const std::shared_ptr<Arguments> &args)
 {
-    const auto change = [](const Change &step) -> Run {
-        return [=](const Session &s, const Arguments &a) { return runChange(s, a.id, step); };
+    const auto change = [](PastEnd pastEnd, const Change &step) -> Run {
+        return [=](const Session &s, const Arguments &a) {
+            return runChange(s, a.id, pastEnd, step);
+        };
     };
     addOnTimer(timer, session, args, "pause", "Pauses a timer",
-               change([](TimerState &state, Base::Instant now) -> Result<void> {
+               change(PastEnd::left, [](TimerState &state, Base::Instant now) -> Result<void> {
                    KestCore::pauseTimer(state, now);
                    return {};
                }));
-    addOnTimer(timer, session, args, "resume", "Goes on with a timer, or starts it over",
-               change([](TimerState &state, Base::Instant now) -> Result<void> {
-                   KestCore::resumeTimer(state, now);
-                   return {};
-               }));
+    addOnTimer(
+        timer, session, args, "resume", "Goes on with a timer, or starts it over",
+        change(PastEnd::settled, [](TimerState &state, Base::Instant now) -> Result<void> {
+            KestCore::resumeTimer(state, now);
+            return {};
+        }));
     const auto adjust = [](const Session &s, const Arguments &a) {
-        return runChange(s, a.id, [&](TimerState &state, Base::Instant now) {
+        return runChange(s, a.id, PastEnd::settled, [&](TimerState &state, Base::Instant now) {
             return KestCore::adjustTimer(state, now, lengthFrom(a.seconds));
         });
     };

@@ -22,12 +22,17 @@ struct Look {
 };
 
 // The store is given up again at once: whoever waits must not keep others from their data.
-Result<Look> lookFor(const Session &session, const std::string &id)
+Result<Look> lookFor(const Session &session, const std::string &id, Base::Instant now)
 {
     KEST_TRY(auto store, session.openStore());
     Look look;
     KEST_TRY(look.timers, timersIn(store));
     KEST_TRY(look.at, findTimer(look.timers, id));
+    Timer &timer = look.timers[look.at];
+    if (!KestCore::countsDown(timer.state)) {
+        return std::unexpected(KestError::invalidData("A stopwatch never ends."));
+    }
+    KEST_CHECK(followClock(store, {&timer, 1}, now));
     return look;
 }
 
@@ -51,14 +56,10 @@ Result<void> waitForTimer(const Session &session, const std::string &typed)
     std::string id = typed;
     std::optional<Base::Instant> awaited;
     while (true) {
-        KEST_TRY(Look look, lookFor(session, id));
-        Timer &timer = look.timers[look.at];
-        id = timer.record.id; // whole: another timer may come to begin like it
-        if (!KestCore::countsDown(timer.state)) {
-            return std::unexpected(KestError::invalidData("A stopwatch never ends."));
-        }
         const Base::Instant now = Base::wallClock();
-        KestCore::followClock(timer.state, now);
+        KEST_TRY(const Look look, lookFor(session, id, now));
+        const Timer &timer = look.timers[look.at];
+        id = timer.record.id; // whole: another timer may come to begin like it
         // The application may have started the next round before this look.
         const bool isNextRound =
             awaited && timer.state.running && timer.state.started.value_or(now) >= *awaited;

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Tools/TimerList.h"
 
-#include "Base/Text.h"
 #include "Base/Uuid.h"
 #include "KestCore/Models/UtilityPayloads.h"
+#include "KestCore/Tools/Texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +17,6 @@ namespace
 {
 
 constexpr std::string_view kKind = "timer";
-constexpr std::size_t kLongestTitle = 200; // characters
 
 KestError refusal(std::string_view message)
 {
@@ -94,6 +93,22 @@ Result<void> announce(Timer &timer, const NativeState &state, Base::Instant now,
 // A record from elsewhere may have no length to speak of, and would come due for ever.
 bool canRepeat(const TimerState &timer) { return timer.duration >= kShortestTimer; }
 
+Result<void> handleEnd(Timer &timer, const NativeState &state, Base::Instant now,
+                       TimerSettlement &settlement)
+{
+    followClock(timer.state, now);
+    if (!timer.state.running || !hasEnded(timer.state, now)) {
+        return {};
+    }
+    if (awaitsItsEnd(timer.state)) {
+        KEST_CHECK(announce(timer, state, now, settlement));
+    }
+    if (canRepeat(timer.state)) {
+        repeatHydration(timer.state, now);
+    }
+    return {};
+}
+
 } // namespace
 
 Result<std::vector<Timer>> timersOf(std::span<const LocalRecord> records)
@@ -135,7 +150,6 @@ Result<Timer> makeTimer(const NewTimer &wanted, std::span<const Timer> existing,
                         const Settings &settings, Base::Instant now)
 {
     const std::string_view mode = Base::textOf(wanted.mode);
-    const std::string_view title = Base::trimmed(wanted.title);
     if (wanted.minutes && wanted.mode == TimerMode::stopwatch) {
         return std::unexpected(refusal("A stopwatch has no length."));
     }
@@ -143,13 +157,13 @@ Result<Timer> makeTimer(const NewTimer &wanted, std::span<const Timer> existing,
     if (!(minutes >= 1 && minutes <= kMostTimerMinutes)) {
         return std::unexpected(refusal(kTimerLimits));
     }
-    if (Base::countCodePoints(title) > kLongestTitle) {
-        return std::unexpected(refusal("A timer's title has at most 200 characters."));
+    KEST_TRY(std::string title, checkedTitle(wanted.title));
+    if (title.empty()) {
+        title = freeTitle(displayTitle(mode), existing);
     }
     Timer timer{.record = {.id = Base::makeUuid(),
                            .kind = std::string{kKind},
-                           .title = title.empty() ? freeTitle(displayTitle(mode), existing)
-                                                  : std::string{title}},
+                           .title = std::move(title)},
                 .state = newTimer(mode, minutes * 60)};
     start(timer.state, now);
     KEST_TRY(timer.record, savedTimer(timer, now));
@@ -175,6 +189,20 @@ void followClock(TimerState &timer, Base::Instant now)
         timer.running = false;
         start(timer, now);
     }
+}
+
+Result<std::vector<LocalRecord>> followClock(std::span<Timer> timers, Base::Instant now)
+{
+    std::vector<LocalRecord> changed;
+    for (Timer &timer : timers) {
+        const TimerState before = timer.state;
+        followClock(timer.state, now);
+        if (timer.state != before) {
+            KEST_TRY(timer.record, savedTimer(timer, now));
+            changed.push_back(timer.record);
+        }
+    }
+    return changed;
 }
 
 void resumeTimer(TimerState &timer, Base::Instant now)
@@ -228,21 +256,21 @@ Result<TimerSettlement> settleTimers(std::span<const Timer> timers, const Native
     TimerSettlement settlement;
     for (Timer &timer : sorted) {
         const TimerState before = timer.state;
-        followClock(timer.state, now);
-        if (timer.state.running && hasEnded(timer.state, now)) {
-            if (awaitsItsEnd(timer.state)) {
-                KEST_CHECK(announce(timer, state, now, settlement));
-            }
-            if (canRepeat(timer.state)) {
-                repeatHydration(timer.state, now);
-            }
-        }
+        KEST_CHECK(handleEnd(timer, state, now, settlement));
         if (timer.state != before) {
             KEST_TRY(auto record, savedTimer(timer, now));
             settlement.written.push_back(std::move(record));
         }
     }
     return settlement;
+}
+
+Result<std::vector<LocalRecord>> settleTimer(Timer &timer, const NativeState &state,
+                                             Base::Instant now)
+{
+    TimerSettlement settlement;
+    KEST_CHECK(handleEnd(timer, state, now, settlement));
+    return std::move(settlement.written);
 }
 
 } // namespace KestCore

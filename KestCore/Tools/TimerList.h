@@ -41,7 +41,7 @@ struct NewTimer {
 };
 
 // A timer that starts at `now`. Fails with invalidData for a length outside the limits, a
-// length for a stopwatch and a title of more than 200 characters.
+// length for a stopwatch and what is no title (checkedTitle).
 [[nodiscard]] Result<Timer> makeTimer(const NewTimer &wanted, std::span<const Timer> existing,
                                       const Settings &settings, Base::Instant now);
 
@@ -51,6 +51,10 @@ struct NewTimer {
 // had passed, but never by the step of the clock. An end that was announced stays one. The
 // steps below do this first.
 void followClock(TimerState &timer, Base::Instant now);
+// All of them, with the records of those that it changed: until these are saved, every look
+// begins the run anew.
+[[nodiscard]] Result<std::vector<LocalRecord>> followClock(std::span<Timer> timers,
+                                                           Base::Instant now);
 
 // One that ended starts over from zero; any other goes on.
 void resumeTimer(TimerState &timer, Base::Instant now);
@@ -89,5 +93,10 @@ struct TimerSettlement {
 // again from `now`; one that slept through many of its rounds is announced once.
 [[nodiscard]] Result<TimerSettlement> settleTimers(std::span<const Timer> timers,
                                                    const NativeState &state, Base::Instant now);
+
+// The same for a timer that its user is about to change or remove. Who does that has seen its
+// end, so there is nothing to post; gives what is to be saved beside the timer itself.
+[[nodiscard]] Result<std::vector<LocalRecord>>
+settleTimer(Timer &timer, const NativeState &state, Base::Instant now);
 
 } // namespace KestCore

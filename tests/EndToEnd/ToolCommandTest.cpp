@@ -28,18 +28,24 @@ public:
     NumberLocale &operator=(const NumberLocale &) = delete;
 };
 
-// Stores a timer that was started some seconds ago.
+// Stores a timer that was started some seconds ago, when it may have run before.
 void putTimer(const TemporaryFolder &folder, const std::string &id, std::string_view mode,
-              double duration, double ago)
+              double duration, double ago, double elapsed = 0)
 {
     using namespace KestCore;
     const Base::Instant begun = Base::wallClock() - Base::Seconds{ago};
     Timer timer{.record = {.id = id, .kind = "timer", .title = "Title"},
                 .state = newTimer(mode, duration)};
+    timer.state.elapsed = elapsed;
     start(timer.state, begun);
     auto store = StateStore::open(folder.path() / "kest.sqlite");
     ASSERT_TRUE(store);
     ASSERT_TRUE(store->changeRecords({.written = {*savedTimer(timer, begun)}}));
+}
+
+std::string completionsIn(const TemporaryFolder &folder)
+{
+    return runKest(folder.path(), {"--json", "records", "--kind", "completion"}).out;
 }
 
 } // namespace
@@ -58,9 +64,9 @@ TEST(TimerCommand, StartsListsPausesAndRemoves)
     EXPECT_THAT(runKest(folder.path(), {"timer", "start", "countdown"}).out,
                 HasSubstr("  0:02:00  running  Timer\n"));
     EXPECT_THAT(runKest(folder.path(), {"timer", "start", "countdown", "--minutes", "61",
-                                        "--title", "A\x1b[2J"})
+                                        "--title", " Tea\u202E "})
                     .out,
-                HasSubstr("  1:01:00  running  A·[2J\n"));
+                HasSubstr("  1:01:00  running  Tea·\n"));
     putTimer(folder, "xyz-1", "stopwatch", 600, 3725);
     putTimer(folder, "xyz-2", "countdown", 600, 601);
     const std::string line = "[0-9A-Fxyz-]{4,6} +";
@@ -68,7 +74,7 @@ TEST(TimerCommand, StartsListsPausesAndRemoves)
                 MatchesRegex(line + "0:00:00  ended    Title\n" + line +
                              "0:0[12]:[0-9]{2}  running  Timer\n" + line +
                              "0:2[45]:[0-9]{2}  running  Focus\n" + line +
-                             "1:0[01]:[0-9]{2}  running  A·\\[2J\n" + line +
+                             "1:0[01]:[0-9]{2}  running  Tea·\n" + line +
                              "1:0[23]:[0-9]{2}  running  Title\n"));
     EXPECT_THAT(runKest(folder.path(), {"timer", "pause", "XYZ-1"}).out,
                 MatchesRegex("xyz-1 +1:0[23]:[0-9]{2}  paused  Title\n"));
@@ -107,6 +113,9 @@ TEST(TimerCommand, RefusesWithAMessageAndChangesNothing)
              Case{{"start", "stopwatch", "--minutes", "5"},
                   1,
                   "kest: A stopwatch has no length.\n"},
+             Case{{"start", "countdown", "--title", "A\x1b[2J"},
+                  1,
+                  "kest: A title is one line of at most 200 characters\n"},
              Case{{"start", "countdown", "--title", "\xff"},
                   1,
                   "kest: Text that is not valid UTF-8 cannot be saved\n"},
@@ -145,6 +154,59 @@ TEST(TimerCommand, WaitsUntilTheEnd)
     const auto outcome = runKest(folder.path(), {"--json", "timer", "wait", "soon"});
     EXPECT_THAT(outcome.out, HasSubstr(R"("remaining":0,"running":true,"ended":true)"));
     EXPECT_EQ(outcome.status, 0);
+}
+
+TEST(TimerCommand, ARunThatAClockSetBackBeganAnewIsSaved)
+{
+    const TemporaryFolder folder;
+    constexpr double kSetBack = 3600;
+    putTimer(folder, "list", "countdown", 600, -kSetBack);
+    const auto first = runKest(folder.path(), {"--json", "timer", "list"});
+    EXPECT_THAT(first.out, HasSubstr(R"("remaining":600,)"));
+    const auto deadline = first.out.substr(first.out.find("\"deadline\""));
+    EXPECT_THAT(runKest(folder.path(), {"--json", "timer", "list"}).out, HasSubstr(deadline));
+
+    putTimer(folder, "wait", "countdown", 60, -kSetBack, 59.5);
+    EXPECT_THAT(runKest(folder.path(), {"--json", "timer", "wait", "wait"}).out,
+                HasSubstr(R"("remaining":0,"running":true,"ended":true)"));
+}
+
+TEST(TimerCommand, AnEndThatNobodyAnnouncedIsCompletedByWhoActsOnIt)
+{
+    struct Case {
+        Words words;
+        bool isCompleted;
+        std::string shown;
+    };
+    for (const auto &[words, isCompleted, shown] : {
+             Case{{"list"}, false, "ended"},
+             Case{{"pause", "own"}, false, "ended"},
+             Case{{"resume", "own"}, true, "0:10:00  running"},
+             Case{{"adjust", "own", "90"}, true, "0:01:30  running"},
+             Case{{"adjust", "own", "1"}, false, ""},
+             Case{{"remove", "own"}, true, "Removed"},
+         }) {
+        SCOPED_TRACE(testing::PrintToString(words));
+        const TemporaryFolder folder;
+        putTimer(folder, "own", "pomodoro", 600, 700);
+        putTimer(folder, "water", "hydration", 600, 700);
+        Words arguments{"timer"};
+        arguments.insert(arguments.end(), words.begin(), words.end());
+        EXPECT_THAT(runKest(folder.path(), arguments).out, HasSubstr(shown));
+        const auto once = completionsIn(folder);
+        EXPECT_EQ(once.find("pomodoro") != std::string::npos, isCompleted) << once;
+        EXPECT_THAT(once, testing::Not(HasSubstr("hydration")));
+        runKest(folder.path(), {"timer", "resume", "own"});
+        runKest(folder.path(), {"timer", "pause", "own"});
+        if (isCompleted) {
+            EXPECT_EQ(completionsIn(folder), once);
+        }
+    }
+    const TemporaryFolder folder;
+    putTimer(folder, "water", "hydration", 600, 700);
+    EXPECT_THAT(runKest(folder.path(), {"timer", "resume", "water"}).out,
+                HasSubstr("0:10:00  running"));
+    EXPECT_THAT(completionsIn(folder), HasSubstr("hydration"));
 }
 
 TEST(ConvertCommand, ConvertsAndSaysWhyNot)

@@ -103,6 +103,7 @@ TEST(TimerList, ANewTimerHasALengthATitleAndRuns)
 TEST(TimerList, ANewTimerIsRefusedOutsideTheLimits)
 {
     const std::string limits{kTimerLimits};
+    const std::string title = "A title is one line of at most 200 characters";
     struct Case {
         NewTimer wanted;
         std::string message; // empty: accepted
@@ -115,8 +116,8 @@ TEST(TimerList, ANewTimerIsRefusedOutsideTheLimits)
              Case{{.minutes = std::nan("")}, limits},
              Case{{.mode = TimerMode::stopwatch, .minutes = 5}, "A stopwatch has no length."},
              Case{{.title = std::string(200, 'x')}, ""},
-             Case{{.title = std::string(201, 'x')},
-                  "A timer's title has at most 200 characters."},
+             Case{{.title = std::string(201, 'x')}, title},
+             Case{{.title = "a\nb"}, title},
          }) {
         const auto made = makeTimer(wanted, {}, {}, at(0));
         EXPECT_EQ(made ? "" : made.error().message, message);
