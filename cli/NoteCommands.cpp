@@ -5,6 +5,10 @@
 #include "cli/ListCommands.h"
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 // note: the notes, and the scratchpad.
 namespace Cli
@@ -25,23 +29,49 @@ struct Arguments {
     std::string query{};
     std::optional<std::string> appended{};
     bool replaces{};
+    bool clears{};
 };
 
-// Standard input may take its time; the store is opened after it.
-Result<void> readInput(NoteChange &change)
+// Standard input may take its time; it is read before the store is opened.
+constexpr const char *kInput = "-";
+
+// Whether something was put in the place of the terminal that may hold a text. A device, such
+// as /dev/null, or a socket is only where the program happened to be started.
+bool inputIsPipeOrFile()
 {
-    if (change.text) {
-        KEST_TRY(change.text, textOrInput(*change.text));
+    struct stat input{};
+    return fstat(STDIN_FILENO, &input) == 0 &&
+           (S_ISFIFO(input.st_mode) || S_ISREG(input.st_mode));
+}
+
+// Nothing at all comes from a command that failed, and must not empty what is kept.
+Result<std::string> requireInput(std::string_view wayToEmpty)
+{
+    KEST_TRY(std::string text, textOrInput(kInput));
+    if (text.empty()) {
+        return std::unexpected(
+            KestError::invalidData(fmt::format("Standard input is empty; {}", wayToEmpty)));
+    }
+    return text;
+}
+
+Result<void> readInputFor(NoteChange &given)
+{
+    if (!given.text && given.title == kInput) {
+        given.title.reset();
+    }
+    if (!given.text && (!given.title || inputIsPipeOrFile())) {
+        given.text = kInput;
+    }
+    if (given.text) {
+        KEST_TRY(given.text, textOrInput(*given.text));
     }
     return {};
 }
 
 Result<void> runAdd(const ListTool &tool, NoteChange given)
 {
-    if (!given.title && !given.text) {
-        given.text = "-";
-    }
-    KEST_CHECK(readInput(given));
+    KEST_CHECK(readInputFor(given));
     return runOnList(tool, [&](RecordList &list) -> Result<std::vector<LocalRecord>> {
         KEST_TRY(auto note, KestCore::makeNote(given));
         KEST_TRY(note, list.add(std::move(note), KestCore::ListEnd::front));
@@ -51,7 +81,9 @@ Result<void> runAdd(const ListTool &tool, NoteChange given)
 
 Result<void> runEdit(const ListTool &tool, const std::string &id, NoteChange change)
 {
-    KEST_CHECK(readInput(change));
+    if (change.text == kInput) {
+        KEST_TRY(change.text, requireInput("--text \"\" empties the note"));
+    }
     return runOnList(tool, [&](RecordList &list) -> Result<std::vector<LocalRecord>> {
         KEST_TRY(auto note, list.edit(id, [&](LocalRecord &record) {
             return KestCore::changeNote(record, change);
@@ -84,15 +116,18 @@ Result<void> runShow(const Session &session, const std::string &id)
 
 Result<void> runScratchpad(const Session &session, const Arguments &args)
 {
-    const bool writes = args.replaces || args.appended;
+    const bool replaces = args.replaces || args.clears;
+    const bool writes = replaces || args.appended;
     std::string text;
-    if (writes) {
-        KEST_TRY(text, textOrInput(args.appended.value_or("-")));
+    if (args.replaces) {
+        KEST_TRY(text, requireInput("--clear empties the scratchpad"));
+    } else if (args.appended) {
+        KEST_TRY(text, textOrInput(*args.appended));
     }
     KEST_TRY(auto store, session.openStore());
     if (args.appended) {
         KEST_CHECK(KestCore::appendToScratchpad(store, text, Base::wallClock()));
-    } else if (args.replaces) {
+    } else if (replaces) {
         KEST_CHECK(KestCore::replaceScratchpad(store, text, Base::wallClock()));
     }
     KEST_TRY(const auto page, KestCore::readScratchpad(store));
@@ -111,9 +146,12 @@ void addAdd(const ListTool &tool, const std::shared_ptr<Arguments> &args)
 {
     CLI::App *add = tool.command->add_subcommand("add", "Adds a note, at the front");
     add->add_option("TITLE", args->change.title,
-                    "Its title; else its first line is. Alone, all there is to the note");
-    add->add_option("TEXT", args->change.text,
-                    "Its text, or - for standard input, as without any argument");
+                    "Its title; the first line of its text where there is none, or -");
+    CLI::Option *text =
+        add->add_option("TEXT", args->change.text,
+                        "Its text; else standard input, where that is a pipe or a file");
+    add->add_option("--text", args->change.text, "The same, or - for standard input")
+        ->excludes(text);
     add->callback([=] { tool.session->command = [=] { return runAdd(tool, args->change); }; });
 }
 
@@ -136,8 +174,10 @@ void addScratchpad(const ListTool &tool, const std::shared_ptr<Arguments> &args)
     CLI::App *page = tool.command->add_subcommand("scratchpad", "Prints the scratchpad");
     CLI::Option *append = page->add_option("--append", args->appended,
                                            "Add a line to it, or - for standard input");
-    page->add_flag("--replace", args->replaces, "Put standard input in its place")
-        ->excludes(append);
+    CLI::Option *replace =
+        page->add_flag("--replace", args->replaces, "Put standard input in its place")
+            ->excludes(append);
+    page->add_flag("--clear", args->clears, "Empty it")->excludes(append)->excludes(replace);
     page->callback(
         [=] { tool.session->command = [=] { return runScratchpad(*tool.session, *args); }; });
 }

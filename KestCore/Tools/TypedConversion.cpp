@@ -142,8 +142,8 @@ KestError unknownUnit(std::string_view name)
 {
     const auto near = unitsNear(name);
     if (!near.empty()) {
-        return refusal(fmt::format("There is no unit \"{}\"; near it are {}", name,
-                                   fmt::join(near, ", ")));
+        return refusal(fmt::format("There is no unit \"{}\"; the nearest {} {}", name,
+                                   near.size() == 1 ? "is" : "are", fmt::join(near, ", ")));
     }
     std::vector<std::string_view> all;
     std::ranges::transform(Units::all(), std::back_inserter(all), &UnitDefinition::id);

@@ -119,9 +119,9 @@ constexpr Alias kAliases[] = {
 };
 
 // Spellings whose case makes them another unit, one that is not in the table: bits, the
-// megametre, the megalitre, a thousandth of a byte.
+// megametre, the megalitre, a thousandth of a byte, the kilonewton.
 constexpr std::string_view kOtherUnits[] = {"Kb", "Mb", "Gb", "Kib", "Mib", "Gib",
-                                            "mB", "gB", "Mm", "ML",  "Ml"};
+                                            "mB", "gB", "Mm", "ML",  "Ml",  "kN"};
 
 // Every name by which a unit goes, in one spelling.
 const std::map<std::string, const UnitDefinition *, std::less<>> &names()

@@ -109,6 +109,51 @@ TEST(EverydayCommands, TakeTextsFromStandardInput)
               "kest: Text that is not valid UTF-8 cannot be saved\n");
 }
 
+TEST(EverydayCommands, ReadTheTextOfANoteWhereThereIsOne)
+{
+    const TemporaryFolder folder;
+    const auto added = [&](const std::string &line) {
+        const std::string out = shell(folder, line);
+        return valuesOf(out, "title").at(0) + "|" + valuesOf(out, "text").at(0);
+    };
+    const auto file = folder.path() / "file";
+    std::ofstream{file} << "text\nof a file";
+    struct Case {
+        std::string line;
+        std::string note;
+    };
+    for (const auto &[line, note] : {
+             Case{"printf important | $K note add Shopping --json", "Shopping|important"},
+             Case{"$K note add Shopping --json <" + file.string(), "Shopping|text\\nof a file"},
+             Case{"true | $K note add Shopping --json", "Shopping|"},
+             Case{"$K note add Shopping --json </dev/null", "Shopping|"},
+             Case{"$K note add Shopping --json <&-", "Shopping|"},
+             Case{"printf x | $K note add - --json", "x|x"},
+             Case{"printf x | $K note add - - --json", "-|x"},
+             Case{"printf x | $K note add --text - --json", "x|x"},
+             Case{"printf x | $K note add T --text given --json", "T|given"},
+             Case{"printf x | $K note add T --text '' --json", "T|"},
+             Case{"printf x | $K note add T given --json", "T|given"},
+         }) {
+        EXPECT_EQ(added(line), note) << line;
+    }
+}
+
+TEST(EverydayCommands, NothingIsEmptiedByACommandThatFailed)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(shell(folder, "printf kept | $K note scratchpad --replace;"
+                            "! false | $K note scratchpad --replace; $K note scratchpad"),
+              "kest: Standard input is empty; --clear empties the scratchpad\nkept\n");
+    EXPECT_EQ(shell(folder, "$K note scratchpad --clear; $K note scratchpad"), "");
+    ASSERT_EQ(runKest(folder.path(), {"note", "add", "Title", "kept"}).status, 0);
+    const std::string id = idOf(folder, "note", 0);
+    EXPECT_EQ(shell(folder, "! false | $K note edit " + id + " --text -; $K note show " + id),
+              "kest: Standard input is empty; --text \"\" empties the note\nkept\n");
+    EXPECT_EQ(runKest(folder.path(), {"note", "edit", id, "--text", ""}).status, 0);
+    EXPECT_EQ(runKest(folder.path(), {"note", "show", id}).out, "");
+}
+
 TEST(EverydayCommands, RefuseAndChangeNothing)
 {
     const TemporaryFolder folder;
@@ -137,6 +182,8 @@ TEST(EverydayCommands, RefuseAndChangeNothing)
                   kRefused,
                   "kest: Nothing was removed in the last 30 seconds\n"},
              Case{{"note", "scratchpad", "--replace", "--append", "x"}, kWrongUsage, ""},
+             Case{{"note", "scratchpad", "--replace", "--clear"}, kWrongUsage, ""},
+             Case{{"note", "add", "x", "y", "--text", "z"}, kWrongUsage, ""},
              Case{{"shelf", "add", "/no/such/file"},
                   kRefused,
                   "kest: /no/such/file: No such file or directory\n"},

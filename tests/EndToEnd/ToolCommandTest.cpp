@@ -229,7 +229,7 @@ TEST(ConvertCommand, ConvertsAndSaysWhyNot)
              Case{{"inf", "m", "km"}, cannot},
              Case{{"1e400", "m", "km"}, cannot},
              Case{{"3,5", "m", "km"}, cannot},
-             Case{{"5", "kmm", "mi"}, "kest: There is no unit \"kmm\"; near it are km, mm"},
+             Case{{"5", "kmm", "mi"}, "kest: There is no unit \"kmm\"; the nearest are km, mm"},
              Case{{"5"}, "kest: Write a number and two units, such as 5 km to mi\n"},
          }) {
         SCOPED_TRACE(testing::PrintToString(words));

@@ -202,6 +202,7 @@ TEST(TypedConversion, ReadsWhatPeopleType)
              Case{"8 mB to B", "none"},
              Case{"1 ML to L", "none"},
              Case{"1 Mm to km", "none"},
+             Case{"5 kN to m/s", "none"}, // a force
              Case{"5 ° to K", "none"},
              Case{"call 5 km to mi", "none"},
          }) {
@@ -239,8 +240,8 @@ TEST(TypedConversion, SaysWhatItDoesNotKnow)
              Case{"5 km mi cm", generic},
              Case{"5 parsec to km", "There is no unit \"parsec\"; there are m, km, cm, "},
              Case{"5 km parsec", "There is no unit \"parsec\"; there are m, "},
-             Case{"5 poud in kg", "There is no unit \"poud\"; near it are lb"},
-             Case{"5 m in gal", "There is no unit \"gal\"; near it are US gal, UK gal"},
+             Case{"5 poud in kg", "There is no unit \"poud\"; the nearest is lb"},
+             Case{"5 m in gal", "There is no unit \"gal\"; the nearest are US gal, UK gal"},
              Case{"5 " + std::string(100'000, 'x') + " to m", generic},
              Case{"5" + std::string(100'000, ' ') + "km", generic},
          }) {
