@@ -75,7 +75,7 @@ ADDED_WORDS = {
 
 # The same comparison as the program's: see emojiSearchForm.
 SAME_LETTERS = str.maketrans({"ة": "ه", "ى": "ي", "\u0671": "ا", "ـ": None, "\u0670": None})
-SIGNS = re.compile("[\\s_:\u2013\u2014\u2019\u2018\u201c\u201d'\"!,.()-]+")
+SIGNS = re.compile("[\\s_:\u2013\u2014\u2019\u2018\u201c\u201d'\"!,.()|-]+")
 
 
 def search_form(text):
@@ -107,16 +107,22 @@ def read_emoji(path):
             yield "".join(chr(int(code, 16)) for code in match[1].split()), match[2]
 
 
+def without_controls(text):
+    """Some Arabic names open an embedding and never close it; joiners are part of words."""
+    return "".join(c for c in text if unicodedata.category(c) != "Cf" or c in "\u200c\u200d")
+
+
 def read_annotations(folder, language):
     """Names and keywords by emoji without presentation selectors."""
     names, words = {}, {}
     for kind in ("annotationsDerived", "annotations"):
         tree = xml.etree.ElementTree.parse(folder / kind / f"{language}.xml")
         for node in tree.iter("annotation"):
+            text = without_controls(node.text).strip()
             if node.get("type") == "tts":
-                names[node.get("cp")] = node.text
+                names[node.get("cp")] = text
             else:
-                words[node.get("cp")] = node.text.split(" | ")
+                words[node.get("cp")] = text.split(" | ")
     return {key: (names[key], words.get(key, [])) for key in names}
 
 
