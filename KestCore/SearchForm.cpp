@@ -4,6 +4,8 @@
 
 #include "Base/Text.h"
 
+#include <algorithm>
+
 namespace KestCore
 {
 
@@ -53,6 +55,26 @@ std::string looseSearchForm(std::string_view text)
         Base::replaceAll(form, dropped, "");
     }
     return form;
+}
+
+SearchFit fitOfWhole(std::string_view text, std::string_view wanted)
+{
+    const std::size_t first = text.find(wanted);
+    if (first == 0) {
+        return text.size() == wanted.size() ? SearchFit::exact : SearchFit::prefix;
+    }
+    for (std::size_t at = first; at != std::string_view::npos; at = text.find(wanted, at + 1)) {
+        if (text[at - 1] == ' ' || text[at - 1] == '\n') {
+            return SearchFit::wordStart;
+        }
+    }
+    return first == std::string_view::npos ? SearchFit::none : SearchFit::inside;
+}
+
+bool hasAllWords(std::string_view text, std::span<const std::string_view> words)
+{
+    return std::ranges::all_of(words,
+                               [&](std::string_view word) { return text.contains(word); });
 }
 
 } // namespace KestCore

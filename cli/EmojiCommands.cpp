@@ -69,13 +69,13 @@ Result<void> runSearch(const Session &session, const std::string &query,
     return print(session.console, answers, "Nothing matches.");
 }
 
-Result<EmojiAnswer> answerOf(const RecentEmoji &recent)
+EmojiAnswer answerOf(const RecentEmoji &recent)
 {
-    const Emoji *known = KestCore::emojiOf(recent.emoji);
-    EmojiAnswer answer = known != nullptr ? answerOf(*known, recent.emoji)
-                                          : EmojiAnswer{.emoji = printable(recent.emoji)};
+    const auto known = KestCore::emojiOf(recent.emoji);
+    EmojiAnswer answer = known ? answerOf(*known->emoji, known->text)
+                               : EmojiAnswer{.emoji = printable(recent.emoji)};
     answer.uses = recent.uses;
-    KEST_TRY(answer.lastUsed, Base::toIso8601(recent.lastUsed));
+    answer.lastUsed = instantText(recent.lastUsed);
     return answer;
 }
 
@@ -85,7 +85,7 @@ Result<void> runRecent(const Session &session)
     KEST_TRY(const auto records, store.recordsOfKind(KestCore::kEmojiKind));
     std::vector<EmojiAnswer> answers;
     for (const auto &recent : KestCore::recentEmoji(records, Base::wallClock(), kMostFound)) {
-        KEST_TRY(answers.emplace_back(), answerOf(recent));
+        answers.push_back(answerOf(recent));
     }
     return print(session.console, answers, "No emoji were used yet.");
 }
@@ -97,43 +97,53 @@ Result<void> runUse(const Session &session, const std::string &emoji)
     KEST_TRY(const auto records, store.recordsOfKind(KestCore::kEmojiKind));
     KEST_TRY(const auto changes, KestCore::usingEmoji(records, emoji, Base::wallClock()));
     KEST_CHECK(store.changeRecords(changes));
+    const auto used = KestCore::recentEmoji(changes.written, Base::wallClock(), 1);
     if (!session.console.isJson) {
-        session.console.line(emoji);
+        session.console.line(used.front().emoji);
         return {};
     }
-    const auto used = KestCore::recentEmoji(changes.written, Base::wallClock(), 1);
-    KEST_TRY(auto answer, answerOf(used.front()));
-    return print(session.console, {std::move(answer)}, "");
+    return print(session.console, {answerOf(used.front())}, "");
 }
 
-} // namespace
+struct Arguments {
+    std::vector<std::string> words{};
+    std::string tone{};
+    std::string emoji{};
+};
 
-void addEmojiCommands(CLI::App &program, Session &session)
+void addSearch(CLI::App *emoji, Session &session, const std::shared_ptr<Arguments> &args)
 {
-    struct Arguments {
-        std::vector<std::string> words{};
-        std::string tone{};
-        std::string emoji{};
-    };
-    const auto args = std::make_shared<Arguments>();
-    CLI::App *emoji = program.add_subcommand("emoji", "Finds emoji by their names");
-    emoji->require_subcommand(0, 1);
     emoji->add_option("SEARCH", args->words, "Words, in English or Arabic");
     emoji
         ->add_option("--tone", args->tone,
                      "The skin tone of people, for that of the setting emoji.skinTone")
         ->check(CLI::IsMember(toneNames()));
     emoji->callback([=, &session] {
-        if (emoji->get_subcommands().empty()) {
-            if (args->words.empty()) {
-                throw CLI::RequiredError("SEARCH");
+        // Words beside a subcommand would be taken in and go unheard.
+        if (!emoji->get_subcommands().empty()) {
+            if (!args->words.empty()) {
+                throw CLI::ExtrasError(args->words);
             }
-            session.command = [=, &session] {
-                return runSearch(session, fmt::format("{}", fmt::join(args->words, " ")),
-                                 args->tone);
-            };
+            return;
         }
+        if (args->words.empty()) {
+            throw CLI::RequiredError("SEARCH");
+        }
+        session.command = [=, &session] {
+            return runSearch(session, fmt::format("{}", fmt::join(args->words, " ")),
+                             args->tone);
+        };
     });
+}
+
+} // namespace
+
+void addEmojiCommands(CLI::App &program, Session &session)
+{
+    const auto args = std::make_shared<Arguments>();
+    CLI::App *emoji = program.add_subcommand("emoji", "Finds emoji by their names");
+    emoji->require_subcommand(0, 1);
+    addSearch(emoji, session, args);
     emoji->add_subcommand("recent", "Lists the emoji that were used")->callback([&session] {
         session.command = [&session] { return runRecent(session); };
     });

@@ -4,6 +4,7 @@
 
 #include "Base/JsonWriter.h"
 #include "Base/Text.h"
+#include "KestCore/Models/RecordIds.h"
 #include "KestCore/Tools/Links.h"
 #include "KestCore/Tools/Messages.h"
 #include "KestCore/Tools/Notes.h"
@@ -14,7 +15,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <set>
 
 template Base::Result<std::string> Base::json::encode(const std::vector<Cli::ItemAnswer> &);
 template Base::Result<std::string> Base::json::encode(const Cli::PageAnswer &);
@@ -27,35 +27,17 @@ namespace
 {
 
 using KestCore::LocalRecord;
+using KestCore::payloadOf;
 using KestCore::ShelfPlace;
 
 constexpr std::size_t kShownText = 60;
 
-template <class Payload>
-Payload payloadOf(const LocalRecord &record)
+ItemAnswer answerOf(const LocalRecord &record)
 {
-    return Base::json::decode<Payload>(std::string_view{record.body}).value_or(Payload{});
-}
-
-void addShelfItem(ItemAnswer &answer, const LocalRecord &record)
-{
-    const auto item = payloadOf<KestCore::ShelfItem>(record);
-    answer.text = item.text;
-    answer.path = item.path;
-    if (item.path) {
-        const ShelfPlace place = KestCore::placeOf(item);
-        answer.state = place.state;
-        if (place.state == ShelfPlace::State::moved) {
-            answer.foundAt = place.path;
-        }
-    }
-}
-
-Result<ItemAnswer> answerOf(const LocalRecord &record)
-{
-    ItemAnswer answer{
-        .id = record.id, .title = record.title, .pinned = KestCore::isPinned(record)};
-    KEST_TRY(answer.updated, Base::toIso8601(Base::fromMilliseconds1970(record.updated)));
+    ItemAnswer answer{.id = record.id,
+                      .title = record.title,
+                      .pinned = KestCore::isPinned(record),
+                      .updated = instantText(Base::fromMilliseconds1970(record.updated))};
     if (record.kind == KestCore::kNoteKind) {
         answer.text = payloadOf<KestCore::Note>(record).text;
     } else if (record.kind == KestCore::kLinkKind) {
@@ -67,9 +49,30 @@ Result<ItemAnswer> answerOf(const LocalRecord &record)
         answer.text = message.text;
         answer.animation = message.animation;
     } else if (record.kind == KestCore::kShelfKind) {
-        addShelfItem(answer, record);
+        const auto item = payloadOf<KestCore::ShelfItem>(record);
+        answer.text = item.text;
+        answer.path = item.path;
     }
     return answer;
+}
+
+// Where the files are, looked for together; what has a path is on the shelf.
+void addPlaces(std::vector<ItemAnswer> &answers, const std::vector<LocalRecord> &records)
+{
+    std::vector<KestCore::ShelfItem> items;
+    for (std::size_t at = 0; at < records.size(); ++at) {
+        items.push_back(answers[at].path ? payloadOf<KestCore::ShelfItem>(records[at])
+                                         : KestCore::ShelfItem{});
+    }
+    const auto places = KestCore::placesOf(items);
+    for (std::size_t at = 0; at < answers.size(); ++at) {
+        if (answers[at].path) {
+            answers[at].state = places[at].state;
+        }
+        if (places[at].state == ShelfPlace::State::moved) {
+            answers[at].foundAt = places[at].path;
+        }
+    }
 }
 
 // What stands behind the title.
@@ -97,28 +100,11 @@ std::string detailOf(const ItemAnswer &item)
     return text == item.title ? "" : printable(KestCore::shortened(text, kShownText));
 }
 
-// As much of the ids as tells them apart, and eight characters at least.
-std::size_t shownIdSize(const std::vector<ItemAnswer> &items)
-{
-    std::size_t size = 8;
-    for (std::size_t longest = size; size <= longest; ++size) {
-        std::set<std::string> shown;
-        for (const ItemAnswer &item : items) {
-            longest = std::max(longest, item.id.size());
-            shown.insert(item.id.substr(0, size));
-        }
-        if (shown.size() == items.size()) {
-            break;
-        }
-    }
-    return size;
-}
-
 Result<void> printAnswers(const Console &console, const std::vector<ItemAnswer> &items,
-                          std::string_view whenEmpty)
+                          std::span<const std::string> allIds, std::string_view whenEmpty)
 {
     return console.answer(items, [&] {
-        const std::size_t idSize = shownIdSize(items);
+        const std::size_t idSize = KestCore::shortIdLength(allIds);
         std::vector<std::vector<std::string>> rows;
         for (const ItemAnswer &item : items) {
             rows.push_back({console.styled(printable(item.id.substr(0, idSize)), Style::faint),
@@ -135,25 +121,30 @@ Result<void> printAnswers(const Console &console, const std::vector<ItemAnswer> 
 
 } // namespace
 
-Result<void> printItems(const Console &console, const std::vector<LocalRecord> &records,
-                        std::string_view whenEmpty)
+std::optional<std::string> instantText(Base::Instant instant)
 {
-    std::vector<ItemAnswer> items;
-    for (const LocalRecord &record : records) {
-        KEST_TRY(items.emplace_back(), answerOf(record));
-    }
-    return printAnswers(console, items, whenEmpty);
+    auto text = Base::toIso8601(instant);
+    return text ? std::optional{*std::move(text)} : std::nullopt;
 }
 
-Result<void> printHits(const Console &console, const std::vector<KestCore::RecordHit> &hits)
+Result<void> printItems(const Console &console, const std::vector<LocalRecord> &records,
+                        std::span<const std::string> allIds, std::string_view whenEmpty)
+{
+    std::vector<ItemAnswer> items;
+    std::ranges::transform(records, std::back_inserter(items), answerOf);
+    addPlaces(items, records);
+    return printAnswers(console, items, allIds, whenEmpty);
+}
+
+Result<void> printHits(const Console &console, const std::vector<KestCore::RecordHit> &hits,
+                       std::span<const std::string> allIds)
 {
     std::vector<ItemAnswer> items;
     for (const KestCore::RecordHit &hit : hits) {
-        KEST_TRY(auto item, answerOf(hit.record));
-        item.excerpt = hit.excerpt;
-        items.push_back(std::move(item));
+        items.push_back(answerOf(hit.record));
+        items.back().excerpt = hit.excerpt;
     }
-    return printAnswers(console, items, "Nothing matches.");
+    return printAnswers(console, items, allIds, "Nothing matches.");
 }
 
 void printText(const Console &console, std::string_view text)

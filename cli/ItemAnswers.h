@@ -8,6 +8,7 @@
 #include "cli/Console.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,7 @@ struct ItemAnswer {
     std::optional<KestCore::ShelfPlace::State> state{};
     std::optional<std::string> foundAt{}; // of a file that moved
     bool pinned{};
-    std::string updated{};
+    std::optional<std::string> updated{}; // absent, here and below: beyond the year 9999
     std::optional<std::string> excerpt{}; // of a search
 };
 consteval auto jsonFields(Of<ItemAnswer>)
@@ -76,12 +77,19 @@ consteval auto jsonFields(Of<EmojiAnswer>)
 }
 static_assert(json::coversAllMembers<EmojiAnswer>());
 
-// A list of items, with what is said when there are none.
+// As ISO 8601; nothing for an instant that has no such text, which an imported record may
+// carry and which must not stop a list.
+std::optional<std::string> instantText(Base::Instant instant);
+
+// A list of items, with what is said when there are none. All ids of their kind are there to
+// keep shortened ones apart.
 [[nodiscard]] Result<void> printItems(const Console &console,
                                       const std::vector<KestCore::LocalRecord> &records,
+                                      std::span<const std::string> allIds,
                                       std::string_view whenEmpty);
 [[nodiscard]] Result<void> printHits(const Console &console,
-                                     const std::vector<KestCore::RecordHit> &hits);
+                                     const std::vector<KestCore::RecordHit> &hits,
+                                     std::span<const std::string> allIds);
 
 // A text of the user's, as it is for a pipe or a file; a terminal gets it without anything
 // that could drive it.

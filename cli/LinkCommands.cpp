@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "KestCore/Models/RecordIds.h"
 #include "KestCore/Tools/Links.h"
 #include "cli/ItemAnswers.h"
 #include "cli/ListCommands.h"
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 #include <spawn.h>
 #include <sys/wait.h>
@@ -25,7 +27,7 @@ using Records = std::vector<LocalRecord>;
 struct Arguments {
     LinkChange change{};
     std::string id{};
-    std::string query{};
+    std::vector<std::string> words{};
 };
 
 Result<Records> add(RecordList &list, const LinkChange &given)
@@ -76,15 +78,18 @@ Result<void> runOpen(const Session &session, const std::string &id)
     KEST_TRY(const auto link,
              Base::json::decode<KestCore::SavedLink>(std::string_view{record.body}));
     KEST_CHECK(openAddress(link.url));
-    return session.console.isJson ? printItems(session.console, {record}, "") : Result<void>{};
+    return session.console.isJson ? printItems(session.console, {record}, {&record.id, 1}, "")
+                                  : Result<void>{};
 }
 
-Result<void> runSearch(const Session &session, const std::string &query)
+Result<void> runSearch(const Session &session, const std::vector<std::string> &words)
 {
     KEST_TRY(auto store, session.openStore());
     KEST_TRY(const auto links,
              RecordList(store, KestCore::kLinkKind, Base::wallClock()).items());
-    return printHits(session.console, KestCore::searchLinks(links, query));
+    const std::string query = fmt::format("{}", fmt::join(words, " "));
+    return printHits(session.console, KestCore::searchLinks(links, query),
+                     KestCore::idsOf(links));
 }
 
 void addAddAndEdit(const ListTool &tool, const std::shared_ptr<Arguments> &args)
@@ -126,14 +131,11 @@ void addLinkCommands(CLI::App &program, Session &session)
     addBasicCommands(tool);
     addAddAndEdit(tool, args);
     addPinCommands(tool);
-    addRestoreCommand(tool, [](RecordList &list, const LocalRecord &link) -> Result<void> {
-        KEST_TRY(const Records others, list.items());
-        return KestCore::checkIsOnly(link, others);
-    });
+    addRestoreCommand(tool);
     CLI::App *search = tool.command->add_subcommand("search", "Finds links by their words");
-    search->add_option("TEXT", args->query, "Words of the title, address or note")->required();
+    search->add_option("TEXT", args->words, "Words of the title, address or note")->required();
     search->callback(
-        [=] { tool.session->command = [=] { return runSearch(*tool.session, args->query); }; });
+        [=] { tool.session->command = [=] { return runSearch(*tool.session, args->words); }; });
     CLI::App *open = tool.command->add_subcommand("open", "Opens a link in the browser");
     open->add_option("ID", args->id, "As list shows it, or the beginning of it")->required();
     open->callback(

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ListCommands.h"
 
+#include "KestCore/Models/RecordIds.h"
 #include "cli/ItemAnswers.h"
 
 #include <CLI/CLI.hpp>
@@ -20,13 +21,19 @@ using Records = std::vector<LocalRecord>;
 
 Result<void> runOnList(const ListTool &tool, const ListWork &work)
 {
+    std::vector<std::string> ids;
     const auto change = [&]() -> Result<Records> {
         KEST_TRY(auto store, tool.session->openStore());
         RecordList list{store, tool.kind, Base::wallClock()};
-        return work(list);
+        KEST_TRY(auto shown, work(list));
+        // What is done is done: that it can't be read again must not deny it.
+        if (const auto all = list.items()) {
+            ids = KestCore::idsOf(*all);
+        }
+        return shown;
     };
     KEST_TRY(const Records records, change());
-    return printItems(tool.session->console, records, tool.whenEmpty);
+    return printItems(tool.session->console, records, ids, tool.whenEmpty);
 }
 
 CLI::App *addListCommand(const ListTool &tool, const char *name, const char *help,
@@ -81,14 +88,10 @@ void addPinCommands(const ListTool &tool)
                    [](RecordList &list, const std::string &id) { return list.pin(id, false); });
 }
 
-void addRestoreCommand(const ListTool &tool, const RestoreCheck &mayReturn)
+void addRestoreCommand(const ListTool &tool)
 {
     addListCommand(tool, "restore", "Puts back what was removed last, for 30 seconds",
-                   [=](RecordList &list) {
-                       return list.restore([&](const LocalRecord &record) {
-                           return mayReturn ? mayReturn(list, record) : Result<void>{};
-                       });
-                   });
+                   [](RecordList &list) { return list.restore(); });
 }
 
 } // namespace Cli

@@ -36,11 +36,9 @@ using ItemWork =
 CLI::App *addItemCommand(const ListTool &tool, const char *name, const char *help,
                          const ItemWork &work);
 
-// list, move and remove; pin and unpin; restore, if `mayReturn` agrees.
+// list, move and remove; pin and unpin; restore.
 void addBasicCommands(const ListTool &tool);
 void addPinCommands(const ListTool &tool);
-using RestoreCheck =
-    std::function<Result<void>(KestCore::RecordList &, const KestCore::LocalRecord &)>;
-void addRestoreCommand(const ListTool &tool, const RestoreCheck &mayReturn = {});
+void addRestoreCommand(const ListTool &tool);
 
 } // namespace Cli

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "KestCore/Models/RecordIds.h"
 #include "KestCore/Tools/Notes.h"
 #include "cli/ItemAnswers.h"
 #include "cli/ListCommands.h"
@@ -26,7 +27,7 @@ constexpr const char *kWhenEmpty = "No notes yet.";
 struct Arguments {
     NoteChange change{};
     std::string id{};
-    std::string query{};
+    std::vector<std::string> words{};
     std::optional<std::string> appended{};
     bool replaces{};
     bool clears{};
@@ -92,12 +93,14 @@ Result<void> runEdit(const ListTool &tool, const std::string &id, NoteChange cha
     });
 }
 
-Result<void> runSearch(const Session &session, const std::string &query)
+Result<void> runSearch(const Session &session, const std::vector<std::string> &words)
 {
     KEST_TRY(auto store, session.openStore());
     KEST_TRY(const auto notes,
              RecordList(store, KestCore::kNoteKind, Base::wallClock()).items());
-    return printHits(session.console, KestCore::searchNotes(notes, query));
+    const std::string query = fmt::format("{}", fmt::join(words, " "));
+    return printHits(session.console, KestCore::searchNotes(notes, query),
+                     KestCore::idsOf(notes));
 }
 
 Result<void> runShow(const Session &session, const std::string &id)
@@ -106,7 +109,7 @@ Result<void> runShow(const Session &session, const std::string &id)
     KEST_TRY(const auto record,
              RecordList(store, KestCore::kNoteKind, Base::wallClock()).find(id));
     if (session.console.isJson) {
-        return printItems(session.console, {record}, kWhenEmpty);
+        return printItems(session.console, {record}, {&record.id, 1}, kWhenEmpty);
     }
     KEST_TRY(const auto note,
              Base::json::decode<KestCore::Note>(std::string_view{record.body}));
@@ -133,7 +136,7 @@ Result<void> runScratchpad(const Session &session, const Arguments &args)
     KEST_TRY(const auto page, KestCore::readScratchpad(store));
     PageAnswer answer{.text = page.text};
     if (page.updated) {
-        KEST_TRY(answer.updated, Base::toIso8601(*page.updated));
+        answer.updated = instantText(*page.updated);
     }
     return session.console.answer(answer, [&] {
         if (!writes) {
@@ -202,10 +205,10 @@ void addNoteCommands(CLI::App &program, Session &session)
     addPinCommands(tool);
     addRestoreCommand(tool);
     CLI::App *search = tool.command->add_subcommand("search", "Finds notes by their words");
-    search->add_option("TEXT", args->query, "Words, without regard to case and marks")
+    search->add_option("TEXT", args->words, "Words, without regard to case and marks")
         ->required();
     search->callback(
-        [=] { tool.session->command = [=] { return runSearch(*tool.session, args->query); }; });
+        [=] { tool.session->command = [=] { return runSearch(*tool.session, args->words); }; });
     addScratchpad(tool, args);
 }
 

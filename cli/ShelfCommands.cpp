@@ -18,14 +18,16 @@ using KestCore::LocalRecord;
 using KestCore::RecordList;
 using Records = std::vector<LocalRecord>;
 
+struct Arguments {
+    std::vector<std::filesystem::path> paths{};
+    std::string id{};
+    std::string text{};
+    bool isConfirmed{};
+};
+
 Result<void> runAdd(const ListTool &tool, const std::vector<std::filesystem::path> &paths)
 {
-    const auto shelve = [&]() -> Result<Records> {
-        KEST_TRY(auto store, tool.session->openStore());
-        return KestCore::shelve(store, paths, Base::wallClock());
-    };
-    KEST_TRY(const Records items, shelve());
-    return printItems(tool.session->console, items, tool.whenEmpty);
+    return runOnList(tool, [&](RecordList &list) { return KestCore::shelve(list, paths); });
 }
 
 Result<void> runAddText(const ListTool &tool, const std::string &argument)
@@ -36,6 +38,31 @@ Result<void> runAddText(const ListTool &tool, const std::string &argument)
         KEST_TRY(auto added, list.add(item, KestCore::ListEnd::back));
         return Records{std::move(added)};
     });
+}
+
+// A text as it is; of a file, the path where it is now.
+Result<void> runShow(const Session &session, const std::string &id)
+{
+    const auto find = [&]() -> Result<LocalRecord> {
+        KEST_TRY(auto store, session.openStore());
+        return RecordList(store, KestCore::kShelfKind, Base::wallClock()).find(id);
+    };
+    KEST_TRY(const LocalRecord record, find());
+    if (session.console.isJson) {
+        return printItems(session.console, {record}, {&record.id, 1}, "");
+    }
+    const auto item = KestCore::payloadOf<KestCore::ShelfItem>(record);
+    if (item.text) {
+        printText(session.console, *item.text);
+        return {};
+    }
+    const auto place = KestCore::placeOf(item);
+    if (!place.path) {
+        return std::unexpected(KestError::unavailable(
+            fmt::format("\"{}\" is missing from its folder", item.path.value_or(""))));
+    }
+    printText(session.console, *place.path);
+    return {};
 }
 
 // The store is given back while the question stands.
@@ -58,23 +85,8 @@ Result<void> runClear(const ListTool &tool, bool isConfirmed)
     return runOnList(tool, [](RecordList &list) { return list.removeAll(); });
 }
 
-} // namespace
-
-void addShelfCommands(CLI::App &program, Session &session)
+void addAdding(const ListTool &tool, const std::shared_ptr<Arguments> &args)
 {
-    struct Arguments {
-        std::vector<std::filesystem::path> paths{};
-        std::string text{};
-        bool isConfirmed{};
-    };
-    const auto args = std::make_shared<Arguments>();
-    const ListTool tool{
-        .command = program.add_subcommand("shelf", "Keeps files and texts at hand for a while"),
-        .session = &session,
-        .kind = KestCore::kShelfKind,
-        .whenEmpty = "The shelf is empty."};
-    tool.command->require_subcommand(1);
-    addBasicCommands(tool);
     CLI::App *add = tool.command->add_subcommand("add", "Puts files on the shelf");
     add->add_option("PATH", args->paths, "Files or folders, which stay where they are")
         ->required();
@@ -83,6 +95,26 @@ void addShelfCommands(CLI::App &program, Session &session)
     text->add_option("TEXT", args->text, "The text, or - for standard input")->required();
     text->callback(
         [=] { tool.session->command = [=] { return runAddText(tool, args->text); }; });
+}
+
+} // namespace
+
+void addShelfCommands(CLI::App &program, Session &session)
+{
+    const auto args = std::make_shared<Arguments>();
+    const ListTool tool{
+        .command = program.add_subcommand("shelf", "Keeps files and texts at hand for a while"),
+        .session = &session,
+        .kind = KestCore::kShelfKind,
+        .whenEmpty = "The shelf is empty."};
+    tool.command->require_subcommand(1);
+    addBasicCommands(tool);
+    CLI::App *show =
+        tool.command->add_subcommand("show", "Prints a text, or where a file is now");
+    show->add_option("ID", args->id, "As list shows it, or the beginning of it")->required();
+    show->callback(
+        [=] { tool.session->command = [=] { return runShow(*tool.session, args->id); }; });
+    addAdding(tool, args);
     addRestoreCommand(tool);
     CLI::App *clear = tool.command->add_subcommand("clear", "Takes everything off the shelf");
     clear->add_flag("--yes", args->isConfirmed, "Without asking");

@@ -43,7 +43,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         tryAddress(link->url);
     }
     if (const auto item = tried<ShelfItem>("shelf", data, size)) {
-        (void)placeOf({.path = "/nowhere/at-all", .bookmark = item->bookmark});
+        // The folder is there, so that the mark is compared with those of files.
+        (void)placeOf({.path = "/not-at-all", .bookmark = item->bookmark});
     }
     tried<Note>("note", data, size);
     tried<Scratchpad>("scratchpad", data, size);

@@ -39,8 +39,17 @@ static_assert(json::coversAllMembers<LocalRecord>());
 // "Invalid timer" or "Invalid utility record".
 [[nodiscard]] Result<void> validate(const LocalRecord &record);
 
-// What is said of an id that no record has, or has no more: "This item was removed."
+// What is said of a record that was there when its id was taken down, and is no more: "This
+// item was removed." Of ids as people type them findByIdPrefix has more to say.
 KestError removedItem();
+
+// The body as this payload, or an empty one where it is none; a record that was validated has
+// one of its kind.
+template <class Payload>
+Payload payloadOf(const LocalRecord &record)
+{
+    return json::decode<Payload>(std::string_view{record.body}).value_or(Payload{});
+}
 
 // A stored row as a record; fails with "Invalid utility record" when it does not decode.
 [[nodiscard]] Result<LocalRecord> decodeLocalRecord(const json::PaddedText &text);

@@ -6,13 +6,13 @@
 #include "Base/Text.h"
 #include "KestCore/Resources.h"
 #include "KestCore/SearchForm.h"
-#include "KestCore/Tools/Texts.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
 #include <tuple>
+#include <unordered_map>
 
 namespace KestCore
 {
@@ -41,7 +41,8 @@ constexpr std::pair<std::string_view, std::string_view> kSameLetters[] = {
     {"\u201C", " "},
     {"\u201D", " "},
 };
-constexpr std::string_view kSigns = " _:'\"!,.()-\t\r\n\v\f";
+// The bar stands between the words of the list.
+constexpr std::string_view kSigns = " _:'\"!,.()|-\t\r\n\v\f";
 
 bool readLine(std::string_view line, std::vector<Emoji> &list)
 {
@@ -66,59 +67,95 @@ bool readLine(std::string_view line, std::vector<Emoji> &list)
     return true;
 }
 
+std::string without(std::string_view text, std::string_view signs)
+{
+    std::string left{text};
+    Base::replaceAll(left, signs, "");
+    return left;
+}
+
 std::string bareForm(std::string_view text)
 {
-    std::string bare{text};
-    Base::replaceAll(bare, kPresentation, "");
+    std::string bare = without(text, kPresentation);
     for (const std::string_view tone : kTones) {
-        Base::replaceAll(bare, tone, "");
+        bare = without(bare, tone);
     }
     return bare;
 }
 
-// How well a word fits, the best first.
-enum class Fit : std::uint8_t { exact, prefix, wordStart, inside, allWords, none };
-
-Fit fitOf(std::string_view word, std::string_view wanted)
+// In the order in which they stand.
+std::vector<std::string_view> tonesIn(std::string_view text)
 {
-    if (word.starts_with(wanted)) {
-        return word.size() == wanted.size() ? Fit::exact : Fit::prefix;
-    }
-    if (!word.contains(wanted)) {
-        return Fit::none;
-    }
-    for (std::size_t at = word.find(wanted); at != std::string_view::npos;
-         at = word.find(wanted, at + 1)) {
-        if (word[at - 1] == ' ') {
-            return Fit::wordStart;
+    std::vector<std::string_view> tones;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        for (const std::string_view tone : kTones) {
+            if (text.substr(at).starts_with(tone)) {
+                tones.push_back(tone);
+            }
         }
     }
-    return Fit::inside;
+    return tones;
 }
 
-bool hasAllWords(std::string_view words, const std::vector<std::string_view> &wanted)
+// Gives each place for a tone its own; nothing where there are not as many places as tones.
+std::string withTones(std::string_view places, const std::vector<std::string_view> &tones)
 {
-    return std::ranges::all_of(wanted,
-                               [&](std::string_view word) { return words.contains(word); });
+    std::string text;
+    for (const std::string_view tone : tones) {
+        const std::size_t at = places.find(kTones[0]);
+        if (at == std::string_view::npos) {
+            return "";
+        }
+        text.append(places.substr(0, at)).append(tone);
+        places.remove_prefix(at + kTones[0].size());
+    }
+    return places.contains(kTones[0]) ? "" : text.append(places);
+}
+
+// Two people join others in a sequence, the first of them at its front, the second at its end.
+std::string placesForTwo(const Emoji &emoji)
+{
+    constexpr std::string_view kJoiner = "\u200D";
+    std::string places{emoji.twoPeople};
+    const std::size_t joint = places.find(kJoiner);
+    return joint == std::string::npos ? "" : places.insert(joint, kTones[0]).append(kTones[0]);
+}
+
+// By their forms without tones and presentation.
+const std::unordered_map<std::string, const Emoji *> &emojiByBareForm()
+{
+    static const std::unordered_map<std::string, const Emoji *> kMap = [] {
+        std::unordered_map<std::string, const Emoji *> map;
+        for (const Emoji &emoji : allEmoji()) {
+            map.emplace(bareForm(emoji.text), &emoji);
+        }
+        for (const Emoji &emoji : allEmoji()) {
+            if (!emoji.twoPeople.empty()) {
+                map.emplace(bareForm(emoji.twoPeople), &emoji);
+            }
+        }
+        return map;
+    }();
+    return kMap;
 }
 
 // The best of the words, and how well the name among them fits.
-std::tuple<Fit, Fit> rankOf(std::string_view words, std::string_view wanted,
-                            const std::vector<std::string_view> &wantedWords)
+std::tuple<SearchFit, SearchFit> rankOf(std::string_view words, std::string_view wanted,
+                                        const std::vector<std::string_view> &wantedWords)
 {
     if (wantedWords.size() == 1 && !words.contains(wanted)) {
-        return {Fit::none, Fit::none};
+        return {SearchFit::none, SearchFit::none};
     }
-    Fit best = hasAllWords(words, wantedWords) ? Fit::allWords : Fit::none;
+    SearchFit best = hasAllWords(words, wantedWords) ? SearchFit::allWords : SearchFit::none;
     const auto pieces = Base::split(words, '|');
     for (const std::string_view piece : pieces) {
-        best = std::min(best, fitOf(piece, wanted));
+        best = std::min(best, fitOfWhole(piece, wanted));
     }
-    return {best, fitOf(pieces.front(), wanted)};
+    return {best, fitOfWhole(pieces.front(), wanted)};
 }
 
 struct Match {
-    std::tuple<Fit, Fit> rank{};
+    std::tuple<SearchFit, SearchFit> rank{};
     const Emoji *emoji{};
 };
 
@@ -129,7 +166,7 @@ std::vector<Match> matchesOf(std::string_view form)
     for (const Emoji &emoji : allEmoji()) {
         const auto rank =
             std::min(rankOf(emoji.words, form, words), rankOf(emoji.arabicWords, form, words));
-        if (std::get<0>(rank) != Fit::none) {
+        if (std::get<0>(rank) != SearchFit::none) {
             matches.push_back({.rank = rank, .emoji = &emoji});
         }
     }
@@ -188,16 +225,30 @@ std::string withTone(const Emoji &emoji, SkinTone tone)
     return text;
 }
 
-const Emoji *emojiOf(std::string_view text)
+std::optional<KnownEmoji> emojiOf(std::string_view text)
 {
-    const std::string bare = bareForm(text);
-    const bool hasTone =
-        std::ranges::any_of(kTones, [&](std::string_view tone) { return text.contains(tone); });
-    const auto found = std::ranges::find_if(allEmoji(), [&](const Emoji &emoji) {
-        return (bareForm(emoji.text) == bare || bareForm(emoji.twoPeople) == bare) &&
-               (!hasTone || !emoji.toned.empty());
-    });
-    return bare.empty() || found == allEmoji().end() ? nullptr : &*found;
+    const auto found = emojiByBareForm().find(bareForm(text));
+    if (found == emojiByBareForm().end()) {
+        return std::nullopt;
+    }
+    const Emoji &emoji = *found->second;
+    const std::string plain = without(text, kPresentation);
+    const auto tones = tonesIn(text);
+    if (tones.empty()) {
+        return KnownEmoji{.emoji = &emoji, .text = std::string{emoji.text}};
+    }
+    const bool isOneTone = std::ranges::count(tones, tones.front()) == std::ssize(tones);
+    for (const std::string &places : {std::string{emoji.toned}, placesForTwo(emoji)}) {
+        std::string full = withTones(places, tones);
+        if (without(full, kPresentation) == plain) {
+            if (isOneTone) { // for which two people have a sign of their own
+                full = emoji.toned;
+                Base::replaceAll(full, kTones[0], tones.front());
+            }
+            return KnownEmoji{.emoji = &emoji, .text = std::move(full)};
+        }
+    }
+    return std::nullopt;
 }
 
 std::string emojiSearchForm(std::string_view text)
@@ -213,7 +264,7 @@ std::string emojiSearchForm(std::string_view text)
             words += isSign ? ' ' : c;
         }
     }
-    return std::string{trimmed(words)};
+    return std::string{Base::trimmed(words)};
 }
 
 std::vector<const Emoji *> searchEmoji(std::string_view query, std::size_t limit)

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,9 +53,13 @@ SkinTone chosenTone(const Settings &settings);
 // The emoji with this tone on every person that takes one.
 std::string withTone(const Emoji &emoji, SkinTone tone);
 
-// The emoji that the text is, whatever its tones and whether or not it asks to be shown in
-// colour; null for any other text.
-const Emoji *emojiOf(std::string_view text);
+struct KnownEmoji {
+    const Emoji *emoji{};
+    std::string text{}; // with its tones, in the one form in which all emoji are kept
+};
+// The emoji that the text is, whether or not it asks to be shown in colour; none for any other
+// text, and for tones where they don't belong.
+std::optional<KnownEmoji> emojiOf(std::string_view text);
 
 // The form in which words are compared: case, marks, tatweel and the forms of one Arabic
 // letter don't matter, and signs are spaces, so that :thumbs_up: is "thumbs up".

@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Tools/Links.h"
 
+#include "Base/Text.h"
 #include "KestCore/Tools/Texts.h"
 
 #include <fmt/format.h>
+#include <unicode/locid.h>
 #include <unicode/uchar.h>
+#include <unicode/unistr.h>
+
+#include <arpa/inet.h>
 
 #include <algorithm>
 
@@ -18,23 +23,18 @@ namespace
 constexpr std::string_view kSecure = "https://";
 constexpr std::string_view kPlain = "http://";
 
-SavedLink linkOf(const LocalRecord &record)
-{
-    return json::decode<SavedLink>(std::string_view{record.body}).value_or(SavedLink{});
-}
-
 std::unexpected<KestError> refused(const char *message)
 {
     return std::unexpected(KestError::invalidData(message));
 }
 
-std::string inLowerCase(std::string_view ascii)
+// Of host names, in any script.
+std::string inLowerCase(std::string_view host)
 {
-    std::string text{ascii};
-    std::ranges::transform(text, text.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
-    return text;
+    std::string lower;
+    return icu::UnicodeString::fromUTF8(host)
+        .toLower(icu::Locale::getRoot())
+        .toUTF8String(lower);
 }
 
 // What could break a line, hide in an address or turn its direction. The joiners are letters'
@@ -48,8 +48,15 @@ bool isForbidden(char32_t character)
            u_isUWhiteSpace(code) != 0;
 }
 
-// The length of "scheme:" at the front, or 0. A name with a number behind the colon is a host
-// with its port.
+bool isPort(std::string_view text)
+{
+    const bool isNumber = text.find_first_not_of("0123456789") == std::string_view::npos;
+    const int port = isNumber ? Base::numberFrom<int>(text).value_or(0) : 0;
+    return port >= 1 && port <= 65'535;
+}
+
+// The length of "scheme:" at the front, or 0. A name with nothing but a port behind the colon
+// is a host, unless what it names is dialled.
 std::size_t schemeSize(std::string_view text)
 {
     const auto isLetter = [](char c) {
@@ -63,8 +70,13 @@ std::size_t schemeSize(std::string_view text)
         return isLetter(c) || isDigit(c) || c == '+' || c == '-' || c == '.';
     });
     const auto size = static_cast<std::size_t>(end - text.begin());
-    const bool hasPort = size + 1 < text.size() && isDigit(text[size + 1]);
-    return size < text.size() && text[size] == ':' && !hasPort ? size + 1 : 0;
+    if (size == text.size() || text[size] != ':') {
+        return 0;
+    }
+    const std::string_view behind = text.substr(size + 1);
+    const std::string name = Base::lowerAscii(text.substr(0, size));
+    const bool isDialled = name == "tel" || name == "sms" || name == "fax";
+    return !isDialled && isPort(behind.substr(0, behind.find_first_of("/?#"))) ? 0 : size + 1;
 }
 
 // The host and its port, with what stands before an @.
@@ -74,16 +86,25 @@ std::string_view authorityOf(std::string_view address)
     return rest.substr(0, rest.find_first_of("/?#"));
 }
 
-bool hasSoundPort(std::string_view authority)
+bool isSoundHost(std::string_view host)
 {
-    const std::string_view host = authority.substr(authority.rfind('@') + 1);
-    const std::size_t colon = host.rfind(':');
-    if (colon == std::string_view::npos || host.ends_with(']')) {
-        return true;
+    if (host.starts_with('[')) {
+        const std::string inner{host.substr(1, host.size() - 2)};
+        in6_addr parsed{};
+        return inet_pton(AF_INET6, inner.c_str(), &parsed) == 1;
     }
-    const std::string_view port = host.substr(colon + 1);
-    return !port.empty() && port.size() <= 5 &&
-           port.find_first_not_of("0123456789") == std::string_view::npos;
+    return host.find_first_not_of(".-") != std::string_view::npos &&
+           host.find_first_of("<>[]%\"^`{|}") == std::string_view::npos;
+}
+
+// Whether an address names a host, and behind it a port or nothing.
+bool namesWebsite(std::string_view address)
+{
+    const std::string_view host = hostOf(address);
+    const std::string_view authority = authorityOf(address);
+    const std::string_view behind{host.end(), authority.end()};
+    return isSoundHost(host) &&
+           (behind.empty() || (behind.starts_with(':') && isPort(behind.substr(1))));
 }
 
 // With https:// where there is no scheme, else with the scheme in lower case.
@@ -93,26 +114,38 @@ Result<std::string> withScheme(std::string_view text)
     if (size == 0) {
         return std::string{kSecure}.append(text);
     }
-    std::string address = inLowerCase(text.substr(0, size)).append(text.substr(size));
+    std::string address = Base::lowerAscii(text.substr(0, size)).append(text.substr(size));
     if (!address.starts_with(kSecure) && !address.starts_with(kPlain)) {
         return refused("Only http:// and https:// addresses can be saved");
     }
     return address;
 }
 
+// Fails when another of these has the address.
+Result<void> checkIsFree(std::string_view address, const LocalRecord &link,
+                         std::span<const LocalRecord> others)
+{
+    for (const LocalRecord &other : others) {
+        if (other.id != link.id && payloadOf<SavedLink>(other).url == address) {
+            return std::unexpected(KestError::invalidData(
+                fmt::format("This address is saved already, as \"{}\"", other.title)));
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 Result<std::string> normalizedAddress(std::string_view text)
 {
-    KEST_TRY(std::string address, withScheme(trimmed(text)));
+    KEST_TRY(std::string address, withScheme(Base::trimmed(text)));
     if (std::ranges::any_of(codePointsOf(address), isForbidden)) {
         return refused("An address has no spaces, backslashes or control characters");
     }
-    const std::string_view host = hostOf(address);
-    if (host.find_first_not_of(".-") == std::string_view::npos ||
-        !hasSoundPort(authorityOf(address))) {
+    if (!namesWebsite(address)) {
         return refused("This address names no website");
     }
+    const std::string_view host = hostOf(address);
     const auto at = static_cast<std::size_t>(host.data() - address.data());
     address.replace(at, host.size(), inLowerCase(host));
     const bool isBare = authorityOf(address).end() + 1 == std::string_view{address}.end();
@@ -135,18 +168,6 @@ std::string_view hostOf(std::string_view address)
     return host.substr(0, host.find(':'));
 }
 
-Result<void> checkIsOnly(const LocalRecord &link, std::span<const LocalRecord> others)
-{
-    const std::string address = linkOf(link).url;
-    for (const LocalRecord &other : others) {
-        if (other.id != link.id && linkOf(other).url == address) {
-            return std::unexpected(KestError::invalidData(
-                fmt::format("This address is saved already, as \"{}\"", other.title)));
-        }
-    }
-    return {};
-}
-
 Result<LocalRecord> makeLink(const LinkChange &given, std::span<const LocalRecord> others)
 {
     LocalRecord link;
@@ -161,7 +182,12 @@ Result<void> changeLink(LocalRecord &link, const LinkChange &change,
     KEST_TRY(SavedLink saved, json::decode<SavedLink>(std::string_view{link.body}));
     const bool followsAddress = link.title == hostOf(saved.url);
     if (change.address) {
-        KEST_TRY(saved.url, normalizedAddress(*change.address));
+        KEST_TRY(const std::string address, normalizedAddress(*change.address));
+        // Two that a backup brought stay two, and are changed like any other.
+        if (address != saved.url) {
+            KEST_CHECK(checkIsFree(address, link, others));
+        }
+        saved.url = address;
     }
     if (change.note) {
         KEST_CHECK(checkLength("The note of a link", *change.note));
@@ -174,7 +200,6 @@ Result<void> changeLink(LocalRecord &link, const LinkChange &change,
     LocalRecord changed = link;
     changed.title = title.empty() ? shortened(hostOf(saved.url), kLongestTitle) : title;
     KEST_TRY(changed.body, json::encode(saved));
-    KEST_CHECK(checkIsOnly(changed, others));
     link = std::move(changed);
     return {};
 }
@@ -183,7 +208,7 @@ std::vector<RecordHit> searchLinks(const std::vector<LocalRecord> &links,
                                    std::string_view query)
 {
     return searchRecords(links, query, [](const LocalRecord &record) {
-        const SavedLink link = linkOf(record);
+        const auto link = payloadOf<SavedLink>(record);
         return link.url + "\n" + link.note.value_or("");
     });
 }

@@ -17,7 +17,7 @@ inline constexpr const char *kLinkKind = "link";
 // The address as it is kept: with https:// where no scheme was written, scheme and host in
 // lower case, no slash behind a bare host. Host names in any script stay as they are. Fails
 // for schemes other than http and https, for white space and control characters, and for a
-// text that names no host.
+// text that names no host, or one with signs that no host has or a port from nowhere.
 [[nodiscard]] Result<std::string> normalizedAddress(std::string_view text);
 
 // The host of a kept address, without its port.
@@ -34,13 +34,10 @@ struct LinkChange {
 // saved already is refused, as two links that differ only in their notes would be a trap.
 [[nodiscard]] Result<LocalRecord> makeLink(const LinkChange &given,
                                            std::span<const LocalRecord> others);
-// A title that came from the address goes on following it; an empty one begins to.
+// A title that came from the address goes on following it; an empty one begins to. Only a new
+// address is compared with the others'.
 [[nodiscard]] Result<void> changeLink(LocalRecord &link, const LinkChange &change,
                                       std::span<const LocalRecord> others);
-
-// Fails when another of these has the link's address.
-[[nodiscard]] Result<void> checkIsOnly(const LocalRecord &link,
-                                       std::span<const LocalRecord> others);
 
 // In the title, the address and the note.
 std::vector<RecordHit> searchLinks(const std::vector<LocalRecord> &links,

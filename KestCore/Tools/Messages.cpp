@@ -21,9 +21,9 @@ Result<LocalRecord> makeMessage(const MessageChange &given)
 Result<void> changeMessage(LocalRecord &message, const MessageChange &change)
 {
     KEST_TRY(StripMessage shown, json::decode<StripMessage>(std::string_view{message.body}));
-    shown.text = trimmed(change.text.value_or(shown.text));
+    shown.text = Base::trimmed(change.text.value_or(shown.text));
     shown.animation = change.animation.value_or(shown.animation);
-    if (!keepsRules(shown) || hasControls(shown.text)) {
+    if (!keepsRules(shown) || hasControls(shown.text) || !isVisible(shown.text)) {
         return std::unexpected(KestError::invalidData(
             fmt::format("A message is one line of 1 to {} characters", kLongestStripMessage)));
     }

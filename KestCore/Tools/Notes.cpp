@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Tools/Notes.h"
 
+#include "Base/Uuid.h"
 #include "KestCore/Tools/Texts.h"
+
+#include <algorithm>
 
 namespace KestCore
 {
@@ -11,7 +14,15 @@ namespace
 {
 
 constexpr const char *kScratchpadKind = "scratchpad";
-constexpr const char *kScratchpadId = "scratchpad";
+
+// Whatever its id, as another build or a backup may have brought it. Of several, which none of
+// ours writes, the newest.
+Result<std::optional<LocalRecord>> scratchpadRecord(StateStore &store)
+{
+    KEST_TRY(auto records, store.recordsOfKind(kScratchpadKind));
+    const auto newest = std::ranges::max_element(records, {}, &LocalRecord::updated);
+    return newest == records.end() ? std::nullopt : std::optional{std::move(*newest)};
+}
 
 } // namespace
 
@@ -47,14 +58,13 @@ Result<void> changeNote(LocalRecord &note, const NoteChange &change)
 std::vector<RecordHit> searchNotes(const std::vector<LocalRecord> &notes,
                                    std::string_view query)
 {
-    return searchRecords(notes, query, [](const LocalRecord &record) {
-        return json::decode<Note>(std::string_view{record.body}).value_or(Note{}).text;
-    });
+    return searchRecords(
+        notes, query, [](const LocalRecord &record) { return payloadOf<Note>(record).text; });
 }
 
 Result<ScratchpadPage> readScratchpad(StateStore &store)
 {
-    KEST_TRY(const auto record, store.record(kScratchpadId));
+    KEST_TRY(const auto record, scratchpadRecord(store));
     if (!record) {
         return ScratchpadPage{};
     }
@@ -66,12 +76,11 @@ Result<ScratchpadPage> readScratchpad(StateStore &store)
 Result<void> replaceScratchpad(StateStore &store, std::string text, Base::Instant now)
 {
     KEST_CHECK(checkLength("The scratchpad", text));
-    KEST_TRY(std::string body, json::encode(Scratchpad{.text = std::move(text)}));
-    LocalRecord record{.id = kScratchpadId,
-                       .kind = kScratchpadKind,
-                       .title = "Scratchpad",
-                       .body = std::move(body),
-                       .updated = Base::milliseconds1970(now)};
+    KEST_TRY(const auto before, scratchpadRecord(store));
+    LocalRecord record = before.value_or(
+        LocalRecord{.id = Base::makeUuid(), .kind = kScratchpadKind, .title = "Scratchpad"});
+    KEST_TRY(record.body, json::encode(Scratchpad{.text = std::move(text)}));
+    record.updated = Base::milliseconds1970(now);
     return store.changeRecords({.written = {std::move(record)}});
 }
 

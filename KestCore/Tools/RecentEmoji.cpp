@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace KestCore
 {
@@ -20,16 +21,11 @@ namespace
 constexpr std::size_t kMostKept = 100;
 constexpr double kHalfLife = 7.0 * 24 * 3600; // seconds
 
-EmojiUse useOf(const LocalRecord &record)
-{
-    return json::decode<EmojiUse>(std::string_view{record.body}).value_or(EmojiUse{});
-}
-
 // A clock that was set back must not lift anything above its uses.
 double weightOf(const LocalRecord &record, Base::Instant now)
 {
     const auto age = now - Base::fromMilliseconds1970(record.updated);
-    return static_cast<double>(useOf(record).uses) *
+    return static_cast<double>(payloadOf<EmojiUse>(record).uses) *
            std::exp2(-std::max(age.count(), 0.0) / kHalfLife);
 }
 
@@ -42,6 +38,19 @@ std::vector<LocalRecord> byWeight(std::span<const LocalRecord> records, Base::In
     return sorted;
 }
 
+bool isSame(std::string_view emoji, const KnownEmoji &known)
+{
+    const auto other = emojiOf(emoji);
+    return other && other->text == known.text;
+}
+
+// Of counts from anywhere.
+std::int64_t sumOf(std::int64_t one, std::int64_t other)
+{
+    constexpr auto kMost = std::numeric_limits<std::int64_t>::max();
+    return other > kMost - one ? kMost : one + other;
+}
+
 } // namespace
 
 std::vector<RecentEmoji> recentEmoji(std::span<const LocalRecord> records, Base::Instant now,
@@ -50,7 +59,7 @@ std::vector<RecentEmoji> recentEmoji(std::span<const LocalRecord> records, Base:
     std::vector<RecentEmoji> recent;
     for (const LocalRecord &record : byWeight(records, now)) {
         if (recent.size() < limit) {
-            const EmojiUse use = useOf(record);
+            const EmojiUse use = payloadOf<EmojiUse>(record);
             recent.push_back({.emoji = use.emoji,
                               .uses = use.uses,
                               .lastUsed = Base::fromMilliseconds1970(record.updated)});
@@ -62,29 +71,36 @@ std::vector<RecentEmoji> recentEmoji(std::span<const LocalRecord> records, Base:
 Result<RecordChanges> usingEmoji(std::span<const LocalRecord> records, std::string_view text,
                                  Base::Instant now)
 {
-    const Emoji *known = emojiOf(text);
-    if (known == nullptr) {
+    const auto known = emojiOf(text);
+    if (!known) {
         return std::unexpected(KestError::invalidData(fmt::format("\"{}\" is no emoji", text)));
     }
     LocalRecord record{.id = Base::makeUuid(), .kind = kEmojiKind};
-    EmojiUse use{.emoji = std::string{text}};
-    const auto before = std::ranges::find_if(
-        records, [&](const LocalRecord &other) { return useOf(other).emoji == text; });
-    if (before != records.end()) {
-        record = *before;
-        use = useOf(record);
+    EmojiUse use{.emoji = known->text, .uses = 1};
+    RecordChanges changes;
+    std::vector<LocalRecord> others;
+    bool isFirst = true;
+    for (const LocalRecord &other : records) {
+        const auto before = payloadOf<EmojiUse>(other);
+        if (!isSame(before.emoji, *known)) {
+            others.push_back(other);
+            continue;
+        }
+        use.uses = sumOf(use.uses, before.uses);
+        if (std::exchange(isFirst, false)) {
+            record = other;
+        } else {
+            changes.removed.push_back(other.id); // kept in another form once
+        }
     }
-    use.uses += use.uses < std::numeric_limits<std::int64_t>::max() ? 1 : 0;
-    record.title = known->name;
+    record.title = known->emoji->name;
     record.updated = Base::milliseconds1970(now);
     KEST_TRY(record.body, json::encode(use));
+    changes.written.push_back(std::move(record));
 
-    RecordChanges changes{.written = {record}};
-    const auto kept = byWeight(records, now);
+    const auto kept = byWeight(others, now);
     for (std::size_t at = kMostKept - 1; at < kept.size(); ++at) {
-        if (kept[at].id != record.id) {
-            changes.removed.push_back(kept[at].id);
-        }
+        changes.removed.push_back(kept[at].id);
     }
     return changes;
 }

@@ -113,15 +113,10 @@ Result<std::vector<LocalRecord>> RecordList::removeAll()
     return records;
 }
 
-Result<std::vector<LocalRecord>> RecordList::restore(const Check &mayReturn)
+Result<std::vector<LocalRecord>> RecordList::restore()
 {
     KEST_TRY(const auto bin, m_store.recordsOfKind(kTrashKind));
     KEST_TRY(auto records, lastRemoved(bin, m_kind, m_now));
-    for (const LocalRecord &record : records) {
-        if (mayReturn) {
-            KEST_CHECK(mayReturn(record));
-        }
-    }
     KEST_CHECK(write(records));
     return records;
 }

@@ -6,7 +6,6 @@
 #include "KestCore/Store/StateStore.h"
 #include "KestCore/Tools/RecordOrder.h"
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,9 +43,7 @@ public:
 
     [[nodiscard]] Result<LocalRecord> remove(std::string_view idPrefix);
     [[nodiscard]] Result<std::vector<LocalRecord>> removeAll();
-    // Puts back what was removed last, if `mayReturn` has no objection to any of it.
-    using Check = std::function<Result<void>(const LocalRecord &)>;
-    [[nodiscard]] Result<std::vector<LocalRecord>> restore(const Check &mayReturn = {});
+    [[nodiscard]] Result<std::vector<LocalRecord>> restore(); // what was removed last
 
 private:
     [[nodiscard]] Result<void> write(std::vector<LocalRecord> records);

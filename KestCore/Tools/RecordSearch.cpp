@@ -21,49 +21,38 @@ constexpr std::size_t kLongestExcerpt = 120;
 constexpr std::size_t kShownBefore = 5; // words before the one that was found
 
 using Words = std::vector<std::string_view>;
+using Fit = SearchFit;
 
-Words wordsOf(std::string_view text)
-{
-    Words words;
-    while (!(text = trimmed(text)).empty()) {
-        const std::size_t end = std::min(text.find_first_of(" \t\r\n\v\f"), text.size());
-        words.push_back(text.substr(0, end));
-        text.remove_prefix(end);
-    }
-    return words;
-}
-
+// Signs are left out of what is compared, unless there is nothing else in the query: a search
+// for a hyphen means a hyphen. Stays where it is made, as the words are pieces of the form.
 struct Query {
-    std::string form{};
-    Words words{}; // of the form
-};
+    explicit Query(std::string_view text)
+    {
+        for (auto *const one : {looseSearchForm, normalizeForSearch}) {
+            if (words.empty()) {
+                formOf = one;
+                form = Base::trimmed(one(text));
+                words = wordsOf(form);
+            }
+        }
+    }
+    Query(const Query &) = delete;
+    Query &operator=(const Query &) = delete;
 
-// How well a text fits, the best first.
-enum class Fit : std::uint8_t { exact, prefix, wordStart, inside, words, none };
+    std::string (*formOf)(std::string_view){};
+    std::string form{};
+    Words words{};
+};
 
 Fit fitOf(std::string_view form, const Query &query)
 {
-    const std::size_t first = form.find(query.form);
-    if (first == 0) {
-        return form.size() == query.form.size() ? Fit::exact : Fit::prefix;
-    }
-    for (std::size_t at = first; at != std::string_view::npos;
-         at = form.find(query.form, at + 1)) {
-        if (form[at - 1] == ' ' || form[at - 1] == '\n') {
-            return Fit::wordStart;
-        }
-    }
-    if (first != std::string_view::npos) {
-        return Fit::inside;
-    }
-    const bool hasAll = std::ranges::all_of(
-        query.words, [&](std::string_view word) { return form.contains(word); });
-    return hasAll ? Fit::words : Fit::none;
+    const Fit whole = fitOfWhole(form, query.form);
+    return whole == Fit::none && hasAllWords(form, query.words) ? Fit::allWords : whole;
 }
 
 bool holdsAWord(std::string_view text, const Query &query)
 {
-    const std::string form = looseSearchForm(text);
+    const std::string form = query.formOf(text);
     return std::ranges::any_of(query.words,
                                [&](std::string_view word) { return form.contains(word); });
 }
@@ -76,10 +65,10 @@ std::string excerptOf(std::string_view line, const Query &query)
         words, [&](std::string_view word) { return holdsAWord(word, query); });
     const auto at = found == words.end() ? 0 : static_cast<std::size_t>(found - words.begin());
     if (at <= kShownBefore || Base::countCodePoints(line) <= kLongestExcerpt) {
-        return shortened(trimmed(line), kLongestExcerpt);
+        return shortened(Base::trimmed(line), kLongestExcerpt);
     }
     const auto cut = static_cast<std::size_t>(words[at - kShownBefore].data() - line.data());
-    return shortened("\u2026" + std::string{trimmed(line.substr(cut))}, kLongestExcerpt);
+    return shortened("\u2026" + std::string{Base::trimmed(line.substr(cut))}, kLongestExcerpt);
 }
 
 // The line that fits best; of equal ones the first.
@@ -88,7 +77,7 @@ std::string bestLine(std::string_view text, const Query &query)
     std::string_view best;
     auto bestFit = std::tuple{Fit::none, std::size_t{0}};
     for (const std::string_view line : Base::split(text, '\n')) {
-        const std::string form = looseSearchForm(line);
+        const std::string form = query.formOf(line);
         const auto held = std::ranges::count_if(
             query.words, [&](std::string_view word) { return form.contains(word); });
         const auto fit =
@@ -111,13 +100,15 @@ struct Ranked {
 std::vector<RecordHit> searchRecords(const std::vector<LocalRecord> &records,
                                      std::string_view query, const SearchedText &textOf)
 {
-    Query wanted{.form = looseSearchForm(trimmed(query))};
-    wanted.words = wordsOf(wanted.form);
+    const Query wanted{query};
+    if (wanted.words.empty() && !Base::trimmed(query).empty()) {
+        return {}; // marks alone
+    }
     std::vector<Ranked> found;
     for (const LocalRecord &record : records) {
         const std::string text = textOf(record);
-        const std::string title = looseSearchForm(record.title);
-        const std::string form = looseSearchForm(text);
+        const std::string title = wanted.formOf(record.title);
+        const std::string form = wanted.formOf(text);
         const std::tuple rank{fitOf(title, wanted), fitOf(form, wanted)};
         if (rank == std::tuple{Fit::none, Fit::none} &&
             fitOf(fmt::format("{}\n{}", title, form), wanted) == Fit::none) {

@@ -7,9 +7,12 @@
 
 #include <fmt/format.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 #include <algorithm>
+#include <map>
 
 namespace fs = std::filesystem;
 
@@ -19,17 +22,31 @@ namespace KestCore
 namespace
 {
 
-// What tells a file from others whatever its name; empty when there is no file. The kind of
-// the mark stands first, as another system would need another.
-Base::Bytes markOf(const fs::path &path)
+// What tells a file from others whatever its name: device and inode, and as inodes are given
+// to new files again, when it was born. Where that is not known, its size stands in, with
+// which a file that grew is not found again. The kind of the mark stands first.
+struct Marks {
+    std::string born{}; // empty: not known
+    std::string sized{};
+
+    const std::string &best() const { return born.empty() ? sized : born; }
+};
+
+std::optional<Marks> marksOf(const fs::path &path)
 {
-    struct stat status{};
-    if (lstat(path.c_str(), &status) != 0) {
-        return {};
+    struct statx status{};
+    if (statx(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
+              STATX_BASIC_STATS | STATX_BTIME, &status) != 0) {
+        return std::nullopt;
     }
-    const std::string text = fmt::format("inode:{}:{}:{}", status.st_dev, status.st_ino,
-                                         S_ISDIR(status.st_mode) ? 0 : status.st_size);
-    return {text.begin(), text.end()};
+    const auto device = makedev(status.stx_dev_major, status.stx_dev_minor);
+    Marks marks{.sized = fmt::format("inode:{}:{}:{}", device, status.stx_ino,
+                                     S_ISDIR(status.stx_mode) ? 0 : status.stx_size)};
+    if ((status.stx_mask & STATX_BTIME) != 0) {
+        marks.born = fmt::format("birth:{}:{}:{}.{:09}", device, status.stx_ino,
+                                 status.stx_btime.tv_sec, status.stx_btime.tv_nsec);
+    }
+    return marks;
 }
 
 bool isThere(const fs::path &path)
@@ -38,21 +55,27 @@ bool isThere(const fs::path &path)
     return lstat(path.c_str(), &status) == 0;
 }
 
-std::optional<std::string> findInFolder(const fs::path &folder, const Base::Bytes &mark)
+// The places of items that were not at their paths, by their marks.
+using Sought = std::multimap<std::string, ShelfPlace *>;
+
+// However many are sought, each file is looked at once.
+void findInFolder(const fs::path &folder, Sought &sought)
 {
     std::error_code error;
-    for (fs::directory_iterator at{folder, error}, end; !error && at != end;
+    for (fs::directory_iterator at{folder, error}, end; !error && at != end && !sought.empty();
          at.increment(error)) {
-        if (markOf(at->path()) == mark) {
-            return at->path().string();
+        const auto marks = marksOf(at->path());
+        if (!marks) {
+            continue;
+        }
+        for (const std::string &mark : {marks->born, marks->sized}) {
+            const auto [first, last] = sought.equal_range(mark);
+            for (const auto &[ignored, place] : std::ranges::subrange(first, last)) {
+                *place = {.state = ShelfPlace::State::moved, .path = at->path().string()};
+            }
+            sought.erase(first, last);
         }
     }
-    return std::nullopt;
-}
-
-ShelfItem itemOf(const LocalRecord &record)
-{
-    return json::decode<ShelfItem>(std::string_view{record.body}).value_or(ShelfItem{});
 }
 
 // Without . and .. and a slash at the end, but with links as they are.
@@ -71,15 +94,17 @@ Result<fs::path> fullPath(const fs::path &path)
 Result<LocalRecord> makeShelfFile(const fs::path &path)
 {
     KEST_TRY(const fs::path full, fullPath(path));
-    Base::Bytes mark = markOf(full);
-    if (mark.empty()) {
+    const auto marks = marksOf(full);
+    if (!marks) {
         return std::unexpected(Base::fileError(full, {errno, std::generic_category()}));
     }
     LocalRecord record;
     const std::string name = full.has_filename() ? full.filename().string() : full.string();
     record.title = shortened(name, kLongestTitle);
+    const std::string &mark = marks->best();
     KEST_TRY(record.body,
-             json::encode(ShelfItem{.path = full.string(), .bookmark = std::move(mark)}));
+             json::encode(ShelfItem{.path = full.string(),
+                                    .bookmark = Base::Bytes{mark.begin(), mark.end()}}));
     return record;
 }
 
@@ -96,34 +121,42 @@ Result<LocalRecord> makeShelfText(std::string text)
     return record;
 }
 
-ShelfPlace placeOf(const ShelfItem &item)
+std::vector<ShelfPlace> placesOf(std::span<const ShelfItem> items)
 {
-    const fs::path path = item.path.value_or("");
-    if (isThere(path)) {
-        return {.state = ShelfPlace::State::present, .path = item.path};
-    }
-    if (item.bookmark && !item.bookmark->empty()) {
-        if (auto found = findInFolder(path.parent_path(), *item.bookmark)) {
-            return {.state = ShelfPlace::State::moved, .path = std::move(found)};
+    std::vector<ShelfPlace> places(items.size());
+    std::map<fs::path, Sought> soughtIn;
+    for (std::size_t at = 0; at < items.size(); ++at) {
+        const auto &[path, text, bookmark] = items[at];
+        if (path && isThere(*path)) {
+            places[at] = {.state = ShelfPlace::State::present, .path = path};
+            continue;
+        }
+        places[at] = {.state = ShelfPlace::State::missing};
+        if (path && bookmark && !bookmark->empty()) {
+            soughtIn[fs::path{*path}.parent_path()].emplace(
+                std::string{bookmark->begin(), bookmark->end()}, &places[at]);
         }
     }
-    return {.state = ShelfPlace::State::missing};
+    for (auto &[folder, sought] : soughtIn) {
+        findInFolder(folder, sought);
+    }
+    return places;
 }
 
-Result<std::vector<LocalRecord>> shelve(StateStore &store, const std::vector<fs::path> &paths,
-                                        Base::Instant now)
+ShelfPlace placeOf(const ShelfItem &item) { return placesOf({&item, 1}).front(); }
+
+Result<std::vector<LocalRecord>> shelve(RecordList &shelf, const std::vector<fs::path> &paths)
 {
     std::vector<LocalRecord> files;
     for (const fs::path &path : paths) {
         KEST_TRY(files.emplace_back(), makeShelfFile(path));
     }
-    RecordList shelf{store, kShelfKind, now};
     KEST_TRY(const auto before, shelf.items());
     std::vector<LocalRecord> standing;
     std::vector<LocalRecord> added;
     for (LocalRecord &file : files) {
-        const auto isSame = [path = itemOf(file).path](const LocalRecord &other) {
-            return itemOf(other).path == path;
+        const auto isSame = [path = payloadOf<ShelfItem>(file).path](const LocalRecord &other) {
+            return payloadOf<ShelfItem>(other).path == path;
         };
         const auto old = std::ranges::find_if(before, isSame);
         if (old != before.end()) {

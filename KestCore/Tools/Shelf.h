@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace KestCore
@@ -34,19 +35,21 @@ constexpr auto enumTexts(Of<ShelfPlace::State>)
         {{present, "present"}, {moved, "moved"}, {missing, "missing"}}};
 }
 
-// A file or folder for the shelf, with what finds it again: device, inode and size. A link
-// stands for itself. Fails when there is nothing at the path.
+// A file or folder for the shelf, with what finds it again: device, inode and the time of its
+// birth. A link stands for itself. Fails when there is nothing at the path.
 [[nodiscard]] Result<LocalRecord> makeShelfFile(const std::filesystem::path &path);
 // A text for the shelf. Fails for one that is empty or too long.
 [[nodiscard]] Result<LocalRecord> makeShelfText(std::string text);
 
-// Looks for the file of an item that has a path. A file of that name is the file, as editors
-// save by putting a new one in the place of the old.
+// Looks for the files of items that have a path; one that has none is missing. A file of that
+// name is the file, as editors save by putting a new one in the place of the old. Otherwise
+// its folder is searched, once for all the items of that.
+std::vector<ShelfPlace> placesOf(std::span<const ShelfItem> items);
 ShelfPlace placeOf(const ShelfItem &item);
 
 // Puts all of these files on the shelf or, where one is not there, none. A path that is on it
 // already stays where it stands.
 [[nodiscard]] Result<std::vector<LocalRecord>>
-shelve(StateStore &store, const std::vector<std::filesystem::path> &paths, Base::Instant now);
+shelve(RecordList &shelf, const std::vector<std::filesystem::path> &paths);
 
 } // namespace KestCore

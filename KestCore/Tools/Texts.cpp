@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
+#include <unicode/utf8.h>
 
 #include <algorithm>
 
@@ -17,17 +18,17 @@ namespace KestCore
 namespace
 {
 
-constexpr std::string_view kBlanks = " \t\r\n\v\f";
+// Up to where a line is broken, by any of the signs for that.
+std::string_view firstLineOf(std::string_view text)
+{
+    std::size_t end = text.find_first_of("\r\n\v\f");
+    for (const std::string_view sign : {"\u0085", "\u2028", "\u2029"}) {
+        end = std::min(end, text.find(sign));
+    }
+    return text.substr(0, end);
+}
 
 } // namespace
-
-std::string_view trimmed(std::string_view text)
-{
-    const std::size_t begin = text.find_first_not_of(kBlanks);
-    return begin == std::string_view::npos
-               ? std::string_view{}
-               : text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
-}
 
 std::u32string codePointsOf(std::string_view text)
 {
@@ -37,6 +38,41 @@ std::u32string codePointsOf(std::string_view text)
         points += static_cast<char32_t>(characters.char32At(at));
     }
     return points;
+}
+
+bool isVisible(std::string_view text)
+{
+    return std::ranges::any_of(codePointsOf(text), [](char32_t character) {
+        const auto code = static_cast<UChar32>(character);
+        return u_isUWhiteSpace(code) == 0 && u_charType(code) != U_CONTROL_CHAR &&
+               u_hasBinaryProperty(code, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) == 0;
+    });
+}
+
+std::vector<std::string_view> wordsOf(std::string_view text)
+{
+    const auto *bytes = reinterpret_cast<const std::uint8_t *>(text.data());
+    const auto size = static_cast<std::int32_t>(text.size());
+    std::vector<std::string_view> words;
+    bool isInside = false;
+    for (std::int32_t at = 0, next = 0; at < size; at = next) {
+        UChar32 character = 0;
+        // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions): ICU's macro
+        U8_NEXT(bytes, next, size, character);
+        if (character >= 0 && u_isUWhiteSpace(character) != 0) {
+            isInside = false;
+            continue;
+        }
+        const char *begin = isInside ? words.back().data() : text.data() + at;
+        const std::string_view word{begin, text.data() + next};
+        if (isInside) {
+            words.back() = word;
+        } else {
+            words.push_back(word);
+        }
+        isInside = true;
+    }
+    return words;
 }
 
 bool hasControls(std::string_view text)
@@ -63,20 +99,25 @@ std::string shortened(std::string_view text, std::size_t most)
 
 std::string titleFromText(std::string_view text)
 {
-    const std::string_view rest = trimmed(text);
-    std::string title{trimmed(rest.substr(0, rest.find_first_of("\r\n\v\f")))};
+    const auto words = wordsOf(text);
+    const auto first = std::ranges::find_if(words, isVisible);
+    if (first == words.end()) {
+        return "";
+    }
+    const auto begin = static_cast<std::size_t>(first->data() - text.data());
+    std::string title{Base::trimmed(firstLineOf(text.substr(begin)))};
     Base::replaceAll(title, "\t", " ");
     return shortened(title, kLongestTitle);
 }
 
 Result<std::string> checkedTitle(std::string_view title)
 {
-    const std::string_view bare = trimmed(title);
+    const std::string_view bare = Base::trimmed(title);
     if (hasControls(bare) || Base::countCodePoints(bare) > kLongestTitle) {
         return std::unexpected(KestError::invalidData(
             fmt::format("A title is one line of at most {} characters", kLongestTitle)));
     }
-    return std::string{bare};
+    return isVisible(bare) ? std::string{bare} : "";
 }
 
 Result<void> checkLength(std::string_view what, std::string_view text)

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace KestCore
 {
@@ -15,11 +16,14 @@ namespace KestCore
 
 inline constexpr std::size_t kLongestTitle = 200; // characters
 
-// Without white space at either end.
-std::string_view trimmed(std::string_view text);
-
 // A sequence that is not UTF-8 reads as U+FFFD.
 std::u32string codePointsOf(std::string_view text);
+
+// Whether anything of it shows: not only blanks, breaks and what has no width.
+bool isVisible(std::string_view text);
+
+// The pieces between white space.
+std::vector<std::string_view> wordsOf(std::string_view text);
 
 // Whether it has control characters; breaks of lines are some.
 bool hasControls(std::string_view text);
@@ -30,7 +34,8 @@ std::string shortened(std::string_view text, std::size_t most);
 // The first line with something on it, as the title of a text that was given none.
 std::string titleFromText(std::string_view text);
 
-// The title, trimmed. Fails with "A title is one line of at most 200 characters".
+// The title, trimmed; empty where nothing of it shows. Fails with "A title is one line of at
+// most 200 characters".
 [[nodiscard]] Result<std::string> checkedTitle(std::string_view title);
 // Fails with "WHAT holds at most 1,000,000 bytes", kLongestText.
 [[nodiscard]] Result<void> checkLength(std::string_view what, std::string_view text);

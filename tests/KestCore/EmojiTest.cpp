@@ -4,6 +4,7 @@
 
 #include "Base/Text.h"
 #include "KestCore/Tools/RecentEmoji.h"
+#include "KestCore/Tools/Texts.h"
 
 #include <gmock/gmock.h>
 
@@ -32,7 +33,16 @@ std::vector<std::string_view> found(std::string_view query, std::size_t limit = 
 
 std::string toned(std::string_view text, SkinTone tone)
 {
-    return withTone(*emojiOf(text), tone);
+    return withTone(*emojiOf(text)->emoji, tone);
+}
+
+// Signs that turn the direction of what stands behind them.
+bool turnsDirection(std::string_view text)
+{
+    return std::ranges::any_of(codePointsOf(text), [](char32_t sign) {
+        return (sign >= 0x202A && sign <= 0x202E) || (sign >= 0x2066 && sign <= 0x2069) ||
+               sign == 0x200E || sign == 0x200F || sign == 0x061C;
+    });
 }
 
 bool hasLetters(std::string_view words, bool arabic)
@@ -69,12 +79,14 @@ TEST(Emoji, TheListIsWhole)
     for (const Emoji &emoji : allEmoji()) {
         SCOPED_TRACE(emoji.text);
         EXPECT_TRUE(texts.insert(emoji.text).second);
-        EXPECT_EQ(emojiOf(emoji.text), &emoji);
+        EXPECT_EQ(emojiOf(emoji.text)->emoji, &emoji);
+        EXPECT_EQ(emojiOf(emoji.text)->text, emoji.text);
         EXPECT_TRUE(hasLetters(emoji.words, false));
         EXPECT_TRUE(hasLetters(emoji.arabicWords, true));
         for (const auto &[words, name] :
              {std::pair{emoji.words, emoji.name}, {emoji.arabicWords, emoji.arabicName}}) {
             // The list is made by another program; both must fold words in the same way.
+            EXPECT_FALSE(turnsDirection(name) || turnsDirection(words));
             const auto pieces = Base::split(words, '|');
             EXPECT_EQ(pieces.front(), emojiSearchForm(name));
             for (const std::string_view word : pieces) {
@@ -83,7 +95,9 @@ TEST(Emoji, TheListIsWhole)
         }
         if (!emoji.toned.empty()) {
             ++withTones;
-            EXPECT_EQ(emojiOf(withTone(emoji, SkinTone::mediumDark)), &emoji);
+            const auto known = emojiOf(withTone(emoji, SkinTone::mediumDark));
+            EXPECT_EQ(known->emoji, &emoji);
+            EXPECT_EQ(known->text, withTone(emoji, SkinTone::mediumDark));
         }
     }
     EXPECT_GT(texts.size(), 1800U);
@@ -114,22 +128,42 @@ TEST(Emoji, TonesGoToEachPersonAndToNothingElse)
     EXPECT_EQ(chosenTone({}), none);
 }
 
-TEST(Emoji, AreKnownWithAnyToneAndNothingElseIs)
+TEST(Emoji, AreKnownInOneFormWhateverTheTone)
 {
-    for (const auto &[text, name] :
-         std::initializer_list<std::pair<const char *, const char *>>{
-             {"\u2764", "red heart"},
-             {"\u261D\U0001F3FE", "index pointing up"},
-             {"\U0001F469\U0001F3FB\u200D\U0001F91D\u200D\U0001F468\U0001F3FF",
-              "woman and man holding hands"},
-             {"\U0001F1F8\U0001F1E6", "flag: Saudi Arabia"},
+    // A woman and a man, a kiss, and two people, each of two tones.
+    const std::string mixed = "\U0001F469\U0001F3FB\u200D\U0001F91D\u200D\U0001F468\U0001F3FF";
+    const std::string kiss = "\U0001F9D1\U0001F3FB\u200D\u2764\uFE0F\u200D\U0001F48B\u200D"
+                             "\U0001F9D1\U0001F3FE";
+    const std::string pair = "\U0001F9D1\U0001F3FE\u200D\U0001F91D\u200D\U0001F9D1\U0001F3FB";
+    for (const auto &[text, name, form] :
+         std::initializer_list<std::tuple<std::string, const char *, std::string>>{
+             {"\u2764", "red heart", "\u2764\uFE0F"},
+             {"\u261D\uFE0F\U0001F3FE", "index pointing up", "\u261D\U0001F3FE"},
+             {mixed, "woman and man holding hands", mixed},
+             {"\U0001F469\U0001F3FB\u200D\U0001F91D\u200D\U0001F468\U0001F3FB",
+              "woman and man holding hands", "\U0001F46B\U0001F3FB"},
+             {"\U0001F469\u200D\U0001F91D\u200D\U0001F468", "woman and man holding hands",
+              "\U0001F46B"},
+             {kiss, "kiss", kiss},
+             {pair, "people holding hands", pair},
+             {"\U0001F1F8\U0001F1E6", "flag: Saudi Arabia", "\U0001F1F8\U0001F1E6"},
          }) {
-        ASSERT_NE(emojiOf(text), nullptr) << text;
-        EXPECT_EQ(emojiOf(text)->name, name);
+        const auto known = emojiOf(text);
+        ASSERT_TRUE(known) << text;
+        EXPECT_EQ(known->emoji->name, name);
+        EXPECT_EQ(known->text, form);
     }
+}
+
+TEST(Emoji, NothingElseIsOne)
+{
     for (const char *text : {"", "x", "\uFE0F", "\U0001F3FB", "\U0001F355\U0001F3FB",
-                             "\U0001F355\U0001F355", "\U0001F1F8"}) {
-        EXPECT_EQ(emojiOf(text), nullptr) << text;
+                             "\U0001F355\U0001F355", "\U0001F1F8",
+                             // Two tones on a thumb, one before it, and one for two people.
+                             "\U0001F44D\U0001F3FB\U0001F3FB", "\U0001F3FB\U0001F44D",
+                             "\U0001F469\U0001F3FB\u200D\U0001F91D\u200D\U0001F468",
+                             "\U0001F46B\U0001F3FB\U0001F3FC"}) {
+        EXPECT_FALSE(emojiOf(text)) << text;
     }
 }
 
@@ -160,6 +194,8 @@ TEST(Emoji, AreFoundInBothLanguagesTheBestFirst)
     EXPECT_LT(placeOf(wordStart), placeOf(inside));
     EXPECT_TRUE(found("").empty());
     EXPECT_TRUE(found(":_:").empty());
+    EXPECT_TRUE(found("|").empty());
+    EXPECT_EQ(found("cat|face", 5), found("cat face", 5));
     EXPECT_TRUE(found("qwxzy").empty());
     EXPECT_TRUE(found("cat qwxzy").empty());
 }
@@ -203,11 +239,31 @@ TEST(RecentEmoji, TheLeastUsedOfManyAreForgotten)
     for (int at = 0; at < 110; ++at) {
         uses.emplace_back(allEmoji()[static_cast<std::size_t>(at)].text, at);
     }
+    uses.emplace_back(allEmoji()[109].text, 110); // of which nothing has to go
     const auto records = used(uses);
     EXPECT_EQ(records.size(), 100U);
     EXPECT_EQ(recentEmoji(records, kNow, 1)[0].emoji, allEmoji()[109].text);
     EXPECT_TRUE(std::ranges::none_of(
         records, [](const LocalRecord &record) { return record.title == "cat"; }));
+}
+
+TEST(RecentEmoji, OneEmojiIsOneHoweverItIsWritten)
+{
+    const auto one = recentEmoji(used({{"\u2764", -1}, {"\u2764\uFE0F", 0}}), kNow, 9);
+    EXPECT_EQ(one, (std::vector<RecentEmoji>{{"\u2764\uFE0F", 2, kNow}}));
+
+    // What was kept in two forms comes together.
+    const auto kept = [](const char *id, const char *body) {
+        return LocalRecord{.id = id, .kind = "emoji", .title = "t", .body = body};
+    };
+    const auto changes = usingEmoji(
+        std::vector{kept("1", R"({"emoji":"\u2764","uses":3})"), kept("2", "?"),
+                    kept("3", R"({"emoji":"\u2764\ufe0f","uses":9223372036854775807})")},
+        "\u2764", kNow);
+    EXPECT_EQ(changes->removed, std::vector<std::string>{"3"});
+    ASSERT_EQ(changes->written.size(), 1U);
+    EXPECT_EQ(changes->written[0].id, "1");
+    EXPECT_EQ(recentEmoji(changes->written, kNow, 9)[0].uses, 9223372036854775807);
 }
 
 } // namespace KestCoreTests

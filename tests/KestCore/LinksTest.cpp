@@ -44,6 +44,9 @@ TEST(Links, KeepAddressesInOneForm)
              {"\u0646\u0627\u0645\u0647\u200C\u0627\u06CC.ir",
               "https://\u0646\u0627\u0645\u0647\u200C\u0627\u06CC.ir"},
              {"e.org/a:b@c", "https://e.org/a:b@c"},
+             {"e.org:65535?a:b", "https://e.org:65535?a:b"},
+             {"https://[2001:DB8::1]:8/X", "https://[2001:db8::1]:8/X"},
+             {"B\u00DCCHER.de/\u00DC", "https://b\u00FCcher.de/\u00DC"},
          }) {
         EXPECT_EQ(addressOrRefusal(text), address);
         EXPECT_EQ(addressOrRefusal(address), address);
@@ -62,6 +65,8 @@ TEST(Links, RefuseWhatIsNoWebAddress)
              {"JavaScript://e.org", scheme},
              {"file:///etc/passwd", scheme},
              {"mailto:a@e.org", scheme},
+             {"mailto:1@e.org", scheme},
+             {"Tel:112", scheme},
              {"https:e.org", scheme},
              {"https:/e.org", scheme},
              {"https://a b", signs},
@@ -78,6 +83,15 @@ TEST(Links, RefuseWhatIsNoWebAddress)
              {"https://..", website},
              {"https://e.org:", website},
              {"https://e.org:8x", website},
+             {"https://e.org:0", website},
+             {"https://e.org:65536", website},
+             {"https://e.org:99999999999999999999", website},
+             {"https://[]", website},
+             {"https://[::1", website},
+             {"https://[::g]", website},
+             {"https://[::1]x", website},
+             {"https://<b>", website},
+             {"https://a%2Fb.org", website},
              {"e.org/" + std::string(8192, 'x'), "This address is too long to be saved"},
          }) {
         EXPECT_EQ(addressOrRefusal(text), refusal) << text.substr(0, 60);
@@ -110,6 +124,11 @@ TEST(Links, AnAddressIsSavedOnce)
     EXPECT_FALSE(changeLink(second, {.address = "e.org"}, links));
     EXPECT_EQ(second, links[1]);
     EXPECT_TRUE(changeLink(second, {.address = "f.org", .title = "Same"}, links));
+    // Two that are there already can be changed like any others.
+    const std::vector<LocalRecord> twins{links[0], saved({.address = "e.org"}, "2")};
+    LocalRecord twin = twins[1];
+    EXPECT_TRUE(changeLink(twin, {.address = "https://E.org/", .note = "n"}, twins));
+    EXPECT_EQ(twin.body, R"({"url":"https://e.org","note":"n"})");
 }
 
 TEST(Links, AreFoundByTitleAddressAndNote)

@@ -141,7 +141,6 @@ TEST(LocalRecord, RefusesABrokenUtilityPayload)
          {R"({"prayer":"","bufferMinutes":5,"deadline":1})",
           R"({"prayer":"asr","bufferMinutes":-1,"deadline":1})",
           R"({"prayer":"asr","bufferMinutes":5})"}},
-
     });
 }
 

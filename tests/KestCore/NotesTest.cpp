@@ -80,6 +80,8 @@ TEST(Notes, GoByTheirTitleOrTheirFirstLine)
              Case{{.title = "a\nb"}, oneLine},
              Case{{.title = "a\u2028b"}, oneLine},
              Case{{.title = "a\u0085b"}, oneLine},
+             Case{{.title = "\u3000\u00A0", .text = "\u200B\n\u00A0first\u2028x"}, "first"},
+             Case{{.title = "\u200B", .text = "\u2060 \u3164"}, needs},
              Case{{}, needs},
              Case{{.title = "", .text = " \n "}, needs},
              Case{{.text = std::string(1'000'001, 'x')},
@@ -119,6 +121,11 @@ TEST(Notes, AreFoundWhateverTheMarksAndTheBestFirst)
                 ElementsAre(testing::StartsWith("Dua|\u0627\u0644\u0644")));
     EXPECT_THAT(found("quran"), ElementsAre("Dua|al-Qur\u02BE\u0101n"));
     EXPECT_THAT(found("milk stars bread"), ElementsAre());
+    // A sign counts where there is nothing else.
+    EXPECT_THAT(found(" - "), ElementsAre("Dua|al-Qur\u02BE\u0101n"));
+    EXPECT_THAT(found("- milky"), ElementsAre("Milky way|"));
+    EXPECT_THAT(found("\u2014"), ElementsAre());
+    EXPECT_THAT(found("\u0640"), ElementsAre());
     EXPECT_EQ(found(" ").size(), someNotes().size());
 }
 
@@ -156,10 +163,29 @@ TEST(Scratchpad, KeepsEverythingOrRefuses)
     EXPECT_EQ(store.recordsOfKind("scratchpad")->size(), 1U);
 }
 
+TEST(Scratchpad, IsTheSamePageUnderAnyId)
+{
+    const TemporaryFolder folder;
+    auto store = *StateStore::open(folder.database());
+    const auto page = [](const char *id, const char *body, double updated) {
+        return LocalRecord{
+            .id = id, .kind = "scratchpad", .title = "t", .body = body, .updated = updated};
+    };
+    ASSERT_TRUE(store.changeRecords(
+        {.written = {page("old", R"({"text":"a"})", 1), page("new", R"({"text":"b"})", 2),
+                     page("older", R"({"text":"c"})", 0)}}));
+    EXPECT_EQ(readScratchpad(store)->text, "b");
+    ASSERT_TRUE(appendToScratchpad(store, "more", kNow));
+    EXPECT_EQ(readScratchpad(store)->text, "b\nmore");
+    EXPECT_EQ(store.record("new")->value().body, R"({"text":"b\nmore"})");
+    EXPECT_EQ(store.recordsOfKind("scratchpad")->size(), 3U);
+}
+
 TEST(Messages, AreOneLineOfUpTo200Characters)
 {
-    for (const auto &text : {std::string{}, std::string{" \n"}, std::string{"a\nb"},
-                             std::string{"a\x1b[2J"}, repeated("\u0646", 201)}) {
+    for (const auto &text :
+         {std::string{}, std::string{" \n"}, std::string{"a\nb"}, std::string{"a\x1b[2J"},
+          std::string{"\u3000\u200B"}, repeated("\u0646", 201)}) {
         EXPECT_EQ(makeMessage({.text = text}).error().message,
                   "A message is one line of 1 to 200 characters");
     }

@@ -207,10 +207,6 @@ TEST(RecordList, AFailedChangeChangesNothing)
     const auto added = *list.add(note("n"), ListEnd::back);
     ASSERT_TRUE(list.remove(list.add(note("m"), ListEnd::back)->id));
     const auto before = *f.store.snapshot();
-    const auto refuse = [](const LocalRecord &) -> Result<void> {
-        return std::unexpected(KestError::invalidData("no"));
-    };
-    EXPECT_EQ(list.restore(refuse).error().message, "no");
     EXPECT_FALSE(list.edit(added.id, [](LocalRecord &record) -> Result<void> {
         record.body = "{}";
         return {};

@@ -4,7 +4,10 @@
 
 #include "tests/TemporaryFolder.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
+
+#include <sys/stat.h>
 
 #include <fstream>
 
@@ -51,8 +54,9 @@ TEST(Shelf, SaysWhatBecameOfAFile)
     EXPECT_EQ(placeOf(item), (ShelfPlace{State::present, file.string()}));
     fs::remove(file);
 
-    // The inode alone is no proof: systems give it to the next file.
-    write(renamed, "longer");
+    // The inode alone is no proof: systems give it to the next file, here of the same size.
+    fs::remove(renamed);
+    write(renamed, "4444");
     EXPECT_EQ(placeOf(item), (ShelfPlace{State::missing, std::nullopt}));
     fs::remove(renamed);
     EXPECT_EQ(placeOf(item).state, State::missing);
@@ -61,6 +65,48 @@ TEST(Shelf, SaysWhatBecameOfAFile)
     EXPECT_EQ(placeOf(foreign).state, State::missing);
     EXPECT_EQ(placeOf({.path = "/no/such/folder/file", .bookmark = item.bookmark}).state,
               State::missing);
+}
+
+TEST(Shelf, FindsAFileThatGrewWhereItsBirthIsKnown)
+{
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "log";
+    const fs::path renamed = folder.path() / "log.1";
+    write(file, "1");
+    struct stat status{};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    ShelfItem item = itemOf(*makeShelfFile(file));
+    const std::string mark{item.bookmark->begin(), item.bookmark->end()};
+    const bool isBirthKnown = mark.starts_with("birth:");
+    // As marks were once, and are where no birth is known.
+    const std::string sized = fmt::format("inode:{}:{}:1", status.st_dev, status.st_ino);
+    EXPECT_TRUE(isBirthKnown || mark == sized) << mark;
+
+    fs::rename(file, renamed);
+    ShelfItem early = item;
+    early.bookmark->assign(sized.begin(), sized.end());
+    EXPECT_EQ(placeOf(early).path, renamed.string());
+    write(renamed, "and more");
+    EXPECT_EQ(placeOf(early).state, State::missing);
+    EXPECT_EQ(placeOf(item).state, isBirthKnown ? State::moved : State::missing);
+}
+
+TEST(Shelf, LooksForManyAtOnce)
+{
+    const TemporaryFolder folder;
+    std::vector<ShelfItem> items(1, ShelfItem{.text = "t"});
+    std::vector<ShelfPlace> places(1, ShelfPlace{State::missing, std::nullopt});
+    for (const std::string name : {"a", "b", "c"}) {
+        const fs::path below = folder.path() / (name == "c" ? "2" : "1");
+        fs::create_directory(below);
+        write(below / name, name);
+        items.push_back(itemOf(*makeShelfFile(below / name)));
+        fs::rename(below / name, below / (name + name));
+        places.emplace_back(State::moved, (below / (name + name)).string());
+    }
+    items.push_back(items[2]); // twice on the shelf
+    places.push_back(places[2]);
+    EXPECT_EQ(placesOf(items), places);
 }
 
 TEST(Shelf, FollowsFoldersAndTakesALinkForItself)
@@ -85,20 +131,21 @@ TEST(Shelf, TakesAllFilesOrNoneAndEachOnce)
     const fs::path two = folder.path() / "two";
     write(one, "1");
     write(two, "2");
-    const auto refused = shelve(store, {one, folder.path() / "none"}, kNow);
+    RecordList shelf{store, kShelfKind, kNow};
+    const auto refused = shelve(shelf, {one, folder.path() / "none"});
     EXPECT_THAT(refused.error().message, testing::EndsWith("none: No such file or directory"));
     EXPECT_TRUE(store.recordsOfKind("shelf")->empty());
 
-    const auto first = shelve(store, {one, one}, kNow);
+    const auto first = shelve(shelf, {one, one});
     ASSERT_EQ(first->size(), 1U);
-    const auto again = shelve(store, {two, one}, kNow);
+    const auto again = shelve(shelf, {two, one});
     ASSERT_EQ(again->size(), 2U);
     EXPECT_EQ(again->front(), first->front());
-    const auto items = *RecordList(store, kShelfKind, kNow).items();
+    const auto items = *shelf.items();
     EXPECT_EQ(items.size(), 2U);
     EXPECT_EQ(items[1].title, "two");
 
-    ASSERT_TRUE(RecordList(store, kShelfKind, kNow).removeAll());
+    ASSERT_TRUE(shelf.removeAll());
     EXPECT_TRUE(fs::exists(one) && fs::exists(two));
 }
 
@@ -106,8 +153,10 @@ TEST(Shelf, TakesTexts)
 {
     EXPECT_EQ(makeShelfText("\n a \nb")->title, "a");
     EXPECT_EQ(itemOf(*makeShelfText("\n a \nb")).text, "\n a \nb");
-    EXPECT_EQ(makeShelfText(" \n").error().message,
-              "There is nothing in the text for the shelf");
+    for (const char *text : {" \n", "\u200B\u3000"}) {
+        EXPECT_EQ(makeShelfText(text).error().message,
+                  "There is nothing in the text for the shelf");
+    }
     EXPECT_EQ(makeShelfText(std::string(1'000'001, 'x')).error().message,
               "The shelf holds at most 1,000,000 bytes");
 }
