@@ -3,6 +3,7 @@
 #include "KestCore/Clipboard/ClipboardHistory.h"
 #include "KestCore/Clipboard/ClipboardKey.h"
 #include "KestCore/Clipboard/ClipboardVault.h"
+#include "KestCore/Models/RecordIds.h"
 #include "SecretService/SecretService.h"
 #include "cli/Answers.h"
 #include "cli/Session.h"
@@ -78,19 +79,20 @@ std::string oneLine(std::string_view display)
     return printable(display.substr(0, display.find_last_not_of(" \t\r\n") + 1));
 }
 
-// As much of the id as tells the entries apart is enough for a person.
-constexpr std::size_t kShownId = 8;
-
-Result<void> print(const Console &console, const Listings &listings, const char *whenEmpty)
+// Shows some of the entries; the others are there to keep shortened ids apart.
+Result<void> print(const Console &console, const Listings &listings, const Listings &all,
+                   const char *whenEmpty)
 {
     KEST_TRY(const auto answers, answersFor(listings));
     return console.answer(answers, [&] {
+        const std::size_t idSize =
+            KestCore::shortIdLength(KestCore::idsOf(all, &ClipboardListing::entry));
         std::vector<std::vector<std::string>> rows;
         for (const auto &[entry, display] : listings) {
-            rows.push_back(
-                {console.styled(printable(entry.id.substr(0, kShownId)), Style::faint),
-                 entry.favourite ? "*" : " ", std::string{Base::textOf(entry.kind)},
-                 localTime(Base::milliseconds1970(entry.createdAt)), oneLine(display)});
+            rows.push_back({console.styled(printable(entry.id.substr(0, idSize)), Style::faint),
+                            entry.favourite ? "*" : " ", std::string{Base::textOf(entry.kind)},
+                            localTime(Base::milliseconds1970(entry.createdAt)),
+                            oneLine(display)});
         }
         console.table(rows);
         if (rows.empty()) {
@@ -99,13 +101,18 @@ Result<void> print(const Console &console, const Listings &listings, const char 
     });
 }
 
+Listings onlyThe(const ClipboardEntry &entry, Listings listings)
+{
+    std::erase_if(listings, [&](const auto &line) { return line.entry.id != entry.id; });
+    return listings;
+}
+
 // The answer of a command that was about one entry.
 Result<void> printOne(const Console &console, ClipboardHistory &history,
                       const ClipboardEntry &entry)
 {
-    KEST_TRY(Listings all, history.list());
-    std::erase_if(all, [&](const ClipboardListing &line) { return line.entry.id != entry.id; });
-    return print(console, all, "It is gone.");
+    KEST_TRY(const Listings all, history.list());
+    return print(console, onlyThe(entry, all), all, "It is gone.");
 }
 
 Result<void> showContent(const Console &console, const ClipboardPayload &payload)
@@ -152,10 +159,9 @@ Result<void> runRemove(const Session &session, const std::string &id)
 {
     return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
         KEST_TRY(const auto entry, history.find(id));
-        KEST_TRY(Listings all, history.list());
+        KEST_TRY(const Listings all, history.list());
         KEST_CHECK(history.remove(entry.id));
-        std::erase_if(all, [&](const auto &line) { return line.entry.id != entry.id; });
-        return print(session.console, all, "");
+        return print(session.console, onlyThe(entry, all), all, "");
     });
 }
 
@@ -178,7 +184,7 @@ Result<void> runClear(const Session &session, bool isConfirmed)
     return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
         KEST_CHECK(history.clear());
         KEST_TRY(const Listings left, history.list());
-        return print(session.console, left, "The clipboard history is empty.");
+        return print(session.console, left, left, "The clipboard history is empty.");
     });
 }
 
@@ -188,7 +194,7 @@ Result<void> runList(const Session &session)
 {
     return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
         KEST_TRY(const Listings all, history.list());
-        return print(session.console, all, "The clipboard history is empty.");
+        return print(session.console, all, all, "The clipboard history is empty.");
     });
 }
 
@@ -196,7 +202,8 @@ Result<void> runSearch(const Session &session, const std::string &words)
 {
     return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
         KEST_TRY(const Listings found, history.search(words));
-        return print(session.console, found, "Nothing in the history has these words.");
+        KEST_TRY(const Listings all, history.list());
+        return print(session.console, found, all, "Nothing in the history has these words.");
     });
 }
 

@@ -93,7 +93,7 @@ check_open() {
         clipboard list --json
     says 0 'a·[31msecret·words' clipboard search SECRET
     says 1 'has the id "no id like that"' clipboard show "no id like that"
-    says 0 "${id:0:8}" clipboard list
+    says 0 "${id:0:4}" clipboard list
 }
 
 check_entries() {
