@@ -157,15 +157,15 @@ std::array<std::uint8_t, 32> keyedDigest(const AesKey &key, std::string_view pur
 {
     std::array<std::uint8_t, 32> derived{};
     std::array<std::uint8_t, 32> digest{};
-    HMAC(EVP_sha256(), key.bytes().data(), AesKey::kSize, unsignedBytes(purpose),
-         purpose.size(), derived.data(), nullptr);
+    bool isDone = HMAC(EVP_sha256(), key.bytes().data(), AesKey::kSize, unsignedBytes(purpose),
+                       purpose.size(), derived.data(), nullptr) != nullptr;
     const std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)> context{EVP_MD_CTX_new(),
                                                                           &EVP_MD_CTX_free};
     const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> macKey{
         EVP_PKEY_new_raw_private_key(EVP_PKEY_HMAC, nullptr, derived.data(), derived.size()),
         &EVP_PKEY_free};
-    bool isDone =
-        EVP_DigestSignInit(context.get(), nullptr, EVP_sha256(), nullptr, macKey.get()) == 1;
+    isDone = isDone && EVP_DigestSignInit(context.get(), nullptr, EVP_sha256(), nullptr,
+                                          macKey.get()) == 1;
     for (const std::string_view piece : pieces) {
         isDone = isDone && EVP_DigestSignUpdate(context.get(), piece.data(), piece.size()) == 1;
     }

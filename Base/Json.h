@@ -148,6 +148,11 @@ template <class T>
 template <class T>
 [[nodiscard]] Result<T> decode(const PaddedText &text);
 
+// The same for a record that is secret and has a `wipe`: no trace of it stays in memory but
+// the text and the answer, which the caller wipes.
+template <class T>
+[[nodiscard]] Result<T> decodeSecret(const PaddedText &text);
+
 template <class T>
 [[nodiscard]] Result<T> decode(std::string_view text)
 {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Base/JsonReader.h"
 
+#include "Base/Secret.h"
+
 namespace Base::json
 {
 
@@ -9,6 +11,7 @@ namespace
 {
 
 constexpr std::size_t kLargeDocument = std::size_t{64} * 1024;
+constexpr std::size_t kParserStep = 64; // at most so far beyond a text the parser writes
 
 } // namespace
 
@@ -56,8 +59,19 @@ bool Reader::readRaw(ondemand::value value, RawJson &out)
     return take(value.get_object(), object) && take(object.raw_json(), out.text);
 }
 
+void Reader::wipeTexts()
+{
+    if (!m_texts.empty()) {
+        OPENSSL_cleanse(const_cast<char *>(m_texts.data()), m_texts.size() + kParserStep);
+        m_texts = {};
+    }
+}
+
 bool Reader::checkText(std::string_view text)
 {
+    // The parser puts one text behind the other.
+    const char *const begin = m_texts.empty() ? text.data() : m_texts.data();
+    m_texts = {begin, static_cast<std::size_t>(text.data() + text.size() - begin)};
     if (m_hasEscapes && !simdjson::validate_utf8(text)) {
         return fail("text is not valid UTF-8");
     }

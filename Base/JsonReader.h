@@ -66,6 +66,8 @@ public:
     explicit Reader(std::string_view document) : m_hasEscapes(document.contains('\\')) {}
 
     [[nodiscard]] KestError error() const;
+    // Wipes the parser's copies of all texts that were read. While the parser is there.
+    void wipeTexts();
 
     template <class T>
     bool readDocument(ondemand::document &document, T &out)
@@ -348,6 +350,7 @@ private:
     bool inside(std::string_view key);
 
     bool m_hasEscapes;
+    std::string_view m_texts; // the parser's memory for texts, as far as it is used
     std::string m_reason;
     std::string m_place;
 };
@@ -365,22 +368,47 @@ private:
     std::unique_ptr<ondemand::parser> m_own;
 };
 
+namespace detail
+{
+
 template <class T>
-Result<T> decode(const PaddedText &text)
+Result<void> decodeInto(T &value, const PaddedText &text, Reader &reader,
+                        ondemand::parser &parser)
 {
     const std::string_view view = text.view();
-    Reader reader{view};
-    ParserLoan parser{view.size()};
     ondemand::document document;
-    const auto code =
-        (*parser).iterate(view.data(), view.size(), text.capacity()).get(document);
+    const auto code = parser.iterate(view.data(), view.size(), text.capacity()).get(document);
     if (code != simdjson::SUCCESS) {
         return std::unexpected(KestError::invalidData(simdjson::error_message(code)));
     }
+    return reader.readDocument(document, value) ? Result<void>{}
+                                                : std::unexpected(reader.error());
+}
+
+} // namespace detail
+
+template <class T>
+Result<T> decode(const PaddedText &text)
+{
+    Reader reader{text.view()};
+    ParserLoan parser{text.view().size()};
     T value{};
-    if (!reader.readDocument(document, value)) {
-        return std::unexpected(reader.error());
+    KEST_CHECK(detail::decodeInto(value, text, reader, *parser));
+    return value;
+}
+
+// The answer is built where it is returned, as moving a short text leaves a copy behind.
+template <class T>
+Result<T> decodeSecret(const PaddedText &text)
+{
+    Reader reader{text.view()};
+    ParserLoan parser{text.view().size()};
+    Result<T> value;
+    if (auto outcome = detail::decodeInto(*value, text, reader, *parser); !outcome) {
+        wipe(*value);
+        value = std::unexpected(std::move(outcome).error());
     }
+    reader.wipeTexts();
     return value;
 }
 

@@ -6,7 +6,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <expected>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -45,17 +47,41 @@ inline void wipe(std::string &text)
     text.clear();
 }
 
-// Wipes a text at the end of the block, whichever way the block is left.
+inline void wipe(std::vector<std::uint8_t> &bytes)
+{
+    OPENSSL_cleanse(bytes.data(), bytes.capacity());
+    bytes.clear();
+}
+
+template <class T>
+void wipe(std::optional<T> &value)
+{
+    if (value) {
+        wipe(*value);
+    }
+}
+
+template <class T, class E>
+void wipe(std::expected<T, E> &value)
+{
+    if (value) {
+        wipe(*value);
+    }
+}
+
+// Wipes what it is given at the end of the block, whichever way the block is left: a text,
+// bytes, or a record that has a `wipe` of its own.
+template <class T>
 class WipeAtEnd
 {
 public:
-    explicit WipeAtEnd(std::string &text) : m_text(text) {}
-    ~WipeAtEnd() { wipe(m_text); }
+    explicit WipeAtEnd(T &value) : m_value(value) {}
+    ~WipeAtEnd() { wipe(m_value); }
     WipeAtEnd(const WipeAtEnd &) = delete;
     WipeAtEnd &operator=(const WipeAtEnd &) = delete;
 
 private:
-    std::string &m_text;
+    T &m_value;
 };
 
 } // namespace Base

@@ -3,14 +3,20 @@
 #include "Base/Text.h"
 
 #include "Base/Fault.h"
+#include "Base/Secret.h"
 
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
+#include <unicode/uclean.h>
 #include <unicode/unistr.h>
 #include <unicode/utf8.h>
 
+#include <malloc.h>
+
 #include <algorithm>
+#include <cstdlib>
+#include <cstring>
 
 namespace Base
 {
@@ -65,12 +71,48 @@ bool actsOnTerminal(UChar32 character)
            type == U_PARAGRAPH_SEPARATOR;
 }
 
+bool beginsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
+
+void *allocate(const void * /*context*/, std::size_t size) { return std::malloc(size); }
+
+void release(const void * /*context*/, void *memory)
+{
+    OPENSSL_cleanse(memory, malloc_usable_size(memory));
+    std::free(memory);
+}
+
+void *reallocate(const void *context, void *memory, std::size_t size)
+{
+    void *const larger = std::malloc(size);
+    if (larger != nullptr && memory != nullptr) {
+        std::memcpy(larger, memory, std::min(size, malloc_usable_size(memory)));
+        release(context, memory);
+    }
+    return larger;
+}
+
 } // namespace
 
 std::size_t countCodePoints(std::string_view text)
 {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+    return static_cast<std::size_t>(std::ranges::count_if(text, beginsCharacter));
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t most)
+{
+    std::size_t characters = 0;
+    const auto isBeyond = [&](char c) { return beginsCharacter(c) && characters++ == most; };
+    const auto end = std::ranges::find_if(text, isBeyond);
+    return text.substr(0, static_cast<std::size_t>(end - text.begin()));
+}
+
+void wipeUnicodeMemory()
+{
+    UErrorCode status = U_ZERO_ERROR;
+    u_setMemoryFunctions(nullptr, allocate, reallocate, release, &status);
+    if (U_FAILURE(status) != 0) {
+        fatalFault("Base/Text", "the Unicode library does not let its memory be wiped");
+    }
 }
 
 std::string foldCaseAndDiacritics(std::string_view text)

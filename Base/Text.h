@@ -17,6 +17,13 @@ namespace Base
 // Unicode code points of a valid UTF-8 text.
 std::size_t countCodePoints(std::string_view text);
 
+// The first characters of a valid UTF-8 text, `most` of them where there are more.
+std::string_view firstCharacters(std::string_view text, std::size_t most);
+
+// Makes the Unicode library overwrite its memory before it gives it back, as texts that are
+// secret pass through it. For the beginning of a program, before there are other threads.
+void wipeUnicodeMemory();
+
 // The text without differences of case and of diacritics, by the rules of the user's
 // language (LC_ALL, LC_MESSAGES, LANG): a Turkish dotless i stays itself there.
 std::string foldCaseAndDiacritics(std::string_view text);

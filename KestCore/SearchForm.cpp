@@ -14,11 +14,11 @@ namespace
 
 constexpr std::string_view kPlainAlef = "\u0627";
 
-// Harakat and Quranic marks U+064B to U+065F are D9 8B to D9 9F in UTF-8.
+// Harakat and Quranic marks U+064B to U+065F are D9 8B to D9 9F in UTF-8. The text stays where
+// it is: of one that is secret, no copy may be left behind.
 void removeArabicMarks(std::string &text)
 {
-    std::string kept;
-    kept.reserve(text.size());
+    std::size_t kept = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
         const auto lead = static_cast<unsigned char>(text[at]);
         const auto next = at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) : 0;
@@ -29,9 +29,9 @@ void removeArabicMarks(std::string &text)
             ++at;
             continue;
         }
-        kept += text[at];
+        text[kept++] = text[at];
     }
-    text = std::move(kept);
+    text.resize(kept);
 }
 
 } // namespace

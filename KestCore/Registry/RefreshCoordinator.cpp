@@ -2,10 +2,28 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Registry/RefreshCoordinator.h"
 
+#include <exception>
+#include <system_error>
 #include <utility>
 
 namespace KestCore
 {
+
+namespace
+{
+
+// What a library below the fetch throws is a failed fetch, not the end of the program.
+Result<Base::Bytes> runFetch(const RefreshCoordinator::Fetch &fetch,
+                             const std::stop_token &stop)
+{
+    try {
+        return fetch(stop);
+    } catch (const std::exception &error) {
+        return std::unexpected(Base::KestError::unavailable(error.what()));
+    }
+}
+
+} // namespace
 
 RefreshCoordinator::RefreshCoordinator(Clock clock) : m_clock(std::move(clock)) {}
 
@@ -43,15 +61,22 @@ void RefreshCoordinator::start(Owned &owned, const std::string &key, RefreshPlan
                                Fetch fetch)
 {
     const std::uint64_t number = ++owned.lastThread;
-    owned.threads.emplace(
-        number, [this, number, key, start = std::move(start), fetch = std::move(fetch)] {
-            auto result = fetch(start.stop);
-            (void)m_owned.ask([this, number, key, generation = start.generation,
-                               result = std::move(result)](Owned &own) mutable {
-                own.plan.finish(key, generation, std::move(result), m_clock());
-                own.threads.erase(number); // joins a thread whose last act this was
-            });
+    const auto generation = start.generation;
+    const auto run = [this, number, key, start = std::move(start), fetch = std::move(fetch)] {
+        auto result = runFetch(fetch, start.stop);
+        (void)m_owned.ask([this, number, key, generation = start.generation,
+                           result = std::move(result)](Owned &own) mutable {
+            own.plan.finish(key, generation, std::move(result), m_clock());
+            own.threads.erase(number); // joins a thread whose last act this was
         });
+    };
+    try {
+        owned.threads.emplace(number, run);
+    } catch (const std::system_error &error) { // the system gives no more threads
+        owned.plan.finish(key, generation,
+                          std::unexpected(Base::KestError::unavailable(error.what())),
+                          m_clock());
+    }
 }
 
 std::future<void> RefreshCoordinator::cancel(std::string key)

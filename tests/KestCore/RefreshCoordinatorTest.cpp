@@ -4,7 +4,10 @@
 
 #include <gmock/gmock.h>
 
+#include <pthread.h>
+
 #include <atomic>
+#include <stdexcept>
 
 namespace KestCoreTests
 {
@@ -194,6 +197,30 @@ TEST(RefreshCoordinator, StopsWhatRunsWhenCancelledAndWhenItGoes)
         last = coordinator.refresh("c", Seconds{60}, untilStopped);
     }
     EXPECT_EQ(last.get().error(), kCancelled);
+}
+
+TEST(RefreshCoordinator, AnswersWhenAFetchThrowsOrCannotStart)
+{
+    RefreshCoordinator coordinator;
+    const auto fetch = [](const std::stop_token &) { return Result<Bytes>{bytes("x")}; };
+    auto thrown = coordinator.refresh("a", Seconds{60},
+                                      [](const std::stop_token &) -> Result<Bytes> {
+                                          throw std::runtime_error("the library gave up");
+                                      });
+    EXPECT_EQ(thrown.get().error(), KestError::unavailable("the library gave up"));
+
+    pthread_attr_t usual;
+    pthread_attr_t huge;
+    ASSERT_EQ(pthread_getattr_default_np(&usual), 0);
+    ASSERT_EQ(pthread_attr_init(&huge), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&huge, std::size_t{1} << 60), 0);
+    ASSERT_EQ(pthread_setattr_default_np(&huge), 0);
+    auto refused = coordinator.refresh("a", Seconds{60}, fetch);
+    EXPECT_EQ(refused.get().error().kind, KestError::Kind::unavailable);
+    ASSERT_EQ(pthread_setattr_default_np(&usual), 0);
+    pthread_attr_destroy(&huge);
+    pthread_attr_destroy(&usual);
+    EXPECT_EQ(*coordinator.refresh("a", Seconds{60}, fetch).get().value(), bytes("x"));
 }
 
 } // namespace KestCoreTests
