@@ -42,8 +42,6 @@ public:
     read(std::string_view account) = 0;
     [[nodiscard]] virtual SecretResult<> write(std::string_view account,
                                                std::span<const std::uint8_t> secret) = 0;
-    // One that is not there is no failure.
-    [[nodiscard]] virtual SecretResult<> remove(std::string_view account) = 0;
 };
 
 } // namespace Base

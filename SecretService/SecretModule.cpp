@@ -120,7 +120,6 @@ public:
     SecretResult<std::optional<SecretBytes>> read(std::string_view account) override;
     SecretResult<> write(std::string_view account,
                          std::span<const std::uint8_t> secret) override;
-    SecretResult<> remove(std::string_view account) override;
 
 private:
     bool mayPrompt() const { return m_prompts == Prompts::allowed; }
@@ -251,19 +250,6 @@ SecretResult<> LibsecretStore::write(std::string_view account,
         collection.get(), &kSchema, attributes.get(), "Velvetnook", value.get(),
         SECRET_ITEM_CREATE_REPLACE, deadline.cancellable(), problem.receive())};
     if (item == nullptr) {
-        return std::unexpected(problem.failure());
-    }
-    return {};
-}
-
-SecretResult<> LibsecretStore::remove(std::string_view account)
-{
-    const Deadline deadline{patience()};
-    KEST_TRY(const auto keeper, service(deadline));
-    KEST_TRY(const auto item, find(keeper.get(), account, deadline));
-    Problem problem;
-    if (item != nullptr && secret_item_delete_sync(item.get(), deadline.cancellable(),
-                                                   problem.receive()) == FALSE) {
         return std::unexpected(problem.failure());
     }
     return {};

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Base/Secret.h"
 #include "KestCore/Clipboard/ClipboardHistory.h"
 #include "KestCore/Clipboard/ClipboardKey.h"
 #include "KestCore/Clipboard/ClipboardVault.h"
 #include "KestCore/Models/RecordIds.h"
 #include "SecretService/SecretService.h"
 #include "cli/Answers.h"
+#include "cli/ItemAnswers.h"
 #include "cli/Session.h"
 
 #include <CLI/CLI.hpp>
@@ -14,8 +16,9 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <cerrno>
 #include <memory>
+#include <type_traits>
 
 // clipboard: what was copied, for scripts and for pipes.
 namespace Cli
@@ -29,39 +32,42 @@ using KestCore::ClipboardHistory;
 using KestCore::ClipboardListing;
 using KestCore::ClipboardPayload;
 using Listings = std::vector<ClipboardListing>;
-using Use = std::function<Result<void>(ClipboardHistory &)>;
 
-Result<Base::AesKey> readKey()
+constexpr const char *kEmpty = "The clipboard history is empty.";
+
+template <class T>
+Result<T> orRefuse(Base::SecretResult<T> outcome)
 {
-    const auto refuse = [](Base::SecretFailure failure) {
-        return std::unexpected(KestError::unavailable(std::move(failure.message)));
-    };
-    auto secrets = Keyring::open(Console::isInteractive() ? Keyring::Prompts::allowed
-                                                          : Keyring::Prompts::never);
-    if (!secrets) {
-        return refuse(std::move(secrets).error());
+    if (!outcome) {
+        return std::unexpected(KestError::unavailable(std::move(outcome).error().message));
     }
-    auto key = KestCore::clipboardKey(**secrets);
-    if (!key) {
-        return refuse(std::move(key).error());
-    }
-    return *std::move(key);
+    return *std::move(outcome);
 }
 
-// The key comes first: without one not even an empty history is put on the disk, and nobody
-// else waits for the store while a password is typed.
-Result<void> withHistory(const Session &session, const Use &use)
+// A key that is there comes first: without a keyring not even an empty history is put on the
+// disk, and nobody else waits for the store while a password is typed. The store is closed
+// again before anything is printed: a pager may hold the output for hours.
+template <class Work>
+std::invoke_result_t<Work, ClipboardHistory &> withHistory(const Session &session,
+                                                           const Work &work)
 {
-    KEST_TRY(Base::AesKey key, readKey());
+    KEST_TRY(const auto secrets,
+             orRefuse(Keyring::open(Console::isInteractive() ? Keyring::Prompts::allowed
+                                                             : Keyring::Prompts::never)));
+    KEST_TRY(auto key, orRefuse(KestCore::keptClipboardKey(*secrets)));
     KEST_TRY(auto store, session.openStore());
-    ClipboardHistory history{store, std::move(key)};
-    return use(history);
+    if (!key) {
+        KEST_TRY(key, orRefuse(KestCore::clipboardKey(*secrets, store)));
+    }
+    ClipboardHistory history{store, *std::move(key)};
+    KEST_CHECK(history.applyRetention(Base::wallClock()));
+    return work(history);
 }
 
 Result<std::vector<ClipboardAnswer>> answersFor(const Listings &listings)
 {
     std::vector<ClipboardAnswer> answers;
-    for (const auto &[entry, display] : listings) {
+    for (const auto &[entry, display, isReadable] : listings) {
         KEST_TRY(std::string createdAt, Base::toIso8601(entry.createdAt));
         answers.push_back({.id = entry.id,
                            .kind = entry.kind,
@@ -79,16 +85,22 @@ std::string oneLine(std::string_view display)
     return printable(display.substr(0, display.find_last_not_of(" \t\r\n") + 1));
 }
 
-// Shows some of the entries; the others are there to keep shortened ids apart.
-Result<void> print(const Console &console, const Listings &listings, const Listings &all,
-                   const char *whenEmpty)
+// As much of the ids as tells them apart, and eight characters at least: later entries may
+// begin with the same.
+std::size_t shownIdSize(const Listings &listings)
+{
+    constexpr std::size_t kLeast = 8;
+    return std::max(
+        kLeast, KestCore::shortIdLength(KestCore::idsOf(listings, &ClipboardListing::entry)));
+}
+
+Result<void> print(const Console &console, const Listings &listings, const char *whenEmpty = "")
 {
     KEST_TRY(const auto answers, answersFor(listings));
     return console.answer(answers, [&] {
-        const std::size_t idSize =
-            KestCore::shortIdLength(KestCore::idsOf(all, &ClipboardListing::entry));
+        const std::size_t idSize = shownIdSize(listings);
         std::vector<std::vector<std::string>> rows;
-        for (const auto &[entry, display] : listings) {
+        for (const auto &[entry, display, isReadable] : listings) {
             rows.push_back({console.styled(printable(entry.id.substr(0, idSize)), Style::faint),
                             entry.favourite ? "*" : " ", std::string{Base::textOf(entry.kind)},
                             localTime(Base::milliseconds1970(entry.createdAt)),
@@ -101,77 +113,85 @@ Result<void> print(const Console &console, const Listings &listings, const Listi
     });
 }
 
-Listings onlyThe(const ClipboardEntry &entry, Listings listings)
-{
-    std::erase_if(listings, [&](const auto &line) { return line.entry.id != entry.id; });
-    return listings;
-}
-
-// The answer of a command that was about one entry.
-Result<void> printOne(const Console &console, ClipboardHistory &history,
-                      const ClipboardEntry &entry)
-{
-    KEST_TRY(const Listings all, history.list());
-    return print(console, onlyThe(entry, all), all, "It is gone.");
-}
-
+// Exactly what was copied for a pipe or a file; a terminal gets nothing that could drive it.
 Result<void> showContent(const Console &console, const ClipboardPayload &payload)
 {
+    const bool isTerminal = isatty(STDOUT_FILENO) != 0;
     if (console.isJson) {
         KEST_TRY(const std::string document, Base::json::encode(payload));
         console.line(document);
+    } else if (payload.image && isTerminal) {
+        return std::unexpected(KestError::invalidData(
+            "An image cannot be shown on a terminal; send it to a file"));
     } else if (payload.image) {
-        if (isatty(STDOUT_FILENO) != 0) {
-            return std::unexpected(KestError::invalidData(
-                "An image cannot be shown on a terminal; send it to a file"));
-        }
         console.text(
             {reinterpret_cast<const char *>(payload.image->data()), payload.image->size()});
     } else if (payload.text) {
-        console.text(*payload.text);
+        isTerminal ? printText(console, *payload.text) : console.text(*payload.text);
     } else {
         for (const auto &file : payload.files) {
-            console.line(file.name);
+            console.line(isTerminal ? printable(file.name) : file.name);
         }
     }
     return {};
 }
 
-// One byte more than is allowed tells that there is too much.
-std::string readInput()
+// One byte more than is allowed tells that there is too much. Read without the library, whose
+// buffer would keep a copy.
+Result<std::string> readInput()
 {
     std::string text(ClipboardPayload::kLargestText + 1, '\0');
-    text.resize(std::fread(text.data(), 1, text.size(), stdin));
+    std::size_t size = 0;
+    while (size < text.size()) {
+        const ssize_t got = read(STDIN_FILENO, text.data() + size, text.size() - size);
+        if (got < 0 && errno != EINTR) {
+            Base::wipe(text);
+            return std::unexpected(KestError::unavailable("Standard input cannot be read"));
+        }
+        if (got == 0) {
+            break;
+        }
+        size += static_cast<std::size_t>(std::max<ssize_t>(got, 0));
+    }
+    text.resize(size);
     return text;
 }
 
 Result<void> runAdd(const Session &session)
 {
-    const auto payload = KestCore::clipboardTextPayload(readInput());
+    KEST_TRY(std::string input, readInput());
+    auto payload = KestCore::clipboardTextPayload(std::move(input));
+    const Base::WipeAtEnd wiping{payload};
     KEST_CHECK(payload.validate());
-    return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
+    const auto change = [&](ClipboardHistory &history) -> Result<ClipboardListing> {
         KEST_TRY(const auto entry, history.add(payload, Base::wallClock()));
-        return printOne(session.console, history, entry);
-    });
+        return history.listing(entry.id);
+    };
+    KEST_TRY(auto line, withHistory(session, change));
+    return print(session.console, {std::move(line)});
 }
 
 Result<void> runRemove(const Session &session, const std::string &id)
 {
-    return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
+    const auto change = [&](ClipboardHistory &history) -> Result<ClipboardListing> {
         KEST_TRY(const auto entry, history.find(id));
-        KEST_TRY(const Listings all, history.list());
+        KEST_TRY(auto line, history.listing(entry.id));
         KEST_CHECK(history.remove(entry.id));
-        return print(session.console, onlyThe(entry, all), all, "");
-    });
+        return line;
+    };
+    KEST_TRY(auto line, withHistory(session, change));
+    return print(session.console, {std::move(line)});
 }
 
 Result<void> runFavourite(const Session &session, const std::string &id)
 {
-    return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
+    const auto change = [&](ClipboardHistory &history) -> Result<ClipboardListing> {
         KEST_TRY(const auto found, history.find(id));
         KEST_TRY(const auto entry, history.setFavourite(found.id, !found.favourite));
-        return printOne(session.console, history, entry);
-    });
+        return history.listing(entry.id);
+    };
+    KEST_TRY(auto line, withHistory(session, change));
+    return print(session.console, {std::move(line)});
 }
 
 Result<void> runClear(const Session &session, bool isConfirmed)
@@ -181,39 +201,41 @@ Result<void> runClear(const Session &session, bool isConfirmed)
         return std::unexpected(
             KestError::invalidData("Confirm with --yes before clearing the clipboard history"));
     }
-    return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
+    const auto change = [](ClipboardHistory &history) -> Result<Listings> {
         KEST_CHECK(history.clear());
-        KEST_TRY(const Listings left, history.list());
-        return print(session.console, left, left, "The clipboard history is empty.");
-    });
+        return history.list();
+    };
+    KEST_TRY(const Listings left, withHistory(session, change));
+    return print(session.console, left, kEmpty);
 }
 
 using OnEntry = Result<void> (*)(const Session &, const std::string &);
 
 Result<void> runList(const Session &session)
 {
-    return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
-        KEST_TRY(const Listings all, history.list());
-        return print(session.console, all, all, "The clipboard history is empty.");
-    });
+    KEST_TRY(const Listings all,
+             withHistory(session, [](ClipboardHistory &history) { return history.list(); }));
+    return print(session.console, all, kEmpty);
 }
 
 Result<void> runSearch(const Session &session, const std::string &words)
 {
-    return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
-        KEST_TRY(const Listings found, history.search(words));
-        KEST_TRY(const Listings all, history.list());
-        return print(session.console, found, all, "Nothing in the history has these words.");
-    });
+    KEST_TRY(const Listings found, withHistory(session, [&](ClipboardHistory &history) {
+                 return history.search(words);
+             }));
+    return print(session.console, found, "Nothing in the history has these words.");
 }
 
 Result<void> runShow(const Session &session, const std::string &id)
 {
-    return withHistory(session, [&](ClipboardHistory &history) -> Result<void> {
+    const auto open = [&](ClipboardHistory &history) -> Result<ClipboardPayload> {
         KEST_TRY(const auto entry, history.find(id));
-        KEST_TRY(const auto payload, history.content(entry.id));
-        return showContent(session.console, payload);
-    });
+        return history.content(entry.id);
+    };
+    auto payload = withHistory(session, open);
+    const Base::WipeAtEnd wiping{payload};
+    return payload ? showContent(session.console, *payload)
+                   : std::unexpected(std::move(payload).error());
 }
 
 void addPlain(CLI::App *clipboard, Session &session, const char *name, const char *help,

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Base/Text.h"
 #include "cli/Session.h"
 
 #include <CLI/CLI.hpp>
@@ -74,6 +75,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
 int run(int argc, char **argv)
 {
     fillStandardDescriptors();
+    Base::wipeUnicodeMemory();
     std::setlocale(LC_ALL, "");
     Cli::Session session;
     CLI::App program{"Counts remembrance and keeps what Velvetnook keeps, from the terminal."};

@@ -62,11 +62,14 @@ Result<ClipboardPayload> ClipboardCipher::open(std::string_view text, const Base
 {
     KEST_TRY(std::string plain, openBox(text, key, json::PaddedText::kPadding));
     json::PaddedText document{std::move(plain)};
-    auto payload = json::decode<ClipboardPayload>(document);
+    auto payload = json::decodeSecret<ClipboardPayload>(document);
     std::string spent = document.release();
     Base::wipe(spent);
     if (payload) {
-        KEST_CHECK(payload->validate());
+        if (auto sound = payload->validate(); !sound) {
+            wipe(*payload);
+            payload = std::unexpected(std::move(sound).error());
+        }
     }
     return payload;
 }

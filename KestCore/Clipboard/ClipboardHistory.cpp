@@ -7,6 +7,7 @@
 #include "KestCore/Clipboard/ClipboardPrivacy.h"
 #include "KestCore/Clipboard/ClipboardRetention.h"
 #include "KestCore/Models/RecordIds.h"
+#include "KestCore/SearchForm.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,6 +21,7 @@ namespace
 
 constexpr const char *kDamagedImage = "This saved image is damaged.";
 constexpr const char *kDamagedEntry = "This saved entry cannot be opened.";
+constexpr const char *kNoWords = "Write the words to look for";
 
 void addRemoval(std::string_view id, RecordChanges &changes)
 {
@@ -43,11 +45,30 @@ bool isTextual(ClipboardKind kind)
     return kind == ClipboardKind::text || kind == ClipboardKind::link;
 }
 
+// The line of content that cannot be read.
+ClipboardIndexRow makeshiftRow(const LocalRecord &record)
+{
+    const ClipboardEntry entry = entryOf(record, {});
+    return {.id = entry.id,
+            .createdAt = entry.createdAt,
+            .byteCount = static_cast<std::int64_t>(record.body.size()),
+            .favourite = entry.favourite};
+}
+
+bool isMakeshift(const ClipboardIndexRow &row) { return row.display.empty(); }
+
+bool contains(std::string_view text, std::string_view words)
+{
+    std::string form = normalizeForSearch(text);
+    const Base::WipeAtEnd wiping{form};
+    return form.contains(words);
+}
+
 } // namespace
 
-// A row whose content is gone is removed. Content without a row (an older build wrote it, or a
-// backup brought it) is opened once; if that fails, its line is made anew each time, since the
-// right key may come back.
+// A row whose content is gone is removed. Content without a row (an older build wrote it) is
+// opened once; if that fails, its line is made anew each time, since the right key, or a build
+// that knows its form, may come back.
 Result<ClipboardHistory::Rows> ClipboardHistory::rows()
 {
     KEST_TRY(const auto ids, m_store.recordIdsOfKind(kClipboardRecordKind));
@@ -75,9 +96,7 @@ Result<ClipboardHistory::Rows> ClipboardHistory::rows()
             rows.push_back(*std::move(row));
         }
     }
-    if (!repairs.written.empty() || !repairs.removed.empty()) {
-        KEST_CHECK(m_store.changeRecords(repairs));
-    }
+    KEST_CHECK(commit(repairs));
     std::ranges::sort(rows, comesBefore);
     return rows;
 }
@@ -87,16 +106,15 @@ Result<std::optional<ClipboardIndexRow>> ClipboardHistory::rebuildRow(std::strin
 {
     std::optional<ClipboardIndexRow> row;
     KEST_TRY(const auto record, m_store.record(id));
-    if (!record || !isContentRecord(*record)) {
+    if (!record) {
         return row;
     }
-    const auto payload = ClipboardCipher::open(record->body, m_key);
+    auto payload = isContentRecord(*record)
+                       ? ClipboardCipher::open(record->body, m_key)
+                       : std::unexpected(KestError::invalidData(kDamagedEntry));
+    const Base::WipeAtEnd wiping{payload};
     if (!payload) {
-        const ClipboardEntry entry = entryOf(*record, {});
-        row = {.id = entry.id,
-               .createdAt = entry.createdAt,
-               .byteCount = static_cast<std::int64_t>(record->body.size()),
-               .favourite = entry.favourite};
+        row = makeshiftRow(*record);
         return row;
     }
     KEST_TRY(row, makeIndexRow(entryOf(*record, *payload), *payload, m_key));
@@ -112,13 +130,14 @@ Result<std::optional<ClipboardIndexRow>> ClipboardHistory::rowOf(std::string_vie
     return found == all.end() ? std::nullopt : std::optional{std::move(*found)};
 }
 
-std::string ClipboardHistory::displayOf(const ClipboardIndexRow &row) const
+ClipboardListing ClipboardHistory::lineOf(const ClipboardIndexRow &row) const
 {
     auto display = ClipboardCipher::openLine(row.display, m_key);
     if (display) {
-        return *std::move(display);
+        return {.entry = row.entry(), .display = *std::move(display), .isReadable = true};
     }
-    return row.kind == ClipboardKind::image ? kDamagedImage : kDamagedEntry;
+    return {.entry = row.entry(),
+            .display = row.kind == ClipboardKind::image ? kDamagedImage : kDamagedEntry};
 }
 
 Result<std::vector<ClipboardListing>> ClipboardHistory::list()
@@ -126,42 +145,48 @@ Result<std::vector<ClipboardListing>> ClipboardHistory::list()
     KEST_TRY(const Rows all, rows());
     std::vector<ClipboardListing> listings;
     for (const ClipboardIndexRow &row : all) {
-        listings.push_back({.entry = row.entry(), .display = displayOf(row)});
+        listings.push_back(lineOf(row));
     }
     return listings;
 }
 
 Result<std::vector<ClipboardListing>> ClipboardHistory::search(std::string_view words)
 {
-    const std::string folded = Base::foldCaseAndDiacritics(words);
+    const std::string wanted = normalizeForSearch(words);
+    if (Base::trimmed(wanted).empty()) {
+        return std::unexpected(KestError::invalidData(kNoWords));
+    }
     KEST_TRY(const Rows all, rows());
     std::vector<ClipboardListing> found;
     for (const ClipboardIndexRow &row : all) {
         if (!isTextual(row.kind)) {
             continue;
         }
-        std::string display = displayOf(row);
-        KEST_TRY(const bool isFound, hasWords(row, display, folded));
-        if (isFound) {
-            found.push_back({.entry = row.entry(), .display = std::move(display)});
+        ClipboardListing line = lineOf(row);
+        // A notice in the place of the content is none of the user's words.
+        const bool isContent = line.isReadable && line.display != ClipboardPrivacy::kHidden;
+        if (isContent && hasWords(row, line.display, wanted)) {
+            found.push_back(std::move(line));
+        } else {
+            Base::wipe(line.display);
         }
     }
     return found;
 }
 
 // Most texts are short and stand in the index as a whole.
-Result<bool> ClipboardHistory::hasWords(const ClipboardIndexRow &row, std::string_view display,
-                                        std::string_view folded)
+bool ClipboardHistory::hasWords(const ClipboardIndexRow &row, std::string_view display,
+                                std::string_view words)
 {
-    if (Base::foldCaseAndDiacritics(display).contains(folded)) {
+    if (contains(display, words)) {
         return true;
     }
-    const bool isWhole = std::cmp_greater_equal(display.size(), row.byteCount);
-    if (isWhole || display == ClipboardPrivacy::kHidden) {
+    if (std::cmp_greater_equal(display.size(), row.byteCount)) {
         return false;
     }
-    const auto payload = content(row.id);
-    return payload && Base::foldCaseAndDiacritics(payload->text.value_or("")).contains(folded);
+    auto payload = openContent(row.id);
+    const Base::WipeAtEnd wiping{payload};
+    return payload && payload->text && contains(*payload->text, words);
 }
 
 Result<ClipboardEntry> ClipboardHistory::find(std::string_view idOrBeginning)
@@ -172,17 +197,34 @@ Result<ClipboardEntry> ClipboardHistory::find(std::string_view idOrBeginning)
     return all[at].entry();
 }
 
-Result<ClipboardPayload> ClipboardHistory::content(std::string_view id)
+Result<ClipboardListing> ClipboardHistory::listing(std::string_view id)
 {
-    KEST_TRY(const auto record, m_store.record(id));
-    if (!record || !isContentRecord(*record)) {
+    KEST_TRY(const auto row, rowOf(id));
+    if (!row) {
         return std::unexpected(removedItem());
     }
-    auto payload = ClipboardCipher::open(record->body, m_key);
+    return lineOf(*row);
+}
+
+Result<ClipboardPayload> ClipboardHistory::openContent(std::string_view id)
+{
+    KEST_TRY(const auto record, m_store.record(id));
+    if (!record || record->kind != kClipboardRecordKind) {
+        return std::unexpected(removedItem());
+    }
+    if (!isContentRecord(*record)) {
+        return std::unexpected(KestError::invalidData(kDamagedEntry));
+    }
+    return ClipboardCipher::open(record->body, m_key);
+}
+
+Result<ClipboardPayload> ClipboardHistory::content(std::string_view id)
+{
+    auto payload = openContent(id);
     if (!payload) {
         KEST_TRY(const auto row, rowOf(id));
         if (row && row->kind == ClipboardKind::image) {
-            return std::unexpected(KestError::invalidData(kDamagedImage));
+            payload = std::unexpected(KestError::invalidData(kDamagedImage));
         }
     }
     return payload;
@@ -201,23 +243,30 @@ Result<ClipboardEntry> ClipboardHistory::add(const ClipboardPayload &payload, Ba
     const auto equal = std::ranges::find(all, print, &ClipboardIndexRow::fingerprint);
     if (equal != all.end()) {
         entry.id = equal->id;
-        entry.favourite = equal->favourite;
+        KEST_TRY(entry.favourite, isFavouriteByContent(entry.id));
         all.erase(equal);
     }
     KEST_TRY(ClipboardIndexRow row, makeIndexRow(entry, payload, m_key));
     KEST_TRY(LocalRecord index, indexRecord(row));
+    // Judged as the newest, or an entry from a clock that ran ahead would keep all others out.
+    if (!all.empty() && all.front().createdAt >= row.createdAt) {
+        row.createdAt = all.front().createdAt + Base::Seconds{1};
+    }
     all.push_back(std::move(row));
     RecordChanges changes;
-    removeUncovered(all, entry.createdAt, changes);
+    KEST_CHECK(removeUncovered(all, entry.createdAt, changes));
     if (std::ranges::find(changes.removed, entry.id) != changes.removed.end()) {
         return std::unexpected(
             KestError::invalidData("The clipboard history has no room for this."));
     }
-    changes.written = {contentRecord(entry, std::move(sealed)), std::move(index)};
+    changes.written.push_back(contentRecord(entry, std::move(sealed)));
+    changes.written.push_back(std::move(index));
     KEST_CHECK(m_store.changeRecords(changes));
     return entry;
 }
 
+// Only the mark changes. A makeshift row is not written: it would stand in the place of the
+// content's own line when that can be read again.
 Result<ClipboardEntry> ClipboardHistory::setFavourite(std::string_view id, bool favourite)
 {
     KEST_TRY(auto row, rowOf(id));
@@ -226,9 +275,12 @@ Result<ClipboardEntry> ClipboardHistory::setFavourite(std::string_view id, bool 
         return std::unexpected(removedItem());
     }
     row->favourite = favourite;
-    KEST_TRY(LocalRecord index, indexRecord(*row));
+    KestCore::setFavourite(*record, favourite);
     RecordChanges changes;
-    changes.written = {contentRecord(row->entry(), std::move(record->body)), std::move(index)};
+    changes.written.push_back(*std::move(record));
+    if (!isMakeshift(*row)) {
+        KEST_TRY(changes.written.emplace_back(), indexRecord(*row));
+    }
     KEST_CHECK(m_store.changeRecords(changes));
     return row->entry();
 }
@@ -246,22 +298,49 @@ Result<void> ClipboardHistory::clear()
     RecordChanges changes;
     for (const ClipboardIndexRow &row : all) {
         if (!row.favourite) {
-            addRemoval(row.id, changes);
+            KEST_CHECK(removeUnlessFavourite(row, changes));
         }
     }
-    return changes.removed.empty() ? Result<void>{} : m_store.changeRecords(changes);
+    return commit(changes);
 }
 
 Result<void> ClipboardHistory::applyRetention(Base::Instant now)
 {
     KEST_TRY(const Rows all, rows());
     RecordChanges changes;
-    removeUncovered(all, now, changes);
-    return changes.removed.empty() ? Result<void>{} : m_store.changeRecords(changes);
+    KEST_CHECK(removeUncovered(all, now, changes));
+    return commit(changes);
 }
 
-void ClipboardHistory::removeUncovered(const Rows &rows, Base::Instant now,
-                                       RecordChanges &changes) const
+// Other builds mark a favourite in the record of the content alone.
+Result<bool> ClipboardHistory::isFavouriteByContent(std::string_view id)
+{
+    const auto record = m_store.record(id);
+    if (record) {
+        return *record && isFavourite(**record);
+    }
+    if (record.error().kind == KestError::Kind::invalidData) {
+        return false; // no build can read it
+    }
+    return std::unexpected(record.error());
+}
+
+// The last look before something is gone for good; what turns out to be a favourite is one in
+// the index too from now on.
+Result<void> ClipboardHistory::removeUnlessFavourite(ClipboardIndexRow row,
+                                                     RecordChanges &changes)
+{
+    KEST_TRY(row.favourite, isFavouriteByContent(row.id));
+    if (!row.favourite) {
+        addRemoval(row.id, changes);
+    } else if (!isMakeshift(row)) {
+        KEST_TRY(changes.written.emplace_back(), indexRecord(row));
+    }
+    return {};
+}
+
+Result<void> ClipboardHistory::removeUncovered(const Rows &rows, Base::Instant now,
+                                               RecordChanges &changes)
 {
     std::vector<ClipboardEntry> passing;
     for (const ClipboardIndexRow &row : rows) {
@@ -276,11 +355,18 @@ void ClipboardHistory::removeUncovered(const Rows &rows, Base::Instant now,
     for (const ClipboardEntry &entry : kept) {
         keptIds.insert(entry.id);
     }
-    for (const ClipboardEntry &entry : passing) {
-        if (!keptIds.contains(entry.id)) {
-            addRemoval(entry.id, changes);
+    for (const ClipboardIndexRow &row : rows) {
+        if (!row.favourite && !keptIds.contains(row.id)) {
+            KEST_CHECK(removeUnlessFavourite(row, changes));
         }
     }
+    return {};
+}
+
+Result<void> ClipboardHistory::commit(const RecordChanges &changes)
+{
+    return changes.written.empty() && changes.removed.empty() ? Result<void>{}
+                                                              : m_store.changeRecords(changes);
 }
 
 } // namespace KestCore

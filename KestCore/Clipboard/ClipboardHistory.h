@@ -17,6 +17,7 @@ namespace KestCore
 struct ClipboardListing {
     ClipboardEntry entry{};
     std::string display{}; // no credential, at most 200 characters
+    bool isReadable{};     // if not, `display` says so
 };
 
 // What was copied, in the store and under a key. Nothing of the content reaches the disk but
@@ -31,16 +32,21 @@ public:
     }
 
     // Favourites first, then the newest first. Opens no content, unless an entry of another
-    // build lacks its index row: that is made up for, once.
+    // build lacks its index row: that is made up for, once. What this build or this key cannot
+    // read stands there too, so that it can be removed.
     [[nodiscard]] Result<std::vector<ClipboardListing>> list();
-    // The texts and links in which these words stand, whatever their case and marks. What is
-    // hidden as a credential is not searched.
+    // The texts and links in which these words stand, as catalogues are searched. What is
+    // hidden as a credential is not searched. Fails with invalidData without any words.
     [[nodiscard]] Result<std::vector<ClipboardListing>> search(std::string_view words);
 
     // The one entry whose id is this or begins with it, in either case. Fails with
     // invalidData when there is none, or more than one.
     [[nodiscard]] Result<ClipboardEntry> find(std::string_view idOrBeginning);
-    // Fails with "This saved image is damaged." for an image, else as ClipboardCipher::open.
+    // The line of one entry; fails as `content` does when it is not there.
+    [[nodiscard]] Result<ClipboardListing> listing(std::string_view id);
+    // Fails with "This item was removed.", with "This saved image is damaged." for an image,
+    // with "This saved entry cannot be opened." for a form that this build does not know, else
+    // as ClipboardCipher::open. The caller wipes it.
     [[nodiscard]] Result<ClipboardPayload> content(std::string_view id);
 
     // Keeps it as the newest entry; equal content that is there already moves instead. What
@@ -49,7 +55,7 @@ public:
                                              Base::Instant now);
     [[nodiscard]] Result<ClipboardEntry> setFavourite(std::string_view id, bool favourite);
     [[nodiscard]] Result<void> remove(std::string_view id);
-    // Removes everything but the favourites.
+    // Removes everything but the favourites, those of other builds among them.
     [[nodiscard]] Result<void> clear();
     // Removes what has grown too old meanwhile.
     [[nodiscard]] Result<void> applyRetention(Base::Instant now);
@@ -67,10 +73,16 @@ private:
     [[nodiscard]] Result<std::optional<ClipboardIndexRow>> rowOf(std::string_view id);
     [[nodiscard]] Result<std::optional<ClipboardIndexRow>> rebuildRow(std::string_view id,
                                                                       RecordChanges &repairs);
-    std::string displayOf(const ClipboardIndexRow &row) const;
-    [[nodiscard]] Result<bool> hasWords(const ClipboardIndexRow &row, std::string_view display,
-                                        std::string_view folded);
-    void removeUncovered(const Rows &rows, Base::Instant now, RecordChanges &changes) const;
+    ClipboardListing lineOf(const ClipboardIndexRow &row) const;
+    [[nodiscard]] Result<ClipboardPayload> openContent(std::string_view id);
+    bool hasWords(const ClipboardIndexRow &row, std::string_view display,
+                  std::string_view words);
+    [[nodiscard]] Result<bool> isFavouriteByContent(std::string_view id);
+    [[nodiscard]] Result<void> removeUnlessFavourite(ClipboardIndexRow row,
+                                                     RecordChanges &changes);
+    [[nodiscard]] Result<void> removeUncovered(const Rows &rows, Base::Instant now,
+                                               RecordChanges &changes);
+    [[nodiscard]] Result<void> commit(const RecordChanges &changes);
 
     StateStore &m_store;
     Base::AesKey m_key;

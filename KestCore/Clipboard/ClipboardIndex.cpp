@@ -4,6 +4,7 @@
 
 #include "Base/JsonReader.h"
 #include "Base/JsonWriter.h"
+#include "Base/Text.h"
 #include "KestCore/Clipboard/ClipboardPrivacy.h"
 
 #include <algorithm>
@@ -26,24 +27,27 @@ constexpr const char *kFormatAttribute = "format";
 constexpr const char *kContentFormat = "rich-v1";
 constexpr const char *kIndexFormat = "index-v1";
 
-bool continuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
-
-std::string beginningOf(std::string_view text)
-{
-    std::size_t characters = 0;
-    std::size_t at = 0;
-    for (; at < text.size(); ++at) {
-        if (!continuesCharacter(text[at]) && characters++ == kLongestDisplay) {
-            break;
-        }
-    }
-    return std::string{text.substr(0, at)};
-}
-
 std::string attribute(const LocalRecord &record, const char *name)
 {
     const auto found = record.extra.find(name);
     return found == record.extra.end() ? std::string{} : found->second;
+}
+
+// Grows in memory that is there from the start, as the caller can wipe only that.
+std::string namesOf(const std::vector<ClipboardFileReference> &files)
+{
+    std::size_t size = 0;
+    for (const ClipboardFileReference &file : files) {
+        size += file.name.size() + 2;
+    }
+    std::string names;
+    names.reserve(size);
+    for (const ClipboardFileReference &file : files) {
+        names += names.empty() ? "" : ", ";
+        names += file.name;
+    }
+    names.resize(Base::firstCharacters(names, kLongestDisplay).size());
+    return names;
 }
 
 KestError noIndexRow() { return KestError::invalidData("Invalid clipboard index"); }
@@ -70,14 +74,12 @@ std::string clipboardDisplay(const ClipboardPayload &payload)
         return "Copied image";
     }
     if (payload.kind == ClipboardKind::files) {
-        std::string names;
-        for (const ClipboardFileReference &file : payload.files) {
-            names += (names.empty() ? "" : ", ") + file.name;
-        }
-        return beginningOf(names);
+        return namesOf(payload.files);
     }
     // The whole text is searched, so that a cut cannot part a credential.
-    return beginningOf(ClipboardPrivacy::displayText(payload.text.value_or("")));
+    const std::string_view text = payload.text ? std::string_view{*payload.text} : "";
+    return std::string{
+        Base::firstCharacters(ClipboardPrivacy::displayText(text), kLongestDisplay)};
 }
 
 Result<ClipboardIndexRow> makeIndexRow(const ClipboardEntry &entry,
@@ -111,7 +113,7 @@ Result<ClipboardIndexRow> readIndexRecord(const LocalRecord &record)
         return std::unexpected(noIndexRow());
     }
     KEST_TRY(auto row, json::decode<ClipboardIndexRow>(std::string_view{record.body}));
-    if (record.id != clipboardIndexId(row.id)) {
+    if (record.id != clipboardIndexId(row.id) || row.display.empty()) {
         return std::unexpected(noIndexRow());
     }
     return row;
@@ -124,10 +126,21 @@ LocalRecord contentRecord(const ClipboardEntry &entry, std::string sealed)
                        .body = std::move(sealed),
                        .updated = Base::milliseconds1970(entry.createdAt),
                        .extra = {{kFormatAttribute, kContentFormat}}};
-    if (entry.favourite) {
-        record.extra.emplace(kFavoriteAttribute, "true");
-    }
+    setFavourite(record, entry.favourite);
     return record;
+}
+
+bool isFavourite(const LocalRecord &content)
+{
+    return attribute(content, kFavoriteAttribute) == "true";
+}
+
+void setFavourite(LocalRecord &content, bool favourite)
+{
+    content.extra.erase(kFavoriteAttribute);
+    if (favourite) {
+        content.extra.emplace(kFavoriteAttribute, "true");
+    }
 }
 
 bool isContentRecord(const LocalRecord &record)
@@ -142,7 +155,7 @@ ClipboardEntry entryOf(const LocalRecord &record, const ClipboardPayload &payloa
             .kind = payload.kind,
             .createdAt = Base::fromMilliseconds1970(record.updated),
             .byteCount = payload.byteCount(),
-            .favourite = attribute(record, kFavoriteAttribute) == "true"};
+            .favourite = isFavourite(record)};
 }
 
 } // namespace KestCore

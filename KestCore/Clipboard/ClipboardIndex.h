@@ -45,19 +45,23 @@ static_assert(json::coversAllMembers<ClipboardIndexRow>());
 std::string clipboardIndexId(std::string_view entryId);
 
 // What a list shows of the content: the beginning of a text, a notice in the place of a
-// credential, "Copied image", the names of files.
+// credential, "Copied image", the names of files. The caller wipes it.
 std::string clipboardDisplay(const ClipboardPayload &payload);
 
 [[nodiscard]] Result<ClipboardIndexRow> makeIndexRow(const ClipboardEntry &entry,
                                                      const ClipboardPayload &payload,
                                                      const Base::AesKey &key);
 [[nodiscard]] Result<LocalRecord> indexRecord(const ClipboardIndexRow &row);
-// Fails with invalidData for a record that is no index row of the entry that its id names.
+// Fails with invalidData for a record that is no index row of the entry that its id names, or
+// one that shows nothing.
 [[nodiscard]] Result<ClipboardIndexRow> readIndexRecord(const LocalRecord &record);
 
 LocalRecord contentRecord(const ClipboardEntry &entry, std::string sealed);
 // Whether the record is an entry's content in the form that this build reads.
 bool isContentRecord(const LocalRecord &record);
+// What every build goes by, whatever the form of the content.
+bool isFavourite(const LocalRecord &content);
+void setFavourite(LocalRecord &content, bool favourite);
 // The entry that a content record is of, from the record and its opened content.
 ClipboardEntry entryOf(const LocalRecord &record, const ClipboardPayload &payload);
 

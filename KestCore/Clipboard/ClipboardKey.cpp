@@ -5,17 +5,28 @@
 namespace KestCore
 {
 
-Base::SecretResult<Base::AesKey> clipboardKey(Base::SecretStore &secrets)
+Base::SecretResult<std::optional<Base::AesKey>> keptClipboardKey(Base::SecretStore &secrets)
 {
     KEST_TRY(const auto kept, secrets.read(kClipboardKeyAccount));
-    if (kept) {
-        if (auto key = Base::AesKey::fromBytes(*kept)) {
-            return *std::move(key);
-        }
+    if (!kept) {
+        return std::nullopt;
+    }
+    auto key = Base::AesKey::fromBytes(*kept);
+    if (!key) {
         // To put another in its place would make the history unreadable for good.
         return std::unexpected(
             Base::SecretFailure{.kind = Base::SecretFailure::Kind::failed,
                                 .message = "The clipboard's key in the keyring is damaged"});
+    }
+    return key;
+}
+
+Base::SecretResult<Base::AesKey> clipboardKey(Base::SecretStore &secrets,
+                                              const StateStore & /*owned*/)
+{
+    KEST_TRY(auto kept, keptClipboardKey(secrets));
+    if (kept) {
+        return *std::move(kept);
     }
     Base::AesKey key = Base::AesKey::random();
     KEST_CHECK(secrets.write(kClipboardKeyAccount, key.bytes()));

@@ -5,6 +5,7 @@
 #include "Base/AesGcm.h"
 #include "Base/SecretStore.h"
 #include "KestCore/Registry/Availability.h"
+#include "KestCore/Store/StateStore.h"
 #include "KestCore/Vocabulary.h"
 
 namespace KestCore
@@ -12,9 +13,15 @@ namespace KestCore
 
 inline constexpr std::string_view kClipboardKeyAccount = "clipboard.key";
 
-// The key of the history: the one that the system keeps, or a new one, which is kept there
-// before anybody gets it. Without a place to keep it there is no key, and so no history.
-[[nodiscard]] Base::SecretResult<Base::AesKey> clipboardKey(Base::SecretStore &secrets);
+// The key that the system keeps, or nothing when it keeps none yet.
+[[nodiscard]] Base::SecretResult<std::optional<Base::AesKey>>
+keptClipboardKey(Base::SecretStore &secrets);
+
+// The same, or a new one, which is kept before anybody gets it. Without a place to keep it
+// there is no key, and so no history. Two that made a key at once would each seal under its
+// own, and one of the two is lost: so only the owner of the store makes one.
+[[nodiscard]] Base::SecretResult<Base::AesKey> clipboardKey(Base::SecretStore &secrets,
+                                                            const StateStore &owned);
 
 // How the clipboard tool stands when its key could not be had.
 Availability availabilityOf(Base::SecretFailure::Kind kind);

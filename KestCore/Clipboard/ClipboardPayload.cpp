@@ -4,6 +4,7 @@
 
 #include "Base/JsonReader.h"
 #include "Base/JsonWriter.h"
+#include "Base/Secret.h"
 #include "Base/Text.h"
 
 #include <algorithm>
@@ -14,6 +15,7 @@ namespace Base::json
 using namespace KestCore;
 template Result<ClipboardEntry> decode(const PaddedText &);
 template Result<ClipboardPayload> decode(const PaddedText &);
+template Result<ClipboardPayload> decodeSecret(const PaddedText &);
 template Result<std::string> encode(const ClipboardEntry &);
 template Result<std::string> encode(const ClipboardPayload &);
 template Result<std::string> encodeSecret(const ClipboardPayload &, std::size_t);
@@ -65,6 +67,17 @@ std::size_t sizeOf(const std::optional<Base::Bytes> &bytes)
 }
 
 } // namespace
+
+void wipe(ClipboardPayload &payload)
+{
+    Base::wipe(payload.text);
+    Base::wipe(payload.image);
+    Base::wipe(payload.thumbnail);
+    for (ClipboardFileReference &file : payload.files) {
+        Base::wipe(file.name);
+        Base::wipe(file.bookmark);
+    }
+}
 
 Result<void> ClipboardPayload::validate() const
 {

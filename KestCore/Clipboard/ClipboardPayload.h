@@ -55,7 +55,7 @@ consteval auto jsonFields(Of<ClipboardFileReference>)
 }
 static_assert(json::coversAllMembers<ClipboardFileReference>());
 
-// The whole content of an entry: what is encrypted.
+// The whole content of an entry: what is encrypted. Who owns one wipes it, by Base::WipeAtEnd.
 struct ClipboardPayload {
     static constexpr std::int64_t kVersion = 1;
     static constexpr std::size_t kLargestThumbnail = 250'000; // bytes
@@ -90,5 +90,7 @@ consteval auto jsonFields(Of<ClipboardPayload>)
                       json::Field{"thumbnail", &R::thumbnail}, json::Field{"files", &R::files}};
 }
 static_assert(json::coversAllMembers<ClipboardPayload>());
+
+void wipe(ClipboardPayload &payload);
 
 } // namespace KestCore

@@ -83,9 +83,9 @@ bool ClipboardPrivacy::isCredential(std::string_view text, std::int32_t patience
     });
 }
 
-std::string ClipboardPrivacy::displayText(std::string_view text)
+std::string_view ClipboardPrivacy::displayText(std::string_view text)
 {
-    return std::string{isCredential(text) ? kHidden : text};
+    return isCredential(text) ? kHidden : text;
 }
 
 } // namespace KestCore

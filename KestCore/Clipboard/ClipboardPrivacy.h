@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace KestCore
@@ -25,7 +24,7 @@ public:
     static bool isCredential(std::string_view text, std::int32_t patience = kPatience);
 
     // The text itself, or kHidden.
-    static std::string displayText(std::string_view text);
+    static std::string_view displayText(std::string_view text);
 };
 
 } // namespace KestCore

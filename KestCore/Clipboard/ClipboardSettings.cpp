@@ -4,8 +4,6 @@
 
 #include "Base/Text.h"
 
-#include <charconv>
-
 namespace KestCore
 {
 
@@ -20,21 +18,7 @@ std::string_view valueOf(const Settings &settings, const std::string &key)
 
 void readNumber(std::string_view text, std::int64_t &number)
 {
-    std::int64_t read = 0;
-    const char *const begin = text.data();
-    const char *const end = begin + text.size();
-    const auto [stop, error] = std::from_chars(begin, end, read);
-    if (error == std::errc{} && stop == end) {
-        number = read;
-    }
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    const std::size_t begin = text.find_first_not_of(" \t");
-    const std::size_t end = text.find_last_not_of(" \t") + 1;
-    return begin == std::string_view::npos ? std::string_view{}
-                                           : text.substr(begin, end - begin);
+    number = Base::numberFrom<std::int64_t>(text).value_or(number);
 }
 
 } // namespace
@@ -45,7 +29,7 @@ ClipboardSettings clipboardSettings(const Settings &settings)
     read.enabled = settingIsTrue(settings, "clipboard.enabled");
     read.paused = settingIsTrue(settings, "clipboard.paused");
     for (const auto piece : Base::split(valueOf(settings, "clipboard.exclusions"), ',')) {
-        if (const auto application = trimmed(piece); !application.empty()) {
+        if (const auto application = Base::trimmed(piece); !application.empty()) {
             read.exclusions.emplace_back(application);
         }
     }

@@ -18,6 +18,8 @@ constexpr const char *kFileMoved =
     "A copied file has moved or access was revoked. Copy it again from Finder.";
 constexpr const char *kNotCopiedBack = "The clipboard could not be updated. Try copying again.";
 
+constexpr Base::Seconds kTidyEvery{3'600};
+
 constexpr std::string_view kPrivateMarkers[] = {
     "org.nspasteboard.TransientType",
     "org.nspasteboard.ConcealedType",
@@ -56,6 +58,7 @@ ClipboardVault::ClipboardVault(StateStore &store, Base::AesKey key, Pasteboard &
 
 Result<ClipboardVault::Poll> ClipboardVault::poll(Base::Instant now)
 {
+    KEST_CHECK(applyRetention(now));
     const auto settings = clipboardSettings(m_store.state().settings);
     const std::int64_t change = m_pasteboard.changeCount();
     if (!settings.isRecording()) {
@@ -69,7 +72,9 @@ Result<ClipboardVault::Poll> ClipboardVault::poll(Base::Instant now)
     if (isExcluded(settings)) {
         return Poll::excluded;
     }
-    KEST_TRY(const auto payload, read());
+    std::optional<ClipboardPayload> payload;
+    const Base::WipeAtEnd wiping{payload};
+    KEST_CHECK(read(payload));
     if (m_pasteboard.changeCount() != change) {
         // The content may be that of a later copy, whose marks were not looked at.
         return Poll::unchanged;
@@ -77,13 +82,24 @@ Result<ClipboardVault::Poll> ClipboardVault::poll(Base::Instant now)
     if (!payload) {
         return Poll::empty;
     }
-    // The system may tell of our own copy only later, as of any other.
+    // Told by its content: the system may tell of our own copy late, after another one.
     if (m_history.fingerprint(*payload) == m_ownWrite) {
         return Poll::own;
     }
     m_ownWrite.clear();
+    KEST_CHECK(prepareImage(*payload));
     KEST_TRY([[maybe_unused]] const auto entry, m_history.add(*payload, now));
     return Poll::kept;
+}
+
+// A clock that was set back does not put it off.
+Result<void> ClipboardVault::applyRetention(Base::Instant now)
+{
+    if (m_tidied && now >= *m_tidied && now < *m_tidied + kTidyEvery) {
+        return {};
+    }
+    m_tidied = now;
+    return m_history.applyRetention(now);
 }
 
 // Asks for marks only: of what must not be kept, not a byte is read.
@@ -108,62 +124,59 @@ bool ClipboardVault::isExcluded(const ClipboardSettings &settings)
             std::ranges::find(settings.exclusions, *owner) != settings.exclusions.end());
 }
 
-Result<std::optional<ClipboardPayload>> ClipboardVault::read()
+Result<void> ClipboardVault::read(std::optional<ClipboardPayload> &payload)
 {
-    std::optional<ClipboardPayload> payload;
     KEST_TRY(auto files, m_pasteboard.readFiles());
     if (files && !files->empty()) {
         payload = {.kind = ClipboardKind::files, .files = *std::move(files)};
-        return payload->validate() ? Result<std::optional<ClipboardPayload>>{payload}
-                                   : refuse(kFilesNotSaved);
+        return payload->validate() ? Result<void>{} : refuse(kFilesNotSaved);
     }
-    auto readImage = m_pasteboard.readImage(ClipboardPayload::kLargestImage);
-    if (!readImage) {
+    auto image = m_pasteboard.readImage(ClipboardPayload::kLargestImage);
+    if (!image) {
         return refuse(kImageNotTaken);
     }
-    if (auto image = *std::move(readImage); image && !image->empty()) {
-        KEST_TRY(payload, imagePayload(*std::move(image)));
-        return payload;
+    if (*image && !(*image)->empty()) {
+        payload = {.kind = ClipboardKind::image, .image = **std::move(image)};
+        return payload->image->size() <= ClipboardPayload::kLargestImage
+                   ? Result<void>{}
+                   : refuse(kImageNotTaken);
     }
     KEST_TRY(auto text, m_pasteboard.readText(ClipboardPayload::kLargestText));
     if (text && !text->empty()) {
         payload = clipboardTextPayload(*std::move(text));
-        KEST_CHECK(payload->validate());
+        return payload->validate();
     }
-    return payload;
+    return {};
 }
 
-Result<ClipboardPayload> ClipboardVault::imagePayload(Base::Bytes image)
+Result<void> ClipboardVault::prepareImage(ClipboardPayload &payload)
 {
-    if (image.size() > ClipboardPayload::kLargestImage) {
-        return refuse(kImageNotTaken);
-    }
-    ClipboardPayload payload{.kind = ClipboardKind::image};
-    if (m_codec != nullptr) {
-        KEST_TRY(PreparedImage prepared, m_codec->prepare(std::move(image)));
+    if (m_codec != nullptr && payload.image) {
+        KEST_TRY(PreparedImage prepared, m_codec->prepare(*std::move(payload.image)));
         payload.image = std::move(prepared.image);
         payload.thumbnail = std::move(prepared.thumbnail);
-    } else {
-        payload.image = std::move(image);
     }
-    KEST_CHECK(payload.validate());
-    return payload;
+    return payload.validate();
 }
 
 Result<void> ClipboardVault::copyBack(std::string_view id)
 {
-    KEST_TRY(const ClipboardPayload payload, m_history.content(id));
+    auto payload = m_history.content(id);
+    const Base::WipeAtEnd wiping{payload};
+    if (!payload) {
+        return std::unexpected(payload.error());
+    }
     const auto isReached = [&](const auto &file) { return m_pasteboard.reaches(file); };
-    if (!std::ranges::all_of(payload.files, isReached)) {
+    if (!std::ranges::all_of(payload->files, isReached)) {
         return refuse(kFileMoved);
     }
-    // Set before the write, which may already tell of itself.
-    m_ownWrite = m_history.fingerprint(payload);
-    if (!m_pasteboard.write(payload)) {
+    // Set before the write, which may already tell of itself. The change is not taken as seen:
+    // by now it may be somebody else's.
+    m_ownWrite = m_history.fingerprint(*payload);
+    if (!m_pasteboard.write(*payload)) {
         m_ownWrite.clear();
         return refuse(kNotCopiedBack);
     }
-    m_seenChange = m_pasteboard.changeCount();
     return {};
 }
 

@@ -35,7 +35,9 @@ public:
 
     ClipboardHistory &history() { return m_history; }
 
-    // An error is about this copy only; the next poll waits for another.
+    // Removes what has grown too old first, once an hour: recording or not. An error of that
+    // leaves the copy to the next poll; any other is about this copy only, and the next poll
+    // waits for another.
     [[nodiscard]] Result<Poll> poll(Base::Instant now);
 
     // Puts an entry on the clipboard again.
@@ -43,15 +45,17 @@ public:
 
 private:
     bool isExcluded(const ClipboardSettings &settings);
-    [[nodiscard]] Result<std::optional<ClipboardPayload>> read();
-    [[nodiscard]] Result<ClipboardPayload> imagePayload(Base::Bytes image);
+    [[nodiscard]] Result<void> applyRetention(Base::Instant now);
+    [[nodiscard]] Result<void> read(std::optional<ClipboardPayload> &payload);
+    [[nodiscard]] Result<void> prepareImage(ClipboardPayload &payload);
 
     StateStore &m_store;
     ClipboardHistory m_history;
     Pasteboard &m_pasteboard;
     ImageCodec *m_codec;
     std::int64_t m_seenChange;
-    std::string m_ownWrite; // fingerprint of what copyBack put there last
+    std::optional<Base::Instant> m_tidied{}; // when retention was last applied
+    std::string m_ownWrite;                  // fingerprint of what copyBack put there last
 };
 
 } // namespace KestCore

@@ -22,6 +22,8 @@ using testing::IsEmpty;
 namespace
 {
 
+constexpr const char *kUnreadable = "This saved entry cannot be opened.";
+
 const Base::Instant kStart = Base::fromSeconds1970(1'800'000'000);
 
 Base::Instant after(double seconds) { return kStart + Base::Seconds{seconds}; }
@@ -52,8 +54,9 @@ protected:
     std::vector<std::string> displays(const Result<std::vector<ClipboardListing>> &listings)
     {
         std::vector<std::string> texts;
-        for (const auto &[entry, display] : listings.value()) {
+        for (const auto &[entry, display, isReadable] : listings.value()) {
             texts.push_back((entry.favourite ? "*" : "") + display);
+            EXPECT_EQ(isReadable, !display.contains("This saved "));
         }
         return texts;
     }
@@ -161,10 +164,19 @@ TEST_F(ClipboardHistoryTest, FindsWordsInTextsAndLinksWhateverTheirCase)
     ASSERT_TRUE(history.add({.kind = link, .text = "https://creme.example"}, after(3)));
     ASSERT_TRUE(history.add({.kind = files, .files = {{"creme.txt", {1}}}}, after(4)));
     add("creme sk_live_0123456789abcdef", 5);
+    add("\u0623\u064E\u062D\u0645\u062F", 6); // with a hamza and a haraka
     EXPECT_THAT(displays(history.search("CREME")),
                 ElementsAre("https://creme.example", "Crème brûlée"));
     EXPECT_EQ(displays(history.search("Needle")).size(), 1U);
-    EXPECT_THAT(displays(history.search("nothing")), IsEmpty());
+    EXPECT_EQ(displays(history.search("\u0627\u062D\u0640\u0645\u062F")).size(), 1U);
+    for (const char *const words : {"nothing", "hidden", "remove this"}) {
+        EXPECT_THAT(displays(history.search(words)), IsEmpty()) << words;
+    }
+    ClipboardHistory other{store, fixedKey(2)};
+    EXPECT_THAT(displays(other.search("cannot be opened")), IsEmpty());
+    for (const char *const words : {"", " \n", "\u064E"}) {
+        EXPECT_FALSE(history.search(words)) << words;
+    }
 }
 
 TEST_F(ClipboardHistoryTest, FindsEntriesByTheBeginningOfTheirIds)
@@ -199,9 +211,10 @@ TEST_F(ClipboardHistoryTest, MakesUpForRowsThatAreMissingOrAlone)
     ASSERT_TRUE(store.changeRecords(
         {.written = {broken, {.id = "older", .kind = "clipboard", .body = "plain"}},
          .removed = {clipboardIndexId(lost), gone}}));
-    EXPECT_THAT(listed(), ElementsAre("*lost", "kept"));
+    EXPECT_THAT(listed(), ElementsAre("*lost", "kept", kUnreadable));
     EXPECT_EQ(history.find(kept)->createdAt, after(1));
-    ASSERT_TRUE(store.changeRecords({.removed = {"older"}}));
+    EXPECT_EQ(history.content("older").error().message, kUnreadable);
+    ASSERT_TRUE(history.remove(history.find("old")->id));
     expectWholePairs();
     const auto revision = store.state().revision;
     EXPECT_EQ(listed().size(), 2U);
@@ -214,12 +227,48 @@ TEST_F(ClipboardHistoryTest, SaysWhatCannotBeOpenedAndLosesNothing)
     const std::string line = add("text", 1);
     ASSERT_TRUE(store.changeRecords({.removed = {clipboardIndexId(line)}}));
     ClipboardHistory other{store, fixedKey(2)};
-    EXPECT_THAT(displays(other.list()), ElementsAre("This saved image is damaged.",
-                                                    "This saved entry cannot be opened."));
+    EXPECT_THAT(displays(other.list()),
+                ElementsAre("This saved image is damaged.", kUnreadable));
     EXPECT_EQ(other.content(picture).error().message, "This saved image is damaged.");
     EXPECT_FALSE(other.content(line));
     EXPECT_EQ(history.content("none").error().message, "This item was removed.");
-    EXPECT_THAT(listed(), ElementsAre("Copied image", "text")) << "the right key is back";
+    ASSERT_TRUE(other.setFavourite(line, true));
+    EXPECT_THAT(listed(), ElementsAre("*text", "Copied image")) << "the right key is back";
+}
+
+TEST_F(ClipboardHistoryTest, KeepsTheFavouritesOfOtherBuilds)
+{
+    const auto markElsewhere = [&](const std::string &id) {
+        LocalRecord record = store.record(id).value().value();
+        record.extra["favorite"] = "true";
+        ASSERT_TRUE(store.changeRecords({.written = {record}}));
+    };
+    markElsewhere(add("one", 1));
+    add("two", 2);
+    set("clipboard.maxCount", "1");
+    add("three", 3);
+    EXPECT_THAT(listed(), ElementsAre("*one", "three"));
+    const std::string again = add("four", 4);
+    markElsewhere(again);
+    EXPECT_EQ(add("four", 5), again);
+    EXPECT_THAT(listed(), ElementsAre("*four", "*one"));
+    add("five", 6);
+    ASSERT_TRUE(store.changeRecords({.written = {{.id = "A", .kind = "clipboard"},
+                                                 {.id = "B",
+                                                  .kind = "clipboard",
+                                                  .extra = {{"favorite", "true"}}}}}));
+    ASSERT_TRUE(history.clear());
+    EXPECT_THAT(listed(), ElementsAre("*four", "*one", std::string{"*"} + kUnreadable));
+}
+
+TEST_F(ClipboardHistoryTest, TakesWhatIsNewWhateverTheClockSaidBefore)
+{
+    set("clipboard.maxCount", "1");
+    add("ahead", 300 * 86'400.0);
+    add("now", 1);
+    EXPECT_THAT(listed(), ElementsAre("now"));
+    add("same time", 1);
+    EXPECT_THAT(listed(), ElementsAre("same time"));
 }
 
 TEST_F(ClipboardHistoryTest, LeavesNoTraceOfTheContentOnTheDisk)

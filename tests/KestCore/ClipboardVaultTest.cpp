@@ -57,6 +57,9 @@ public:
         files.reset();
         image = payload.image;
         text = payload.text;
+        if (copiesAfterWrite) {
+            copy("in between");
+        }
         return {};
     }
 
@@ -77,6 +80,7 @@ public:
     bool isBroken = false;
     int reads = 0;
     int copiesWhileRead = 0;
+    bool copiesAfterWrite = false;
 };
 
 class TestCodec : public ImageCodec
@@ -87,6 +91,7 @@ public:
         if (image.front() == 0) {
             return std::unexpected(KestError::invalidData(kCannotDecode));
         }
+        image.push_back(1); // never the same twice
         return PreparedImage{.image = std::move(image), .thumbnail = Bytes{42}};
     }
 };
@@ -113,7 +118,7 @@ protected:
     {
         std::vector<std::string> texts;
         const auto listings = vault.history().list().value();
-        for (const auto &[entry, display] : listings) {
+        for (const auto &[entry, display, isReadable] : listings) {
             texts.push_back(std::string{Base::textOf(entry.kind)} + " " + display);
         }
         return texts;
@@ -267,6 +272,7 @@ TEST_F(ClipboardVaultTest, DoesNotKeepWhatItCopiesBack)
     const std::string id = vault.history().list()->back().entry.id;
     ASSERT_TRUE(vault.copyBack(id));
     EXPECT_EQ(board.text, "first");
+    EXPECT_EQ(poll(), Poll::own);
     EXPECT_EQ(poll(), Poll::unchanged);
     ++board.count; // the system tells of it late
     EXPECT_EQ(poll(), Poll::own);
@@ -277,6 +283,12 @@ TEST_F(ClipboardVaultTest, DoesNotKeepWhatItCopiesBack)
     EXPECT_EQ(poll(), Poll::kept) << "copied by somebody else, it moves";
     EXPECT_THAT(listed(), ElementsAre("text first", "text third", "text second"));
 
+    board.copiesAfterWrite = true;
+    ASSERT_TRUE(vault.copyBack(id));
+    EXPECT_EQ(poll(), Poll::kept) << "somebody else was quick";
+    EXPECT_EQ(listed().front(), "text in between");
+    board.copiesAfterWrite = false;
+
     board.isBroken = true;
     EXPECT_EQ(vault.copyBack(id).error().message,
               "The clipboard could not be updated. Try copying again.");
@@ -285,6 +297,36 @@ TEST_F(ClipboardVaultTest, DoesNotKeepWhatItCopiesBack)
     EXPECT_EQ(poll(), Poll::kept);
     EXPECT_EQ(vault.copyBack(vault.history().list()->front().entry.id).error().message,
               "A copied file has moved or access was revoked. Copy it again from Finder.");
+}
+
+TEST_F(ClipboardVaultTest, KnowsItsOwnImagesBeforeTheyArePreparedAnew)
+{
+    board.image = Bytes{9};
+    board.copy("");
+    EXPECT_EQ(poll(), Poll::kept);
+    ASSERT_TRUE(vault.copyBack(vault.history().list()->front().entry.id));
+    EXPECT_EQ(poll(), Poll::own);
+    EXPECT_EQ(listed().size(), 1U);
+}
+
+TEST_F(ClipboardVaultTest, RemovesWhatHasGrownTooOldWithoutACopy)
+{
+    const auto pollAfter = [&](double hours) {
+        return vault.poll(Base::fromSeconds1970(1'800'000'000 + hours * 3'600)).value();
+    };
+    set("clipboard.days", "1");
+    set("clipboard.paused", "true");
+    const auto add = [&](const char *content, double hours) {
+        EXPECT_TRUE(vault.history().add({.kind = text, .text = content},
+                                        Base::fromSeconds1970(1'800'000'000 + hours * 3'600)));
+    };
+    add("early", 0);
+    add("late", 0.5);
+    EXPECT_EQ(pollAfter(23.9), Poll::off);
+    EXPECT_EQ(pollAfter(24.8), Poll::off); // within the hour nothing is looked at
+    EXPECT_EQ(listed().size(), 2U);
+    EXPECT_EQ(pollAfter(24.95), Poll::off);
+    EXPECT_THAT(listed(), IsEmpty());
 }
 
 TEST(ClipboardSettings, ReadsNumbersAndKeepsDefaultsForAnythingElse)
@@ -319,7 +361,6 @@ public:
         kept.emplace(secret.begin(), secret.end());
         return {};
     }
-    Base::SecretResult<> remove(std::string_view) override { return {}; }
 
     std::optional<Base::SecretBytes> kept{};
     std::optional<Base::SecretFailure> failure{};
@@ -330,22 +371,26 @@ public:
 
 TEST(ClipboardKey, IsMadeOnceAndOnlyWhereItIsKept)
 {
+    const TemporaryFolder folder;
+    const auto store = StateStore::open(folder.database()).value();
     TestSecrets secrets;
+    EXPECT_FALSE(keptClipboardKey(secrets).value());
+    EXPECT_FALSE(secrets.kept) << "looking makes no key";
     secrets.refusesWrites = true;
-    EXPECT_FALSE(clipboardKey(secrets)) << "a key that is not kept is no key";
+    EXPECT_FALSE(clipboardKey(secrets, store)) << "a key that is not kept is no key";
     secrets.refusesWrites = false;
-    const auto made = clipboardKey(secrets);
+    const auto made = clipboardKey(secrets, store);
     ASSERT_TRUE(made && secrets.kept);
     EXPECT_TRUE(std::ranges::equal(made->bytes(), *secrets.kept));
-    EXPECT_TRUE(std::ranges::equal(clipboardKey(secrets)->bytes(), made->bytes()));
+    EXPECT_TRUE(std::ranges::equal(clipboardKey(secrets, store)->bytes(), made->bytes()));
     secrets.kept->pop_back();
-    EXPECT_FALSE(clipboardKey(secrets));
+    EXPECT_FALSE(clipboardKey(secrets, store));
     EXPECT_EQ(secrets.kept->size(), 31U) << "what may still be mended is not overwritten";
     secrets.failure = {.kind = Base::SecretFailure::Kind::locked};
-    EXPECT_EQ(availabilityOf(clipboardKey(secrets).error().kind),
+    EXPECT_EQ(availabilityOf(clipboardKey(secrets, store).error().kind),
               Availability::permissionDenied);
     secrets.failure->kind = Base::SecretFailure::Kind::noService;
-    EXPECT_EQ(availabilityOf(clipboardKey(secrets).error().kind), Availability::unconfigured);
+    EXPECT_EQ(availabilityOf(clipboardKey(secrets, store).error().kind), Availability::unconfigured);
 }
 
 } // namespace KestCoreTests
