@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "KestCore/Clipboard/ClipboardHistory.h"
+#include "KestCore/Clipboard/ClipboardKey.h"
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Registry/ToolRegistry.h"
 #include "KestCore/Resources.h"
+#include "SecretService/SecretService.h"
 #include "cli/Answers.h"
 #include "cli/Session.h"
 
@@ -90,6 +93,70 @@ std::vector<Finding> checkStore(const Session &session)
     return findings;
 }
 
+constexpr const char *kHistory = "clipboard history";
+
+// Nobody is asked for a password, and no key is made: this only looks.
+Base::SecretResult<std::optional<Base::AesKey>> lookForClipboardKey()
+{
+    KEST_TRY(const auto secrets, Keyring::open(Keyring::Prompts::never));
+    return KestCore::keptClipboardKey(*secrets);
+}
+
+// Everything else works without a keyring.
+Finding keyringFailure(const Base::SecretFailure &failure)
+{
+    Finding finding{.check = "keyring", .state = State::degraded, .detail = failure.message};
+    switch (KestCore::availabilityOf(failure.kind)) {
+    case KestCore::Availability::unconfigured:
+        finding.advice = "The clipboard history needs one, such as gnome-keyring";
+        break;
+    case KestCore::Availability::permissionDenied:
+        finding.advice = "The clipboard history is closed until then";
+        break;
+    default:
+        finding.advice = "The clipboard history cannot be opened";
+        break;
+    }
+    return finding;
+}
+
+Result<Finding> checkHistory(const Session &session, Base::AesKey key)
+{
+    KEST_TRY(auto store, session.openStore());
+    KestCore::ClipboardHistory history{store, std::move(key)};
+    KEST_TRY(const auto entries, history.list());
+    Finding finding{.check = kHistory,
+                    .state = State::full,
+                    .detail = fmt::format("{} entries", entries.size())};
+    if (const auto closed =
+            std::ranges::count(entries, false, &KestCore::ClipboardListing::isReadable);
+        closed > 0) {
+        finding.state = State::degraded;
+        finding.detail += fmt::format(", {} of them cannot be opened", closed);
+        finding.advice = "Without the key that they were kept under they can only be removed";
+    }
+    return finding;
+}
+
+std::vector<Finding> checkClipboard(const Session &session)
+{
+    auto key = lookForClipboardKey();
+    if (!key) {
+        return {keyringFailure(key.error())};
+    }
+    Finding keyring{.check = "keyring",
+                    .state = State::full,
+                    .detail = *key ? "keeps the clipboard's key" : "open, and has no key yet"};
+    if (!*key) {
+        return {std::move(keyring)};
+    }
+    const auto history = checkHistory(session, **std::move(key));
+    return {std::move(keyring), history ? *history
+                                        : Finding{.check = kHistory,
+                                                  .state = State::degraded,
+                                                  .detail = history.error().message}};
+}
+
 Finding checkTerminal()
 {
     const std::string_view charset = nl_langinfo(CODESET);
@@ -108,6 +175,7 @@ Result<void> runDoctor(const Session &session)
     findings.push_back(checkFolder(session.databaseFile().parent_path()));
     findings.push_back(checkResources());
     findings.push_back(checkTerminal());
+    std::ranges::move(checkClipboard(session), std::back_inserter(findings));
     KEST_CHECK(session.console.answer(findings, [&] {
         const Console &console = session.console;
         std::vector<std::vector<std::string>> rows;

@@ -9,10 +9,10 @@ kest=$1
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)/$(basename "${BASH_SOURCE[0]}")
 
 keyring=
-failed=0
+# A file, as a variable that is set in a pipeline is lost behind it.
 fail() {
-    echo "check-keyring: $*"
-    failed=1
+    echo "check-keyring: $*" >&2
+    touch "$HOME/failed"
 }
 
 # says STATUS TEXT WORD...: kest ends so, and prints or complains so.
@@ -58,6 +58,9 @@ start_keyring() {
     fail "the keyring did not start: $(cat "$HOME/keyring.log")"
 }
 
+# on_terminal WORD...: what kest prints on a terminal.
+on_terminal() { script -qec "'$kest' $*" /dev/null </dev/null; }
+
 stop_keyring() {
     if [[ -n $keyring ]]; then
         kill "$keyring" 2>/dev/null || true
@@ -93,7 +96,9 @@ check_open() {
         clipboard list --json
     says 0 'a·[31msecret·words' clipboard search SECRET
     says 1 'has the id "no id like that"' clipboard show "no id like that"
-    says 0 "${id:0:4}" clipboard list
+    says 0 "${id:0:8}" clipboard list
+    says 1 "kest: Write the words to look for" clipboard search ""
+    says 0 '{"check":"clipboard history","state":"full","detail":"2 entries"}' doctor --json
 }
 
 check_entries() {
@@ -103,6 +108,8 @@ check_entries() {
     id=$(sed -E 's/.*"id":"([0-9A-F-]{36})".*/\1/' <<<"$found")
     cmp <(printf 'a\033[31msecret\nwords') <("$kest" clipboard show "${id:0:8}") ||
         fail "show does not print what was added"
+    [[ $(on_terminal clipboard show "$id" | tr -d '\r') == $'a·[31msecret\nwords' ]] ||
+        fail "show drives the terminal"
     says 0 '"kind":"link","text":"https://example.org/"' clipboard show --json "$link"
     says 0 "*" clipboard favourite "${id,,}"
     says 1 "kest: Confirm with --yes" clipboard clear
@@ -116,11 +123,18 @@ check_entries() {
 }
 
 refuse_wrong_input() {
+    local id
     says 1 "kest: Invalid clipboard text" clipboard add
     if head -c 100001 /dev/zero | tr '\0' x | "$kest" clipboard add >/dev/null 2>&1; then
         fail "add takes more than 100,000 bytes"
     fi
-    head -c 100000 /dev/zero | tr '\0' x | add >/dev/null
+    id=$(head -c 100000 /dev/zero | tr '\0' x | add | id_of)
+    # More than the pipe holds, and nobody reads it yet.
+    "$kest" clipboard show "$id" | {
+        head -c 1 >/dev/null
+        says 0 "" count
+        [[ $(wc -c) -eq 99999 ]] || fail "show does not print all"
+    }
     says 2 "" clipboard
     says 2 "" clipboard show
 }
@@ -134,16 +148,37 @@ check_locked() {
     says 1 "kest: The keyring is locked." clipboard list
     says 1 "kest: The keyring is locked." clipboard remove x
     [[ $(md5sum "$KEST_DATA_DIR"/*) == "$before" ]] || fail "a locked keyring: data changed"
+    says 0 '"check":"keyring","state":"degraded","detail":"The keyring is locked.' doctor --json
     rm -r "$KEST_DATA_DIR"
     says 1 "kest: The keyring is locked." clipboard list
     nothing_kept "with a locked keyring"
     stop_keyring
 }
 
+# Each round with a new keyring and new data, several at once are the first to want the key.
+check_first_uses() {
+    local round n said adding
+    for round in 1 2 3; do
+        export XDG_DATA_HOME=$HOME/first-$round KEST_DATA_DIR=$HOME/first-$round/kest
+        mkdir -m 700 "$XDG_DATA_HOME"
+        start_keyring has_collection --unlock
+        adding=()
+        for n in 1 2 3 4; do
+            printf 'entry %s' "$n" | add >/dev/null &
+            adding+=("$!")
+        done
+        wait "${adding[@]}"
+        said=$("$kest" clipboard list)
+        for n in 1 2 3 4; do
+            [[ $said == *"entry $n"* ]] || fail "first uses at once: $n is lost: $said"
+        done
+        stop_keyring
+    done
+}
+
 inside() {
     trap stop_keyring EXIT
     "$@"
-    return "$failed"
 }
 
 # on_bus WORD...: runs this script again on a bus of its own that starts no services.
@@ -156,6 +191,7 @@ if [[ $# -gt 1 ]]; then
     case $2 in
     absent) inside check_absent ;;
     bare) inside check_without_collection ;;
+    first) inside check_first_uses ;;
     *)
         all() {
             check_open
@@ -190,4 +226,5 @@ check_absent # without even a bus
 on_bus absent
 on_bus bare
 on_bus open
-exit "$failed"
+on_bus first
+[[ ! -e $HOME/failed ]]
