@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "cli/ItemAnswers.h"
 #include "cli/Session.h"
 
 #include <CLI/CLI.hpp>
@@ -44,7 +45,7 @@ Result<void> get(const Session &session, const std::string &key)
             KestError::invalidData(fmt::format("The setting \"{}\" is not set", key)));
     }
     return session.console.answer(Settings{*found},
-                                  [&] { session.console.line(found->second); });
+                                  [&] { printText(session.console, found->second); });
 }
 
 Result<void> edit(const Session &session, const std::function<void(Settings &)> &change)
