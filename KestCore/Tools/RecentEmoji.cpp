@@ -59,7 +59,7 @@ std::vector<RecentEmoji> recentEmoji(std::span<const LocalRecord> records, Base:
     std::vector<RecentEmoji> recent;
     for (const LocalRecord &record : byWeight(records, now)) {
         if (recent.size() < limit) {
-            const EmojiUse use = payloadOf<EmojiUse>(record);
+            const auto use = payloadOf<EmojiUse>(record);
             recent.push_back({.emoji = use.emoji,
                               .uses = use.uses,
                               .lastUsed = Base::fromMilliseconds1970(record.updated)});

@@ -38,6 +38,7 @@ struct Query {
     }
     Query(const Query &) = delete;
     Query &operator=(const Query &) = delete;
+    ~Query() = default;
 
     std::string (*formOf)(std::string_view){};
     std::string form{};

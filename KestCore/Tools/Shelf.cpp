@@ -82,7 +82,7 @@ void findInFolder(const fs::path &folder, Sought &sought)
 Result<fs::path> fullPath(const fs::path &path)
 {
     std::error_code error;
-    fs::path full = fs::absolute(path, error).lexically_normal();
+    const fs::path full = fs::absolute(path, error).lexically_normal();
     if (error) {
         return std::unexpected(Base::fileError(path, error));
     }
