@@ -102,7 +102,7 @@ std::string_view firstCharacters(std::string_view text, std::size_t most)
 {
     std::size_t characters = 0;
     const auto isBeyond = [&](char c) { return beginsCharacter(c) && characters++ == most; };
-    const auto end = std::ranges::find_if(text, isBeyond);
+    const auto *const end = std::ranges::find_if(text, isBeyond);
     return text.substr(0, static_cast<std::size_t>(end - text.begin()));
 }
 

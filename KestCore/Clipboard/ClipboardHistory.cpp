@@ -186,7 +186,11 @@ bool ClipboardHistory::hasWords(const ClipboardIndexRow &row, std::string_view d
     }
     auto payload = openContent(row.id);
     const Base::WipeAtEnd wiping{payload};
-    return payload && payload->text && contains(*payload->text, words);
+    if (!payload) {
+        return false;
+    }
+    const ClipboardPayload &opened = *payload;
+    return opened.text && contains(*opened.text, words);
 }
 
 Result<ClipboardEntry> ClipboardHistory::find(std::string_view idOrBeginning)
@@ -317,7 +321,8 @@ Result<bool> ClipboardHistory::isFavouriteByContent(std::string_view id)
 {
     const auto record = m_store.record(id);
     if (record) {
-        return *record && isFavourite(**record);
+        const std::optional<LocalRecord> &found = *record;
+        return found && isFavourite(*found);
     }
     if (record.error().kind == KestError::Kind::invalidData) {
         return false; // no build can read it

@@ -135,11 +135,12 @@ Result<void> ClipboardVault::read(std::optional<ClipboardPayload> &payload)
     if (!image) {
         return refuse(kImageNotTaken);
     }
-    if (*image && !(*image)->empty()) {
-        payload = {.kind = ClipboardKind::image, .image = **std::move(image)};
-        return payload->image->size() <= ClipboardPayload::kLargestImage
-                   ? Result<void>{}
-                   : refuse(kImageNotTaken);
+    std::optional<Base::Bytes> &taken = *image;
+    if (taken && !taken->empty()) {
+        const std::size_t size = taken->size();
+        payload = {.kind = ClipboardKind::image, .image = std::move(taken)};
+        return size <= ClipboardPayload::kLargestImage ? Result<void>{}
+                                                       : refuse(kImageNotTaken);
     }
     KEST_TRY(auto text, m_pasteboard.readText(ClipboardPayload::kLargestText));
     if (text && !text->empty()) {

@@ -26,8 +26,8 @@ public:
     ~RefreshCoordinator();
 
     // What is cached for the key and younger than `lifetime`, or the result of a fetch. Fails
-    // as the fetch does, or with unavailable: "The refresh was cancelled.", that no thread could
-    // be started for it, or what a fetch threw.
+    // as the fetch does, or with unavailable: "The refresh was cancelled.", that no thread
+    // could be started for it, or what a fetch threw.
     [[nodiscard]] std::future<FetchAnswer> refresh(std::string key, Base::Seconds lifetime,
                                                    Fetch fetch);
 

@@ -253,10 +253,9 @@ TEST_F(ClipboardHistoryTest, KeepsTheFavouritesOfOtherBuilds)
     EXPECT_EQ(add("four", 5), again);
     EXPECT_THAT(listed(), ElementsAre("*four", "*one"));
     add("five", 6);
-    ASSERT_TRUE(store.changeRecords({.written = {{.id = "A", .kind = "clipboard"},
-                                                 {.id = "B",
-                                                  .kind = "clipboard",
-                                                  .extra = {{"favorite", "true"}}}}}));
+    ASSERT_TRUE(store.changeRecords(
+        {.written = {{.id = "A", .kind = "clipboard"},
+                     {.id = "B", .kind = "clipboard", .extra = {{"favorite", "true"}}}}}));
     ASSERT_TRUE(history.clear());
     EXPECT_THAT(listed(), ElementsAre("*four", "*one", std::string{"*"} + kUnreadable));
 }

@@ -134,8 +134,7 @@ TEST(ClipboardMemory, HoldsNothingOfWhatWasAddedSearchedOrOpened)
              Case{"files",
                   [] {
                       return ClipboardPayload{
-                          .kind = files,
-                          .files = {{secretBetween("a name ", ".txt"), {1, 2}}}};
+                          .kind = files, .files = {{secretBetween("a name ", ".txt"), {1, 2}}}};
                   }},
          }) {
         SCOPED_TRACE(name);

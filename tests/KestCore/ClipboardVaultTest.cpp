@@ -390,7 +390,8 @@ TEST(ClipboardKey, IsMadeOnceAndOnlyWhereItIsKept)
     EXPECT_EQ(availabilityOf(clipboardKey(secrets, store).error().kind),
               Availability::permissionDenied);
     secrets.failure->kind = Base::SecretFailure::Kind::noService;
-    EXPECT_EQ(availabilityOf(clipboardKey(secrets, store).error().kind), Availability::unconfigured);
+    EXPECT_EQ(availabilityOf(clipboardKey(secrets, store).error().kind),
+              Availability::unconfigured);
 }
 
 } // namespace KestCoreTests

@@ -203,10 +203,10 @@ TEST(RefreshCoordinator, AnswersWhenAFetchThrowsOrCannotStart)
 {
     RefreshCoordinator coordinator;
     const auto fetch = [](const std::stop_token &) { return Result<Bytes>{bytes("x")}; };
-    auto thrown = coordinator.refresh("a", Seconds{60},
-                                      [](const std::stop_token &) -> Result<Bytes> {
-                                          throw std::runtime_error("the library gave up");
-                                      });
+    auto thrown =
+        coordinator.refresh("a", Seconds{60}, [](const std::stop_token &) -> Result<Bytes> {
+            throw std::runtime_error("the library gave up");
+        });
     EXPECT_EQ(thrown.get().error(), KestError::unavailable("the library gave up"));
 
     pthread_attr_t usual;
