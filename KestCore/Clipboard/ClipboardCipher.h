@@ -11,13 +11,12 @@ namespace KestCore
 // Turns content into the text that is stored, and back: AES-256-GCM under a fresh nonce, in
 // Base64 on one line.
 //
-// What stays in memory: of what is sealed and opened here, nothing but the arguments and the
-// answers, which the caller wipes; the JSON, the parser's and the writer's copies of it and the
-// derived keys are overwritten. Search forms and the lines of what is not found are too, and
-// the memory of the Unicode library once Base::wipeUnicodeMemory was called. Not overwritten
-// are what the stack holds of texts below 16 bytes and of the library's small buffers, freed
-// names of copied files below 16 bytes, what a program prints, and what the kernel, a pipe, a
-// terminal or a swap file keeps.
+// What is overwritten in memory after use: the JSON, the copies of it that its parser and its
+// writer make, derived keys, the search forms and the lines that ClipboardHistory does not hand
+// out, and the Unicode library's memory where Base::wipeUnicodeMemory was called. Arguments and
+// answers are the caller's to wipe. What is not: on the stack, texts below 16 bytes and what
+// the Unicode library works on in small buffers; names below 16 bytes of copied files, as their
+// list grows; what a program prints; what the kernel, a pipe, a terminal or a swap file keeps.
 class ClipboardCipher
 {
 public:
