@@ -137,7 +137,7 @@ Row listRow()
         auto payload = n % 20 == 0 ? imageOf(100'000) : textOf(400);
         if (payload.image) {
             payload.image->front() = static_cast<std::uint8_t>(n / 20);
-        } else {
+        } else if (payload.text) {
             payload.text->append(std::to_string(n));
         }
         must(history.add(payload, now + Base::Seconds{n / 100.0}));
