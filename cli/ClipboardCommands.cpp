@@ -27,7 +27,6 @@ namespace Cli
 namespace
 {
 
-using KestCore::ClipboardEntry;
 using KestCore::ClipboardHistory;
 using KestCore::ClipboardListing;
 using KestCore::ClipboardPayload;

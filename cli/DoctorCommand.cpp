@@ -144,13 +144,14 @@ std::vector<Finding> checkClipboard(const Session &session)
     if (!key) {
         return {keyringFailure(key.error())};
     }
+    std::optional<Base::AesKey> &kept = *key;
     Finding keyring{.check = "keyring",
                     .state = State::full,
-                    .detail = *key ? "keeps the clipboard's key" : "open, and has no key yet"};
-    if (!*key) {
+                    .detail = kept ? "keeps the clipboard's key" : "open, and has no key yet"};
+    if (!kept) {
         return {std::move(keyring)};
     }
-    const auto history = checkHistory(session, **std::move(key));
+    const auto history = checkHistory(session, *std::move(kept));
     return {std::move(keyring), history ? *history
                                         : Finding{.check = kHistory,
                                                   .state = State::degraded,

@@ -55,7 +55,7 @@ std::string ownerOf(const std::filesystem::path &folder, std::size_t notes)
         return "a damaged store";
     }
     const auto snapshot = store->snapshot().value();
-    const std::string owner = snapshot.state.settings.at("owner");
+    std::string owner = snapshot.state.settings.at("owner");
     if (snapshot.companion->workspaces[0].name != owner || snapshot.records.size() != notes) {
         return "a mixture";
     }
@@ -112,9 +112,9 @@ TEST(BackupCommand, RefusesAndKeepsWhatIsThere)
     const TemporaryFolder folder;
     fill(folder.database(), "A", 1);
     const auto bad = folder.path() / "bad.json";
-    std::ofstream{bad} << "{\"format\":\"kest-native-backup\"}";
+    std::ofstream{bad} << R"({"format":"kest-native-backup"})";
     const auto large = folder.path() / "large.json";
-    std::ofstream{large} << std::string(50'000'001, ' ');
+    std::ofstream{large}.seekp(50'000'000).put(' ');
     const auto missing = (folder.path() / "none" / "x.json").string();
     struct Case {
         std::vector<std::string> words;
