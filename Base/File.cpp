@@ -31,6 +31,24 @@ std::filesystem::path followed(std::filesystem::path path)
 
 } // namespace
 
+Result<void> makePrivateDirectory(const std::filesystem::path &directory)
+{
+    std::error_code error;
+    if (directory.empty() || std::filesystem::is_directory(directory, error)) {
+        return {};
+    }
+    KEST_CHECK(makePrivateDirectory(directory.parent_path()));
+    if (mkdir(directory.c_str(), 0700) != 0 && errno != EEXIST) {
+        return std::unexpected(fileError(directory, lastError()));
+    }
+    return {};
+}
+
+void makePrivateFile(const std::filesystem::path &file)
+{
+    const FileDescriptor created{::open(file.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600)};
+}
+
 Result<std::string> readFile(const std::filesystem::path &file, std::size_t limit)
 {
     const FileDescriptor descriptor{::open(file.c_str(), O_RDONLY | O_CLOEXEC)};

@@ -27,6 +27,15 @@ readDescriptor(int descriptor, const std::filesystem::path &name,
 // What the file system refused, such as "/x/y: Permission denied".
 KestError fileError(const std::filesystem::path &file, std::error_code code);
 
+// Private all the way down: the folders above are made only when they are missing. Fails with
+// unavailable, in the system's words.
+[[nodiscard]] Result<void> makePrivateDirectory(const std::filesystem::path &directory);
+
+// Makes the file, if it is missing, so that only the user can read it. SQLite gives its side
+// files the mode of the database file, so that mode must be right before they come into being.
+// What fails here fails again, with a message, when the file is opened.
+void makePrivateFile(const std::filesystem::path &file);
+
 // A file descriptor with one owner.
 class FileDescriptor
 {

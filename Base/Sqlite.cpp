@@ -13,14 +13,21 @@ namespace
 constexpr int kBusyTimeoutMs = 5000; // for another program that has the file for a moment
 constexpr std::size_t kLongestParameter = 2'147'483'646;
 
-struct Finalize {
-    void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
-};
-using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
+constexpr const char *kInvalidOperation = "Invalid storage operation";
 
-KestError invalidOperation() { return KestError::storage("Invalid storage operation"); }
+KestError invalidOperation() { return KestError::storage(kInvalidOperation); }
 
-Result<void> bind(sqlite3_stmt *statement, Database::Parameters parameters)
+// A read that came up short left a page of zeros in the cache, which SQLite may not even have
+// noticed, and the next statement would take it for the file's.
+void forgetPages(sqlite3_stmt *statement)
+{
+    sqlite3_reset(statement);
+    sqlite3_db_release_memory(sqlite3_db_handle(statement));
+}
+
+KestError errorOf(sqlite3 *handle) { return KestError::storage(sqlite3_errmsg(handle)); }
+
+Result<void> bindBlobs(sqlite3_stmt *statement, Database::Parameters parameters)
 {
     int index = 0;
     for (const std::string_view bytes : parameters) {
@@ -35,14 +42,72 @@ Result<void> bind(sqlite3_stmt *statement, Database::Parameters parameters)
     return {};
 }
 
-std::string_view firstColumn(sqlite3_stmt *statement)
+} // namespace
+
+void Statement::Finalize::operator()(sqlite3_stmt *statement) const
 {
-    const void *data = sqlite3_column_blob(statement, 0);
-    const int size = sqlite3_column_bytes(statement, 0);
+    sqlite3_finalize(statement);
+}
+
+void Statement::reset()
+{
+    sqlite3_reset(m_statement.get());
+    m_isBound = true;
+}
+
+void Statement::bindOne(int index, std::int64_t value)
+{
+    m_isBound &= sqlite3_bind_int64(m_statement.get(), index, value) == SQLITE_OK;
+}
+
+void Statement::bindOne(int index, double value)
+{
+    m_isBound &= sqlite3_bind_double(m_statement.get(), index, value) == SQLITE_OK;
+}
+
+void Statement::bindOne(int index, std::string_view value)
+{
+    // A null pointer would bind NULL, and an empty text is not NULL.
+    const char *data = value.data() == nullptr ? "" : value.data();
+    m_isBound &= sqlite3_bind_text64(m_statement.get(), index, data, value.size(),
+                                     SQLITE_STATIC, SQLITE_UTF8) == SQLITE_OK;
+}
+
+Result<bool> Statement::step()
+{
+    if (!m_isBound) {
+        return std::unexpected(invalidOperation());
+    }
+    const int code = sqlite3_step(m_statement.get());
+    if (code == SQLITE_ROW || code == SQLITE_DONE) {
+        return code == SQLITE_ROW;
+    }
+    KestError error = errorOf(sqlite3_db_handle(m_statement.get()));
+    forgetPages(m_statement.get());
+    return std::unexpected(std::move(error));
+}
+
+std::int64_t Statement::integer(int column) const
+{
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
+double Statement::real(int column) const
+{
+    return sqlite3_column_double(m_statement.get(), column);
+}
+
+std::string_view Statement::text(int column) const
+{
+    const void *data = sqlite3_column_blob(m_statement.get(), column);
+    const int size = sqlite3_column_bytes(m_statement.get(), column);
     return {static_cast<const char *>(data), static_cast<std::size_t>(size)};
 }
 
-} // namespace
+bool Statement::isNull(int column) const
+{
+    return sqlite3_column_type(m_statement.get(), column) == SQLITE_NULL;
+}
 
 void Database::Close::operator()(sqlite3 *handle) const { sqlite3_close(handle); }
 
@@ -61,44 +126,39 @@ Result<Database> Database::open(const std::filesystem::path &file, std::string_v
 Result<void> Database::runScript(const char *script)
 {
     if (sqlite3_exec(m_handle.get(), script, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        return std::unexpected(lastError());
+        return std::unexpected(errorOf(m_handle.get()));
     }
     return {};
+}
+
+Result<Statement> Database::prepare(std::string_view sql, std::string_view message)
+{
+    sqlite3_stmt *prepared = nullptr;
+    if (sqlite3_prepare_v2(m_handle.get(), sql.data(), static_cast<int>(sql.size()), &prepared,
+                           nullptr) != SQLITE_OK) {
+        return std::unexpected(KestError::storage(std::string{message}));
+    }
+    return Statement{prepared};
 }
 
 Result<void> Database::forEachRow(std::string_view sql, Parameters parameters,
                                   const RowTaker &take)
 {
-    sqlite3_stmt *prepared = nullptr;
-    if (sqlite3_prepare_v2(m_handle.get(), sql.data(), static_cast<int>(sql.size()), &prepared,
-                           nullptr) != SQLITE_OK) {
-        return std::unexpected(invalidOperation());
-    }
-    const Statement statement{prepared};
-    KEST_CHECK(bind(statement.get(), parameters));
+    KEST_TRY(Statement statement, prepare(sql, kInvalidOperation));
+    sqlite3_stmt *const raw = statement.m_statement.get();
+    KEST_CHECK(bindBlobs(raw, parameters));
     Row row;
-    int code = SQLITE_ROW;
-    while ((code = sqlite3_step(statement.get())) == SQLITE_ROW) {
-        row.assign(firstColumn(statement.get()));
+    while (true) {
+        KEST_TRY(const bool hasRow, statement.step());
+        if (!hasRow) {
+            return {};
+        }
+        row.assign(statement.text(0));
         if (auto taken = take(row); !taken) {
-            forgetPages(statement.get());
+            forgetPages(raw);
             return taken;
         }
     }
-    if (code != SQLITE_DONE) {
-        KestError error = lastError();
-        forgetPages(statement.get());
-        return std::unexpected(std::move(error));
-    }
-    return {};
-}
-
-// A read that came up short left a page of zeros in the cache, which SQLite may not even have
-// noticed, and the next statement would take it for the file's.
-void Database::forgetPages(sqlite3_stmt *statement)
-{
-    sqlite3_reset(statement);
-    sqlite3_db_release_memory(m_handle.get());
 }
 
 Result<std::vector<Database::Row>> Database::query(std::string_view sql, Parameters parameters)
@@ -148,9 +208,16 @@ Result<std::string> Database::dataVersion()
     return rows.empty() ? std::string{} : std::string{rows.front().view()};
 }
 
-KestError Database::lastError() const
+std::int64_t Database::totalChanges() const { return sqlite3_total_changes64(m_handle.get()); }
+
+bool Database::isDamaged()
 {
-    return KestError::storage(sqlite3_errmsg(m_handle.get()));
+    const auto rows = query("PRAGMA integrity_check(1)");
+    if (rows) {
+        return rows->empty() || rows->front().view() != "ok";
+    }
+    const int code = sqlite3_errcode(m_handle.get());
+    return code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
 }
 
 } // namespace Base

@@ -19,6 +19,46 @@ struct sqlite3_stmt;
 namespace Base
 {
 
+// A prepared statement that binds numbers and texts as such and reads rows of several columns.
+// Must not outlive the Database that made it. A text that is bound is not copied: it must live
+// until the statement is bound anew or gone.
+class Statement
+{
+public:
+    // Starts the statement over with these values, one for each of its question marks.
+    template <class... Values>
+    void bind(const Values &...values)
+    {
+        reset();
+        int index = 0;
+        (bindOne(++index, values), ...);
+    }
+
+    // Whether there is a row to read; false at the end. Fails with SQLite's message.
+    [[nodiscard]] Result<bool> step();
+
+    // Columns of the current row, from 0. A text lives until the next step.
+    std::int64_t integer(int column) const;
+    double real(int column) const;
+    std::string_view text(int column) const;
+    bool isNull(int column) const;
+
+private:
+    friend class Database;
+    struct Finalize {
+        void operator()(sqlite3_stmt *statement) const;
+    };
+
+    explicit Statement(sqlite3_stmt *statement) : m_statement(statement) {}
+    void reset();
+    void bindOne(int index, std::int64_t value);
+    void bindOne(int index, double value);
+    void bindOne(int index, std::string_view value);
+
+    std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
+    bool m_isBound = true; // false once a value did not fit
+};
+
 // One SQLite connection. Every failure is KestError.storage. Not for two threads at once.
 class Database
 {
@@ -43,6 +83,16 @@ public:
     [[nodiscard]] Result<std::vector<Row>> query(std::string_view sql,
                                                  Parameters parameters = {});
     [[nodiscard]] Result<void> run(std::string_view sql, Parameters parameters = {});
+
+    // For statements that run often or read several columns. Fails with `message`.
+    [[nodiscard]] Result<Statement> prepare(std::string_view sql, std::string_view message);
+
+    // How many rows this connection has changed since it was opened.
+    std::int64_t totalChanges() const;
+
+    // Whether the file is damaged or no database at all. Reads all of it, so this is for
+    // after something has failed; a file that cannot be read just now is not damaged.
+    bool isDamaged();
 
     // Runs `body` between "BEGIN IMMEDIATE" and "COMMIT"; any failure rolls back and is
     // returned. What the rollback itself may say would only hide the cause.
@@ -73,8 +123,6 @@ private:
 
     explicit Database(std::unique_ptr<sqlite3, Close> handle) : m_handle(std::move(handle)) {}
     void rollBack();
-    void forgetPages(sqlite3_stmt *statement);
-    KestError lastError() const;
 
     std::unique_ptr<sqlite3, Close> m_handle;
 };

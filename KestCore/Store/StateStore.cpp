@@ -6,9 +6,6 @@
 #include "KestCore/Registry/ToolRegistry.h"
 #include "KestCore/Store/CompanionMigration.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -40,28 +37,6 @@ constexpr std::string_view kClearRecords = "DELETE FROM records";
 
 constexpr std::array<std::string_view, 3> kHistoryKinds{"usage", "clipboard", "completion"};
 constexpr std::string_view kSchemaVersion = "1";
-
-// Private all the way down: the folders above are made only when they are missing.
-Result<void> makePrivateDirectory(const fs::path &directory)
-{
-    std::error_code error;
-    if (directory.empty() || fs::is_directory(directory, error)) {
-        return {};
-    }
-    KEST_CHECK(makePrivateDirectory(directory.parent_path()));
-    if (mkdir(directory.c_str(), 0700) != 0 && errno != EEXIST) {
-        return std::unexpected(Base::fileError(directory, {errno, std::generic_category()}));
-    }
-    return {};
-}
-
-// SQLite gives its side files the mode of the database file, so that mode must be right
-// before they come into being.
-void makePrivateFile(const fs::path &file)
-{
-    const Base::FileDescriptor created{
-        ::open(file.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600)};
-}
 
 std::int64_t nextRevision(const NativeState &state)
 {
@@ -98,10 +73,10 @@ Result<StateStore> StateStore::open(const fs::path &file, std::chrono::milliseco
 {
     std::error_code error;
     const fs::path target = fs::absolute(file, error);
-    KEST_CHECK(makePrivateDirectory(target.parent_path()));
+    KEST_CHECK(Base::makePrivateDirectory(target.parent_path()));
     KEST_TRY(auto lock, Base::FileLock::take(fs::path{target}.replace_extension("lock"),
                                              "Velvetnook's data", patience));
-    makePrivateFile(target);
+    Base::makePrivateFile(target);
     KEST_TRY(auto database, Base::Database::open(target, "Cannot open local storage"));
     StateStore store{std::move(lock), std::move(database)};
     KEST_CHECK(store.load(target));
