@@ -15,10 +15,18 @@ enum class SampleScope : std::uint8_t {
     processes, // the processes too, ungrouped
 };
 
+// What the system knows of where a process comes from, for grouping and for what may be ended.
+struct ProcessOrigin {
+    std::string cgroup{};   // its path in the hierarchy, "/user.slice/..."; empty: unknown
+    std::int32_t session{}; // the number of the process that leads its session
+    bool isKernelThread{};
+};
+
 // One sample as a platform gives it, before its processes are grouped into applications.
 struct RawSample {
     MonitorSnapshot snapshot{}; // without apps
     std::vector<ProcessSample> processes{};
+    std::vector<ProcessOrigin> origins{}; // one for each of the processes, in their order
 };
 
 // Samples one machine. Keeps the counters of the sample before, so one collector belongs to

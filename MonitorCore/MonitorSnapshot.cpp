@@ -4,6 +4,7 @@
 
 #include "Base/JsonReader.h"
 #include "Base/JsonWriter.h"
+#include "MonitorCore/AudioApplication.h"
 
 namespace Base::json
 {
@@ -12,5 +13,6 @@ using namespace MonitorCore;
 template Result<MetricReading> decode(const PaddedText &);
 template Result<std::string> encode(const MetricReading &);
 template Result<std::string> encode(const MonitorSnapshot &);
+template Result<std::string> encode(const AudioApplication &);
 
 } // namespace Base::json
