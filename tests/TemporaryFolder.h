@@ -10,10 +10,10 @@
 class TemporaryFolder
 {
 public:
-    TemporaryFolder()
+    explicit TemporaryFolder(
+        const std::filesystem::path &parent = std::filesystem::temp_directory_path())
     {
-        std::string name =
-            (std::filesystem::temp_directory_path() / "kest-test-XXXXXX").string();
+        std::string name = (parent / "kest-test-XXXXXX").string();
         m_path = ::mkdtemp(name.data());
     }
     ~TemporaryFolder()
