@@ -77,6 +77,7 @@ std::vector<Row> storeSuite();
 std::vector<Row> jsonSuite();
 std::vector<Row> prayerSuite();
 std::vector<Row> clipboardSuite();
+std::vector<Row> monitorSuite();
 std::vector<Row> programSuite();
 std::vector<Row> backupSuite();
 
