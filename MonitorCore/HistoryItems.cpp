@@ -14,22 +14,25 @@ namespace
 constexpr double kPeakMemorySeconds = 3'600;
 constexpr double kPeakStep = 1.1; // how far above the old peak a new one must be
 
-bool hasNumber(const MetricReading &reading)
+// None where there is nothing to show either.
+std::optional<double> numberOf(const MetricReading &reading)
 {
-    return reading.state == MetricState::available && reading.value &&
-           std::isfinite(*reading.value);
+    const bool hasNumber = reading.state == MetricState::available && reading.value &&
+                           std::isfinite(*reading.value);
+    return hasNumber ? reading.value : std::nullopt;
 }
 
 void addReadings(const MonitorSnapshot &snapshot, std::optional<Base::Instant> lastAdvanced,
                  std::vector<HistoryItem> &items)
 {
     for (const auto &[metric, reading] : snapshot.readings) {
-        if (!hasNumber(reading)) {
+        const auto number = numberOf(reading);
+        if (!number) {
             continue;
         }
         HistoryItem item{.app = kSystemKey,
                          .metric = metric,
-                         .value = *reading.value,
+                         .value = *number,
                          .end = Base::seconds1970(snapshot.timestamp),
                          .duration = snapshot.interval};
         const auto &advanced = snapshot.advancedTimestamp;
@@ -86,10 +89,12 @@ std::set<MetricID> SpikeDetector::update(const MonitorSnapshot &snapshot)
     std::set<MetricID> spikes;
     for (const AppMetric &rule : kAppMetrics) {
         const auto reading = snapshot.readings.find(rule.metric);
-        if (reading == snapshot.readings.end() || !hasNumber(reading->second)) {
+        const auto number =
+            reading == snapshot.readings.end() ? std::nullopt : numberOf(reading->second);
+        if (!number) {
             continue;
         }
-        const double value = *reading->second.value;
+        const double value = *number;
         const auto [memory, isNew] = m_memories.try_emplace(
             rule.metric, Memory{.last = value, .peak = value, .peakAt = snapshot.timestamp});
         if (!isNew && isSpike(rule, value, snapshot.timestamp, memory->second)) {

@@ -68,6 +68,78 @@ KestError monitorStorageError(KestError error)
     return error;
 }
 
+// Shares the item out among the minutes that it covers.
+Result<void> writeItem(Base::Statement &insert, const HistoryItem &item)
+{
+    double position = item.end - item.duration;
+    if (!(item.duration > 0 && item.duration <= kLongestGapSeconds && position < item.end)) {
+        return {};
+    }
+    const std::string_view metric = Base::textOf(item.metric);
+    while (position < item.end) {
+        const double bucket = std::floor(position / 60) * 60;
+        const double covered = std::min(bucket + 60, item.end) - position;
+        if (covered <= 0) {
+            break;
+        }
+        insert.bind(static_cast<std::int64_t>(bucket), item.app, metric, item.value * covered,
+                    covered, item.value);
+        if (const auto stepped = insert.step(); !stepped || *stepped) {
+            return historyFailure(kCannotSave);
+        }
+        position += covered;
+    }
+    return {};
+}
+
+Result<void> rollUp(Base::Database &db, Base::Instant now, std::int64_t retentionDays)
+{
+    constexpr double kDay = 86'400;
+    const double seconds = Base::seconds1970(now);
+    const auto days = static_cast<double>(std::clamp<std::int64_t>(retentionDays, 1, 30));
+    const auto keepFrom = static_cast<std::int64_t>(std::floor(seconds - days * kDay));
+    const auto rollUpBefore =
+        static_cast<std::int64_t>(std::floor((seconds - kDay) / 900) * 900);
+    KEST_CHECK(db.runScript("BEGIN IMMEDIATE"));
+    auto outcome = db.runScript(
+        fmt::format("DELETE FROM samples WHERE t<{0}; INSERT INTO "
+                    "samples(t,res,app,metric,total,weight,peak) SELECT "
+                    "(t/900)*900,900,app,metric,SUM(total),SUM(weight),MAX(peak) FROM samples "
+                    "WHERE res=60 AND t<{1} GROUP BY (t/900)*900,app,metric ON "
+                    "CONFLICT(t,res,app,metric) DO UPDATE SET "
+                    "total=total+excluded.total,weight=weight+excluded.weight,"
+                    "peak=MAX(peak,excluded.peak); DELETE FROM samples WHERE res=60 AND "
+                    "t<{1}; COMMIT;",
+                    keepFrom, rollUpBefore)
+            .c_str());
+    if (!outcome) {
+        (void)db.runScript("ROLLBACK"); // its own failure would only hide the cause
+    }
+    return outcome;
+}
+
+Result<bool> fits(Base::Database &db, std::int64_t byteLimit)
+{
+    KEST_TRY(auto rows, db.prepare(kReadUsedBytes, kCannotPrepare));
+    KEST_TRY(const bool hasRow, rows.step());
+    return byteLimit >= (hasRow ? rows.integer(0) : 0);
+}
+
+Result<void> holdToSize(Base::Database &db, std::int64_t byteLimit)
+{
+    while (true) {
+        KEST_TRY(const bool isHeld, fits(db, byteLimit));
+        const std::int64_t changesBefore = db.totalChanges();
+        if (isHeld) {
+            return {};
+        }
+        KEST_CHECK(db.runScript(kDeleteOldest));
+        if (db.totalChanges() == changesBefore) {
+            return {}; // an empty history is as small as it can be
+        }
+    }
+}
+
 } // namespace
 
 Result<MonitorHistoryStore> MonitorHistoryStore::open(const fs::path &url)
@@ -92,12 +164,13 @@ Result<void> MonitorHistoryStore::use(Result<HistoryFile> file)
 }
 
 template <class Operation>
-auto MonitorHistoryStore::guarded(Operation operation) -> std::invoke_result_t<Operation>
+auto MonitorHistoryStore::guarded(Operation operation)
+    -> std::invoke_result_t<Operation, Base::Database &>
 {
     if (!m_db) {
         return std::unexpected(monitorStorageError(historyFailure(kCannotOpen).error()));
     }
-    auto result = operation();
+    auto result = operation(*m_db);
     if (!result) {
         if (m_db->isDamaged()) {
             // Closed before its files are renamed: closing folds the log into the file.
@@ -117,48 +190,27 @@ Result<void> MonitorHistoryStore::record(const MonitorSnapshot &snapshot)
         return {};
     }
     const auto items = historyItems(snapshot, m_spikes.update(snapshot), m_lastAdvanced);
-    KEST_CHECK(guarded([&] { return write(items); }));
+    KEST_CHECK(guarded([&](Base::Database &db) { return write(db, items); }));
     if (snapshot.advancedTimestamp) {
         m_lastAdvanced = snapshot.advancedTimestamp;
     }
     return {};
 }
 
-Result<void> MonitorHistoryStore::write(const std::vector<HistoryItem> &items)
+Result<void> MonitorHistoryStore::write(Base::Database &db,
+                                        const std::vector<HistoryItem> &items)
 {
     if (!m_insert) {
-        KEST_TRY(m_insert, m_db->prepare(kInsert, kCannotPrepare));
+        KEST_TRY(Base::Statement prepared, db.prepare(kInsert, kCannotPrepare));
+        m_insert.emplace(std::move(prepared));
     }
-    return m_db->transaction([&]() -> Result<void> {
+    Base::Statement &insert = *m_insert;
+    return db.transaction([&]() -> Result<void> {
         for (const HistoryItem &item : items) {
-            KEST_CHECK(writeItem(item));
+            KEST_CHECK(writeItem(insert, item));
         }
         return {};
     });
-}
-
-// Shares the item out among the minutes that it covers.
-Result<void> MonitorHistoryStore::writeItem(const HistoryItem &item)
-{
-    double position = item.end - item.duration;
-    if (!(item.duration > 0 && item.duration <= kLongestGapSeconds && position < item.end)) {
-        return {};
-    }
-    const std::string_view metric = Base::textOf(item.metric);
-    while (position < item.end) {
-        const double bucket = std::floor(position / 60) * 60;
-        const double covered = std::min(bucket + 60, item.end) - position;
-        if (covered <= 0) {
-            break;
-        }
-        m_insert->bind(static_cast<std::int64_t>(bucket), item.app, metric,
-                       item.value * covered, covered, item.value);
-        if (const auto stepped = m_insert->step(); !stepped || *stepped) {
-            return historyFailure(kCannotSave);
-        }
-        position += covered;
-    }
-    return {};
 }
 
 Result<std::vector<HistoryPoint>> MonitorHistoryStore::history(std::string_view app,
@@ -166,8 +218,8 @@ Result<std::vector<HistoryPoint>> MonitorHistoryStore::history(std::string_view 
                                                                Base::Instant from,
                                                                Base::Instant to)
 {
-    return guarded([&]() -> Result<std::vector<HistoryPoint>> {
-        KEST_TRY(auto rows, m_db->prepare(kReadSeries, kCannotPrepare));
+    return guarded([&](Base::Database &db) -> Result<std::vector<HistoryPoint>> {
+        KEST_TRY(auto rows, db.prepare(kReadSeries, kCannotPrepare));
         rows.bind(app, Base::textOf(metric), Base::seconds1970(from), Base::seconds1970(to));
         std::vector<HistoryPoint> points;
         auto hasRow = rows.step();
@@ -189,8 +241,8 @@ Result<std::vector<HistoryPoint>> MonitorHistoryStore::history(std::string_view 
 Result<std::vector<HistoryCause>> MonitorHistoryStore::causes(MetricID metric,
                                                               const HistoryPoint &point)
 {
-    return guarded([&]() -> Result<std::vector<HistoryCause>> {
-        KEST_TRY(auto rows, m_db->prepare(kReadCauses, kCannotPrepare));
+    return guarded([&](Base::Database &db) -> Result<std::vector<HistoryCause>> {
+        KEST_TRY(auto rows, db.prepare(kReadCauses, kCannotPrepare));
         rows.bind(static_cast<std::int64_t>(Base::seconds1970(point.date)), point.resolution,
                   Base::textOf(metric), static_cast<std::int64_t>(kCausesKept));
         std::vector<HistoryCause> causes;
@@ -209,8 +261,8 @@ Result<std::vector<HistoryCause>> MonitorHistoryStore::causes(MetricID metric,
 
 Result<std::optional<HistoryRange>> MonitorHistoryStore::range()
 {
-    return guarded([&]() -> Result<std::optional<HistoryRange>> {
-        KEST_TRY(auto rows, m_db->prepare(kReadRange, kCannotPrepare));
+    return guarded([&](Base::Database &db) -> Result<std::optional<HistoryRange>> {
+        KEST_TRY(auto rows, db.prepare(kReadRange, kCannotPrepare));
         KEST_TRY(const bool hasRow, rows.step());
         if (!hasRow || rows.isNull(0)) {
             return std::nullopt;
@@ -234,64 +286,16 @@ std::uintmax_t MonitorHistoryStore::size() const
 Result<void> MonitorHistoryStore::maintain(Base::Instant now, std::int64_t retentionDays,
                                            std::int64_t byteLimit)
 {
-    return guarded([&]() -> Result<void> {
-        KEST_CHECK(rollUp(now, retentionDays));
-        KEST_CHECK(holdToSize(byteLimit));
-        return m_db->runScript(kShrink);
+    return guarded([&](Base::Database &db) -> Result<void> {
+        KEST_CHECK(rollUp(db, now, retentionDays));
+        KEST_CHECK(holdToSize(db, byteLimit));
+        return db.runScript(kShrink);
     });
-}
-
-Result<void> MonitorHistoryStore::rollUp(Base::Instant now, std::int64_t retentionDays)
-{
-    constexpr double kDay = 86'400;
-    const double seconds = Base::seconds1970(now);
-    const auto days = static_cast<double>(std::clamp<std::int64_t>(retentionDays, 1, 30));
-    const auto keepFrom = static_cast<std::int64_t>(std::floor(seconds - days * kDay));
-    const auto rollUpBefore =
-        static_cast<std::int64_t>(std::floor((seconds - kDay) / 900) * 900);
-    KEST_CHECK(m_db->runScript("BEGIN IMMEDIATE"));
-    auto outcome = m_db->runScript(
-        fmt::format("DELETE FROM samples WHERE t<{0}; INSERT INTO "
-                    "samples(t,res,app,metric,total,weight,peak) SELECT "
-                    "(t/900)*900,900,app,metric,SUM(total),SUM(weight),MAX(peak) FROM samples "
-                    "WHERE res=60 AND t<{1} GROUP BY (t/900)*900,app,metric ON "
-                    "CONFLICT(t,res,app,metric) DO UPDATE SET "
-                    "total=total+excluded.total,weight=weight+excluded.weight,"
-                    "peak=MAX(peak,excluded.peak); DELETE FROM samples WHERE res=60 AND "
-                    "t<{1}; COMMIT;",
-                    keepFrom, rollUpBefore)
-            .c_str());
-    if (!outcome) {
-        (void)m_db->runScript("ROLLBACK"); // its own failure would only hide the cause
-    }
-    return outcome;
-}
-
-Result<void> MonitorHistoryStore::holdToSize(std::int64_t byteLimit)
-{
-    while (true) {
-        KEST_TRY(const bool isHeld, fits(byteLimit));
-        const std::int64_t changesBefore = m_db->totalChanges();
-        if (isHeld) {
-            return {};
-        }
-        KEST_CHECK(m_db->runScript(kDeleteOldest));
-        if (m_db->totalChanges() == changesBefore) {
-            return {}; // an empty history is as small as it can be
-        }
-    }
-}
-
-Result<bool> MonitorHistoryStore::fits(std::int64_t byteLimit)
-{
-    KEST_TRY(auto rows, m_db->prepare(kReadUsedBytes, kCannotPrepare));
-    KEST_TRY(const bool hasRow, rows.step());
-    return byteLimit >= (hasRow ? rows.integer(0) : 0);
 }
 
 Result<void> MonitorHistoryStore::clear()
 {
-    return guarded([&] { return m_db->runScript(kClear); });
+    return guarded([&](Base::Database &db) { return db.runScript(kClear); });
 }
 
 } // namespace MonitorCore

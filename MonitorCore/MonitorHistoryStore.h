@@ -61,7 +61,7 @@ struct HistoryRange {
 };
 
 // How large the history may grow: far more than a month of an ordinary day's work.
-inline constexpr std::int64_t kHistoryByteLimit = 64 * 1'048'576;
+inline constexpr std::int64_t kHistoryByteLimit = 67'108'864;
 // The owner maintains the history when it opens it for recording and then this often: a roll-up
 // reads every older row, so doing it each quarter of an hour would cost more than it saves.
 inline constexpr double kMaintenanceSeconds = 3'600;
@@ -115,14 +115,10 @@ private:
     // Runs one operation. Sets the file aside when it turns out to be damaged, and makes a
     // storage error the monitor's own.
     template <class Operation>
-    auto guarded(Operation operation) -> std::invoke_result_t<Operation>;
+    auto guarded(Operation operation) -> std::invoke_result_t<Operation, Base::Database &>;
 
     Result<void> use(Result<HistoryFile> file);
-    Result<void> write(const std::vector<HistoryItem> &items);
-    Result<void> writeItem(const HistoryItem &item);
-    Result<void> rollUp(Base::Instant now, std::int64_t retentionDays);
-    Result<void> holdToSize(std::int64_t byteLimit);
-    Result<bool> fits(std::int64_t byteLimit);
+    Result<void> write(Base::Database &db, const std::vector<HistoryItem> &items);
 
     std::filesystem::path m_url;
     std::optional<Base::Database> m_db{};      // none when its file could not be replaced
