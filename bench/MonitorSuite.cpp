@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "MonitorCore/AppAggregator.h"
 #include "MonitorCore/HistoryItems.h"
 #include "MonitorCore/MonitorHistoryStore.h"
 #include "bench/Bench.h"
@@ -108,8 +109,33 @@ Row daySeriesRow()
     return durationRow("read one day's series of an application", seconds, 0.005);
 }
 
+// Four hundred processes, half of them with a control group that names an application, the
+// others five deep below one without. The floor is a copy of them: the grouping is given one.
+Row groupRow()
+{
+    std::vector<MonitorCore::ProcessSample> processes;
+    std::vector<MonitorCore::ProcessOrigin> origins;
+    for (int n = 0; n < 400; ++n) {
+        const bool isNamed = n % 2 == 0;
+        processes.push_back({.key = {.pid = n + 1, .start = static_cast<std::uint64_t>(n)},
+                             .parentPID = isNamed || n % 10 == 1 ? 0 : n - 1,
+                             .name = fmt::format("process-{}", n),
+                             .executable = fmt::format("/usr/lib/example/program-{}", n % 60),
+                             .directory = "/home/somebody/projects"});
+        origins.push_back(
+            {.cgroup = fmt::format("/user.slice/user-1000.slice/user@1000.service/app.slice/"
+                                   "{}-{}.scope",
+                                   isNamed ? "app-gnome-org.example.App" : "run", n % 40)});
+    }
+    const MonitorCore::AppAggregator aggregator;
+    const Pair seconds = measureByTurns(
+        300, [&] { (void)aggregator.aggregate(processes, origins); },
+        [&] { (void)std::vector{processes}; });
+    return durationRow("group 400 processes into applications", seconds, 0.001);
+}
+
 } // namespace
 
-std::vector<Row> monitorSuite() { return {recordRow(), daySeriesRow()}; }
+std::vector<Row> monitorSuite() { return {recordRow(), daySeriesRow(), groupRow()}; }
 
 } // namespace Bench
