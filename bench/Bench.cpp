@@ -148,7 +148,7 @@ int main(int argc, char **argv)
         {"json", Bench::jsonSuite},       {"store", Bench::storeSuite},
         {"prayer", Bench::prayerSuite},   {"clipboard", Bench::clipboardSuite},
         {"program", Bench::programSuite}, {"backup", Bench::backupSuite},
-        {"monitor", Bench::monitorSuite},
+        {"monitor", Bench::monitorSuite}, {"collector", Bench::collectorSuite},
     };
     for (int at = 1; at < argc; ++at) {
         if (std::ranges::none_of(suites, [&](const auto &s) { return s.first == argv[at]; })) {

@@ -80,5 +80,6 @@ std::vector<Row> clipboardSuite();
 std::vector<Row> monitorSuite();
 std::vector<Row> programSuite();
 std::vector<Row> backupSuite();
+std::vector<Row> collectorSuite();
 
 } // namespace Bench
