@@ -40,6 +40,9 @@ constexpr std::string_view kReadSeries =
 constexpr std::string_view kReadCauses =
     "SELECT app,total/weight,peak FROM samples WHERE t=? AND res=? AND app<>'' AND metric=? "
     "AND weight>0 ORDER BY peak DESC,app LIMIT ?";
+constexpr std::string_view kReadShares =
+    "SELECT app,t,total/weight,weight FROM samples WHERE app<>'' AND metric=? AND res=60 AND "
+    "t>=? AND t<=? AND weight>0 ORDER BY t,app";
 constexpr std::string_view kReadRange = "SELECT MIN(t),MAX(t) FROM samples";
 constexpr std::string_view kReadUsedBytes =
     "SELECT (page_count-freelist_count)*page_size FROM "
@@ -256,6 +259,28 @@ Result<std::vector<HistoryCause>> MonitorHistoryStore::causes(MetricID metric,
             return historyFailure(kCannotRead);
         }
         return causes;
+    });
+}
+
+Result<std::vector<HistoryShare>>
+MonitorHistoryStore::shares(MetricID metric, Base::Instant from, Base::Instant to)
+{
+    return guarded([&](Base::Database &db) -> Result<std::vector<HistoryShare>> {
+        KEST_TRY(auto rows, db.prepare(kReadShares, kCannotPrepare));
+        rows.bind(Base::textOf(metric), Base::seconds1970(from), Base::seconds1970(to));
+        std::vector<HistoryShare> shares;
+        auto hasRow = rows.step();
+        for (; hasRow && *hasRow; hasRow = rows.step()) {
+            shares.push_back(
+                {.app = std::string{rows.text(0)},
+                 .date = Base::fromSeconds1970(static_cast<double>(rows.integer(1))),
+                 .value = rows.real(2),
+                 .coverage = rows.real(3)});
+        }
+        if (!hasRow) {
+            return historyFailure(kCannotRead);
+        }
+        return shares;
     });
 }
 

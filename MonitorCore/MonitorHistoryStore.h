@@ -52,6 +52,16 @@ consteval auto jsonFields(Of<HistoryCause>)
 }
 static_assert(json::coversAllMembers<HistoryCause>());
 
+// One application's part in one minute.
+struct HistoryShare {
+    std::string app{};
+    Base::Instant date{}; // start of the minute
+    double value{};       // mean over the time covered
+    double coverage{};    // seconds
+
+    bool operator==(const HistoryShare &) const = default;
+};
+
 // From the first to the last bucket start that is stored.
 struct HistoryRange {
     Base::Instant from{};
@@ -92,6 +102,11 @@ public:
     // all others. None for a metric that applications have not.
     [[nodiscard]] Result<std::vector<HistoryCause>> causes(MetricID metric,
                                                            const HistoryPoint &point);
+
+    // What every application had of a metric, minute by minute, oldest first. Minutes are kept
+    // for a day, so there is none of what is older.
+    [[nodiscard]] Result<std::vector<HistoryShare>> shares(MetricID metric, Base::Instant from,
+                                                           Base::Instant to);
 
     [[nodiscard]] Result<std::optional<HistoryRange>> range();
 

@@ -6,6 +6,7 @@
 #include "KestCore/Tools/Emoji.h"
 #include "KestCore/Tools/TimerState.h"
 #include "KestCore/Tools/Units.h"
+#include "MonitorCore/Metric.h"
 #include "cli/Session.h"
 
 #include <CLI/CLI.hpp>
@@ -120,6 +121,9 @@ Words argumentsFor(const CLI::App &owner, const Words &typed)
     const CLI::App *parent = owner.get_parent();
     if (command == "start" && parent != nullptr && parent->get_name() == "timer") {
         return textsOf<KestCore::TimerMode>();
+    }
+    if (command == "history" && parent != nullptr && parent->get_name() == "monitor") {
+        return textsOf<MonitorCore::MetricID>();
     }
     return parent != nullptr && parent->get_name() == "settings" ? settingKeys() : Words{};
 }

@@ -44,6 +44,7 @@ void addLinkCommands(CLI::App &program, Session &session);
 void addEmojiCommands(CLI::App &program, Session &session);
 void addShelfCommands(CLI::App &program, Session &session);
 void addMessageCommands(CLI::App &program, Session &session);
+void addMonitorCommands(CLI::App &program, Session &session);
 void addDoctorCommand(CLI::App &program, Session &session);
 void addClipboardCommands(CLI::App &program, Session &session);
 void addCompletionCommands(CLI::App &program, Session &session);

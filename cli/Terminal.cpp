@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr short kAccentPair = 1;
-constexpr int kEscape = 27;
+constexpr short kWarningPair = 2;
 
 std::wstring wide(std::string_view text)
 {
@@ -45,10 +45,33 @@ attr_t attributesOf(Terminal::Ink ink)
         return A_DIM;
     case Terminal::Ink::accent:
         return has_colors() ? static_cast<attr_t>(COLOR_PAIR(kAccentPair)) : A_BOLD;
+    case Terminal::Ink::warning:
+        return has_colors() ? static_cast<attr_t>(COLOR_PAIR(kWarningPair)) : A_BOLD;
+    case Terminal::Ink::selected:
+        return A_REVERSE;
     case Terminal::Ink::plain:
         break;
     }
     return A_NORMAL;
+}
+
+int ownKey(int key)
+{
+    switch (key) {
+    case '\r':
+    case KEY_ENTER:
+        return '\n';
+    case KEY_UP:
+        return Terminal::kUp;
+    case KEY_DOWN:
+        return Terminal::kDown;
+    case KEY_PPAGE:
+        return Terminal::kPageUp;
+    case KEY_NPAGE:
+        return Terminal::kPageDown;
+    default:
+        return key;
+    }
 }
 
 } // namespace
@@ -76,6 +99,7 @@ Terminal::Terminal()
         start_color();
         use_default_colors();
         init_pair(kAccentPair, COLOR_GREEN, -1);
+        init_pair(kWarningPair, COLOR_YELLOW, -1);
     }
 }
 
@@ -89,15 +113,20 @@ void Terminal::clear() const { erase(); }
 
 void Terminal::centre(int row, std::string_view text, Ink ink) const
 {
+    write(row, std::max(0, (COLS - cellsOf(wide(text))) / 2), text, ink);
+}
+
+void Terminal::write(int row, int column, std::string_view text, Ink ink) const
+{
     std::wstring line = wide(text);
-    while (cellsOf(line) > COLS) {
+    while (!line.empty() && cellsOf(line) > COLS - column) {
         line.pop_back();
     }
-    if (row < 0 || row >= LINES || line.empty()) {
+    if (row < 0 || row >= LINES || column < 0 || line.empty()) {
         return;
     }
     attrset(static_cast<int>(attributesOf(ink)));
-    mvaddwstr(row, (COLS - cellsOf(line)) / 2, line.c_str());
+    mvaddwstr(row, column, line.c_str());
     attrset(A_NORMAL);
 }
 
@@ -107,36 +136,45 @@ std::optional<int> Terminal::waitForKey(int milliseconds) const
 {
     timeout(milliseconds);
     const int key = getch();
-    if (key == '\r' || key == KEY_ENTER) {
-        return '\n';
-    }
-    return key == ERR || key == KEY_RESIZE ? std::nullopt : std::optional{key};
+    return key == ERR || key == KEY_RESIZE ? std::nullopt : std::optional{ownKey(key)};
 }
 
 std::optional<std::string> Terminal::readDigits(std::string_view question,
                                                 std::size_t longest) const
 {
-    std::string digits;
+    return readAnswer(question, longest, '0', '9');
+}
+
+std::optional<std::string> Terminal::readText(std::string_view question,
+                                              std::size_t longest) const
+{
+    return readAnswer(question, longest, ' ', '~');
+}
+
+std::optional<std::string> Terminal::readAnswer(std::string_view question, std::size_t longest,
+                                                int lowest, int highest) const
+{
+    std::string answer;
     while (true) {
         move(LINES - 1, 0);
         clrtoeol();
-        centre(LINES - 1, std::string{question} + digits + "▏", Ink::plain);
+        centre(LINES - 1, std::string{question} + answer + "▏", Ink::plain);
         show();
         const auto key = waitForKey(-1);
         if (!key) {
             continue;
         }
         if (*key == '\n') {
-            return digits;
+            return answer;
         }
         if (*key == kEscape) {
             return std::nullopt;
         }
         const bool isErase = *key == KEY_BACKSPACE || *key == 127 || *key == '\b';
-        if (isErase && !digits.empty()) {
-            digits.pop_back();
-        } else if (*key >= '0' && *key <= '9' && digits.size() < longest) {
-            digits += static_cast<char>(*key);
+        if (isErase && !answer.empty()) {
+            answer.pop_back();
+        } else if (*key >= lowest && *key <= highest && answer.size() < longest) {
+            answer += static_cast<char>(*key);
         }
     }
 }

@@ -68,6 +68,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addEmojiCommands(program, session);
     Cli::addShelfCommands(program, session);
     Cli::addMessageCommands(program, session);
+    Cli::addMonitorCommands(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 }

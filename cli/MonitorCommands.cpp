@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "cli/MonitorAnswers.h"
+#include "cli/MonitorSampler.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <memory>
+
+namespace Cli
+{
+
+namespace
+{
+
+constexpr double kOnceSeconds = 1;
+constexpr double kRecordSeconds = 10;
+
+// Samples one after the other on standard output; each has an interval that its rates are of.
+Result<void> runSamples(const Session &session, const LiveArguments &args)
+{
+    const StopSignals signals;
+    MonitorSampler sampler;
+    sampler.sample(); // where every rate begins
+    for (std::int64_t done = 0; !args.count || done < *args.count; ++done) {
+        if (signals.cameWithin(args.interval)) {
+            return {};
+        }
+        KEST_CHECK(answerSnapshot(session.console, sampler.sample()));
+        KEST_CHECK(Console::flush()); // who follows wants each line at once
+    }
+    return {};
+}
+
+struct Arguments {
+    bool isOnce = false;
+    std::optional<double> interval{};
+    std::optional<std::int64_t> count{};
+    SeriesArguments series{};
+    double alertHours = 24;
+};
+
+Result<void> runMonitor(const Session &session, const Arguments &args)
+{
+    if (args.isOnce) {
+        return runSamples(session,
+                          {.interval = args.interval.value_or(kOnceSeconds), .count = 1});
+    }
+    const LiveArguments live{.interval = args.interval.value_or(LiveArguments{}.interval),
+                             .count = args.count};
+    const bool isForPrograms = session.console.isJson || args.count.has_value();
+    return isForPrograms ? runSamples(session, live) : runMonitorView(live);
+}
+
+void addPace(CLI::App *command, const std::shared_ptr<Arguments> &args)
+{
+    command->add_option("--interval", args->interval, "Seconds between two samples, 0.2 to 60")
+        ->check(CLI::Range(0.2, 60.0));
+    command->add_option("--count", args->count, "Ends after so many samples")
+        ->check(CLI::PositiveNumber);
+}
+
+void addRecord(CLI::App *monitor, Session &session, const std::shared_ptr<Arguments> &args)
+{
+    CLI::App *record = monitor->add_subcommand("record", "Records the history until stopped");
+    addPace(record, args);
+    record->callback([=, &session] {
+        session.command = [=, &session] {
+            return runMonitorRecord(
+                session,
+                {.interval = args->interval.value_or(kRecordSeconds), .count = args->count});
+        };
+    });
+}
+
+void addHistory(CLI::App *monitor, Session &session, const std::shared_ptr<Arguments> &args)
+{
+    CLI::App *history = monitor->add_subcommand("history", "Shows what was recorded");
+    SeriesArguments &series = args->series;
+    history->add_option("METRIC", series.metric, "Such as cpu, memoryUsed or download")
+        ->required();
+    history->add_option("--app", series.app, "Of one application, by its key");
+    CLI::Option *from = history->add_option("--from", series.from, "Not before this instant");
+    history->add_option("--to", series.to, "Not after this instant, instead of now");
+    history->add_option("--hours", series.hours, "So many hours, instead of 24")
+        ->check(CLI::Range(0.0, 31.0 * 24))
+        ->excludes(from);
+    history->callback([=, &session] {
+        session.command = [=, &session] { return runMonitorHistory(session, args->series); };
+    });
+}
+
+void addAlerts(CLI::App *monitor, Session &session, const std::shared_ptr<Arguments> &args)
+{
+    CLI::App *alerts =
+        monitor->add_subcommand("alerts", "Lists loads that lasted and memory that grew");
+    alerts->add_option("--hours", args->alertHours, "In the last so many hours, 24 at most")
+        ->check(CLI::Range(0.0, 24.0));
+    alerts->callback([=, &session] {
+        session.command = [=, &session] { return runMonitorAlerts(session, args->alertHours); };
+    });
+}
+
+} // namespace
+
+void addMonitorCommands(CLI::App &program, Session &session)
+{
+    const auto args = std::make_shared<Arguments>();
+    CLI::App *monitor = program.add_subcommand("monitor", "Shows what this machine is doing");
+    monitor->require_subcommand(0, 1);
+    monitor->add_flag("--once", args->isOnce, "Prints one sample, taken over a second");
+    addPace(monitor, args);
+    monitor->callback([=, &session] {
+        if (monitor->get_subcommands().empty()) {
+            session.command = [=, &session] { return runMonitor(session, *args); };
+        }
+    });
+    addRecord(monitor, session, args);
+    addHistory(monitor, session, args);
+    addAlerts(monitor, session, args);
+}
+
+} // namespace Cli
