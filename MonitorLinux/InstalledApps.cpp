@@ -182,8 +182,8 @@ AppPlaces appPlacesOfUser()
 {
     AppPlaces places;
     const std::string home = environment("HOME", "/");
-    std::string folders = environment("XDG_DATA_HOME", home + "/.local/share") + ":" +
-                          environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
+    const std::string folders = environment("XDG_DATA_HOME", home + "/.local/share") + ":" +
+                                environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
     for (const std::string_view folder : Base::split(folders, ':')) {
         if (folder.starts_with('/')) { // another means nothing
             places.applications.push_back(fs::path{folder} / "applications");

@@ -15,7 +15,6 @@ namespace MonitorLinux
 {
 
 using MonitorCore::MonitorSnapshot;
-using MonitorCore::NetworkCounter;
 using MonitorCore::RawSample;
 using MonitorCore::SampleScope;
 

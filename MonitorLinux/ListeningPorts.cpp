@@ -15,8 +15,10 @@ std::vector<std::uint64_t> socketInodes(const Folder &proc, const std::string &p
 {
     std::vector<std::uint64_t> inodes;
     std::array<char, 64> buffer{};
-    for (const std::string &name : proc.names(process + "/fd")) {
-        const std::string link = process + "/fd/" + name;
+    const std::string folder = process + "/fd";
+    for (const std::string &name : proc.names(folder)) {
+        std::string link = folder;
+        link.append("/").append(name);
         if (const auto inode = parseSocketInode(proc.link(link.c_str(), buffer))) {
             inodes.push_back(*inode);
         }

@@ -45,10 +45,11 @@ std::optional<double> sumOf(const std::vector<PowerSupply> &batteries,
 {
     double sum = 0;
     for (const PowerSupply &battery : batteries) {
-        if (!(battery.*figure)) {
+        const std::optional<double> &value = battery.*figure;
+        if (!value) {
             return std::nullopt;
         }
-        sum += *(battery.*figure);
+        sum += *value;
     }
     return batteries.empty() ? std::nullopt : std::optional{sum};
 }
@@ -119,7 +120,9 @@ PowerSupplies readPowerSupplies(const Folder &sys)
     std::vector<PowerSupply> batteries;
     const std::string folder = "class/power_supply";
     for (const std::string &name : sys.names(folder)) {
-        const auto supply = parsePowerSupply(sys.text(folder + "/" + name + "/uevent"));
+        std::string file = folder;
+        file.append("/").append(name).append("/uevent");
+        const auto supply = parsePowerSupply(sys.text(file));
         if (supply.isAccessory && supply.isBattery && supply.percent) {
             all.accessories.push_back({.id = name,
                                        .name = supply.model.empty() ? name : supply.model,

@@ -45,7 +45,7 @@ std::size_t sequenceLength(std::string_view bytes)
     if (lead < 0x80) {
         return 1;
     }
-    const std::size_t length = lead >= 0xF0 ? 4 : (lead >= 0xE0 ? 3 : 2);
+    const std::size_t length = 2 + (lead >= 0xE0 ? 1U : 0U) + (lead >= 0xF0 ? 1U : 0U);
     if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) {
         return 0;
     }
@@ -145,11 +145,14 @@ std::string_view parseCgroup(std::string_view text)
             continue;
         }
         const std::string_view controllers = line.substr(first + 1, second - first - 1);
-        auto &place =
-            controllers.empty() ? unified : (controllers == "name=systemd" ? manager : other);
+        auto &legacy = controllers == "name=systemd" ? manager : other;
+        auto &place = controllers.empty() ? unified : legacy;
         place = place.empty() ? path : place;
     }
-    return !unified.empty() ? unified : (!manager.empty() ? manager : other);
+    if (!unified.empty()) {
+        return unified;
+    }
+    return manager.empty() ? other : manager;
 }
 
 std::optional<CpuTicks> parseCpuTicks(std::string_view text)

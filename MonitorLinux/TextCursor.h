@@ -49,12 +49,13 @@ public:
     {
         const std::string_view digits = word();
         T value{};
-        const char *const end = digits.data() + digits.size();
+        const char *const begin = digits.data();
+        const char *const end = begin + digits.size();
         const auto [stop, error] = [&] {
             if constexpr (std::integral<T>) {
-                return std::from_chars(digits.data(), end, value, base);
+                return std::from_chars(begin, end, value, base);
             } else {
-                return std::from_chars(digits.data(), end, value);
+                return std::from_chars(begin, end, value);
             }
         }();
         if (error != std::errc{} || stop != end) {

@@ -25,8 +25,8 @@ TEST(ParseDesktopEntry, FindsTheProgramOfACommandLine)
          {std::pair{"paint %U", "paint"},
           std::pair{"/opt/paint/paint --new", "/opt/paint/paint"},
           std::pair{R"("/opt/my \"x\" paint" %f)", R"(/opt/my "x" paint)"},
-          std::pair{"env -u A LANG=C B=2 paint", "paint"}, std::pair{"env LANG=C paint", "paint"},
-          std::pair{"\"open", "open"}}) {
+          std::pair{"env -u A LANG=C B=2 paint", "paint"},
+          std::pair{"env LANG=C paint", "paint"}, std::pair{"\"open", "open"}}) {
         const auto found = parseDesktopEntry(entry(exec), "");
         ASSERT_TRUE(found) << exec;
         EXPECT_EQ(found->program, program);
