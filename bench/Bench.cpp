@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include <sys/resource.h>
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -122,6 +124,16 @@ Row rateRow(std::string name, const Pair &seconds, std::size_t bytes, double low
     return row;
 }
 
+double cpuSeconds(int who)
+{
+    rusage usage{};
+    ::getrusage(who, &usage);
+    const auto seconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
 std::filesystem::path freshFolder(const std::string &name)
 {
     const std::filesystem::path folder = std::filesystem::path{KEST_BENCH_FOLDER} / name;
@@ -145,10 +157,11 @@ int main(int argc, char **argv)
         return Bench::printPeakMemory(argv + 2);
     }
     const std::pair<std::string_view, Bench::Suite> suites[] = {
-        {"json", Bench::jsonSuite},       {"store", Bench::storeSuite},
-        {"prayer", Bench::prayerSuite},   {"clipboard", Bench::clipboardSuite},
-        {"program", Bench::programSuite}, {"backup", Bench::backupSuite},
-        {"monitor", Bench::monitorSuite}, {"collector", Bench::collectorSuite},
+        {"json", Bench::jsonSuite},           {"store", Bench::storeSuite},
+        {"prayer", Bench::prayerSuite},       {"clipboard", Bench::clipboardSuite},
+        {"program", Bench::programSuite},     {"backup", Bench::backupSuite},
+        {"monitor", Bench::monitorSuite},     {"collector", Bench::collectorSuite},
+        {"recording", Bench::recordingSuite},
     };
     for (int at = 1; at < argc; ++at) {
         if (std::ranges::none_of(suites, [&](const auto &s) { return s.first == argv[at]; })) {

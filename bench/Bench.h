@@ -46,6 +46,9 @@ Row rateRow(std::string name, const Pair &seconds, std::size_t bytes, double low
 // A row whose goal is to need less than `most`; all in bytes.
 Row memoryRow(std::string name, double value, double floor, double most);
 
+// What RUSAGE_SELF or RUSAGE_CHILDREN have used of the processor, in seconds.
+double cpuSeconds(int who);
+
 // Runs a program with its output thrown away; it must succeed.
 void runProgram(const std::vector<std::string> &arguments);
 
@@ -81,5 +84,6 @@ std::vector<Row> monitorSuite();
 std::vector<Row> programSuite();
 std::vector<Row> backupSuite();
 std::vector<Row> collectorSuite();
+std::vector<Row> recordingSuite();
 
 } // namespace Bench

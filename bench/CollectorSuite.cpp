@@ -23,16 +23,6 @@ namespace
 
 constexpr int kRounds = 15;
 
-double cpuSeconds(int who)
-{
-    rusage usage{};
-    ::getrusage(who, &usage);
-    const auto seconds = [](const timeval &time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-    };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
-}
-
 // What the work costs the processor, which a busy machine changes less than its duration.
 double cpuOf(const std::function<void()> &work)
 {
