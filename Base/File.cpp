@@ -38,15 +38,33 @@ Result<void> makePrivateDirectory(const std::filesystem::path &directory)
         return {};
     }
     KEST_CHECK(makePrivateDirectory(directory.parent_path()));
-    if (mkdir(directory.c_str(), 0700) != 0 && errno != EEXIST) {
-        return std::unexpected(fileError(directory, lastError()));
+    if (mkdir(directory.c_str(), 0700) != 0) {
+        const auto refused = lastError();
+        // Another program may just have made it.
+        if (!std::filesystem::is_directory(directory, error)) {
+            return std::unexpected(fileError(directory, refused));
+        }
     }
     return {};
 }
 
 void makePrivateFile(const std::filesystem::path &file)
 {
-    const FileDescriptor created{::open(file.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600)};
+    // A pipe of that name must not be waited for.
+    const FileDescriptor created{
+        ::open(file.c_str(), O_CREAT | O_WRONLY | O_NONBLOCK | O_CLOEXEC, 0600)};
+    if (created.isOpen()) {
+        (void)::fchmod(created.get(), 0600);
+    }
+}
+
+std::optional<FileIdentity> fileIdentity(const std::filesystem::path &file)
+{
+    struct stat about{};
+    if (::stat(file.c_str(), &about) != 0) {
+        return std::nullopt;
+    }
+    return FileIdentity{.device = about.st_dev, .number = about.st_ino};
 }
 
 Result<std::string> readFile(const std::filesystem::path &file, std::size_t limit)

@@ -4,8 +4,10 @@
 
 #include "Base/Result.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -31,10 +33,21 @@ KestError fileError(const std::filesystem::path &file, std::error_code code);
 // unavailable, in the system's words.
 [[nodiscard]] Result<void> makePrivateDirectory(const std::filesystem::path &directory);
 
-// Makes the file, if it is missing, so that only the user can read it. SQLite gives its side
-// files the mode of the database file, so that mode must be right before they come into being.
+// Makes the file, if it is missing, and makes it the user's alone to read. SQLite gives its
+// side files the mode of the database file, so that must be right before they come into being.
 // What fails here fails again, with a message, when the file is opened.
 void makePrivateFile(const std::filesystem::path &file);
+
+// Tells whether a name still leads to the same file.
+struct FileIdentity {
+    std::uint64_t device{};
+    std::uint64_t number{};
+
+    bool operator==(const FileIdentity &) const = default;
+};
+
+// None when there is no such file.
+std::optional<FileIdentity> fileIdentity(const std::filesystem::path &file);
 
 // A file descriptor with one owner.
 class FileDescriptor

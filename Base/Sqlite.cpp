@@ -178,6 +178,7 @@ Result<void> Database::run(std::string_view sql, Parameters parameters)
 
 void Database::rollBack()
 {
+    m_failure = sqlite3_errcode(m_handle.get()); // which what follows would hide
     // An I/O error may have rolled back already; then there is nothing left to end.
     if (sqlite3_get_autocommit(m_handle.get()) == 0) {
         (void)run("ROLLBACK");
@@ -212,12 +213,23 @@ std::int64_t Database::totalChanges() const { return sqlite3_total_changes64(m_h
 
 bool Database::isDamaged()
 {
+    const auto tellsDamage = [](int code) {
+        return code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
+    };
+    if (!tellsDamage(std::exchange(m_failure, SQLITE_OK)) &&
+        !tellsDamage(sqlite3_errcode(m_handle.get()))) {
+        return false;
+    }
     const auto rows = query("PRAGMA integrity_check(1)");
     if (rows) {
         return rows->empty() || rows->front().view() != "ok";
     }
-    const int code = sqlite3_errcode(m_handle.get());
-    return code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
+    return tellsDamage(sqlite3_errcode(m_handle.get()));
+}
+
+void Database::leaveLog()
+{
+    sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
 } // namespace Base

@@ -90,9 +90,12 @@ public:
     // How many rows this connection has changed since it was opened.
     std::int64_t totalChanges() const;
 
-    // Whether the file is damaged or no database at all. Reads all of it, so this is for
-    // after something has failed; a file that cannot be read just now is not damaged.
+    // Whether what failed last failed because the file is damaged or no database at all. Reads
+    // the whole file where it seems so; one that cannot be read just now is not damaged.
     bool isDamaged();
+
+    // Closing will leave the file as it is, and its log beside it.
+    void leaveLog();
 
     // Runs `body` between "BEGIN IMMEDIATE" and "COMMIT"; any failure rolls back and is
     // returned. What the rollback itself may say would only hide the cause.
@@ -110,6 +113,9 @@ public:
         return outcome;
     }
 
+    // Ends a transaction that failed midway; for scripts that hold one.
+    void rollBack();
+
     // Copies the whole live database into `file`, which must exist and be empty.
     [[nodiscard]] Result<void> backUpTo(const std::filesystem::path &file);
 
@@ -122,9 +128,9 @@ private:
     };
 
     explicit Database(std::unique_ptr<sqlite3, Close> handle) : m_handle(std::move(handle)) {}
-    void rollBack();
 
     std::unique_ptr<sqlite3, Close> m_handle;
+    int m_failure{}; // SQLite's code of the operation that was rolled back last
 };
 
 } // namespace Base

@@ -91,6 +91,17 @@ void *reallocate(const void *context, void *memory, std::size_t size)
     return larger;
 }
 
+std::size_t cellsOf(char32_t point)
+{
+    const auto letter = static_cast<UChar32>(point);
+    constexpr std::uint32_t kNoCells = U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CF_MASK;
+    if ((U_GET_GC_MASK(letter) & kNoCells) != 0) {
+        return 0;
+    }
+    const int width = u_getIntPropertyValue(letter, UCHAR_EAST_ASIAN_WIDTH);
+    return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+}
+
 } // namespace
 
 std::size_t countCodePoints(std::string_view text)
@@ -104,6 +115,38 @@ std::string_view firstCharacters(std::string_view text, std::size_t most)
     const auto isBeyond = [&](char c) { return beginsCharacter(c) && characters++ == most; };
     const auto *const end = std::ranges::find_if(text, isBeyond);
     return text.substr(0, static_cast<std::size_t>(end - text.begin()));
+}
+
+std::u32string codePoints(std::string_view text)
+{
+    std::u32string points;
+    forEachCodePoint(text, [&](UChar32 point, std::size_t /*begin*/, std::size_t /*end*/) {
+        points += point < 0 ? U'\uFFFD' : static_cast<char32_t>(point);
+    });
+    return points;
+}
+
+std::size_t countCells(std::string_view text)
+{
+    std::size_t cells = 0;
+    for (const char32_t point : codePoints(text)) {
+        cells += cellsOf(point);
+    }
+    return cells;
+}
+
+std::string_view firstCells(std::string_view text, std::size_t most)
+{
+    std::size_t characters = 0;
+    std::size_t cells = 0;
+    for (const char32_t point : codePoints(text)) {
+        cells += cellsOf(point);
+        if (cells > most) {
+            break;
+        }
+        ++characters;
+    }
+    return firstCharacters(text, characters);
 }
 
 void wipeUnicodeMemory()

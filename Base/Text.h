@@ -17,6 +17,16 @@ namespace Base
 // Unicode code points of a valid UTF-8 text.
 std::size_t countCodePoints(std::string_view text);
 
+// The code points of a text, U+FFFD for what is no UTF-8.
+std::u32string codePoints(std::string_view text);
+
+// The cells of a terminal that a valid UTF-8 text takes: none for a mark above or below its
+// letter, two for a wide letter of East Asia.
+std::size_t countCells(std::string_view text);
+
+// The beginning of a valid UTF-8 text that fits into so many cells.
+std::string_view firstCells(std::string_view text, std::size_t most);
+
 // The first characters of a valid UTF-8 text, `most` of them where there are more.
 std::string_view firstCharacters(std::string_view text, std::size_t most);
 

@@ -6,6 +6,8 @@
 
 #include <fmt/format.h>
 
+#include <ranges>
+
 namespace MonitorCore
 {
 
@@ -73,22 +75,24 @@ Result<std::optional<Base::Database>> tryOpen(const fs::path &url)
     Base::makePrivateFile(url);
     KEST_TRY(Base::Database db, Base::Database::open(url, kCannotOpen));
     const auto state = stateOf(db);
-    if (state && *state == FileState::newer) {
-        return historyFailure(kNewerFile);
-    }
-    if (state && *state == FileState::foreign) {
+    if (state && *state != FileState::usable) {
+        db.leaveLog();
+        if (*state == FileState::newer) {
+            return historyFailure(kNewerFile);
+        }
         return std::nullopt;
     }
     const Result<void> ready =
         state ? db.runScript(kSchema) : Result<void>{std::unexpected(state.error())};
     if (!ready) {
         if (db.isDamaged()) {
+            db.leaveLog();
             return std::nullopt;
         }
         return std::unexpected(ready.error());
     }
     KEST_CHECK(db.runScript(kRoomForADay));
-    std::error_code error;
+    std::error_code error; // of a file that is another user's, for one
     fs::permissions(url, fs::perms::owner_read | fs::perms::owner_write, error);
     if (error) {
         return std::unexpected(Base::fileError(url, error));
@@ -97,6 +101,7 @@ Result<std::optional<Base::Database>> tryOpen(const fs::path &url)
 }
 
 // Renames the file and what belongs to it, as the changes of its last minutes may stand there.
+// The file itself goes last: a log that was left beside a new file would be taken for its own.
 // Gives the new name.
 Result<std::string> setAside(const fs::path &url)
 {
@@ -106,7 +111,7 @@ Result<std::string> setAside(const fs::path &url)
         target = url.parent_path() / fmt::format("{}.set-aside-{}{}", url.stem().string(),
                                                  number, url.extension().string());
     }
-    for (const char *ending : kHistoryFileEndings) {
+    for (const char *ending : std::views::reverse(kHistoryFileEndings)) {
         const fs::path from = withEnding(url, ending);
         if (fs::exists(from, error)) {
             fs::rename(from, withEnding(target, ending), error);
@@ -129,10 +134,20 @@ Result<HistoryFile> openHistoryFile(const fs::path &url)
 {
     KEST_CHECK(Base::makePrivateDirectory(url.parent_path()));
     KEST_TRY(auto database, tryOpen(url));
-    if (database) {
-        return HistoryFile{.database = *std::move(database)};
+    if (!database) {
+        return historyFailure(kUnusable);
     }
-    return replaceHistoryFile(url);
+    return HistoryFile{.database = *std::move(database)};
+}
+
+Result<HistoryFile> openOrReplaceHistoryFile(const fs::path &url)
+{
+    KEST_CHECK(Base::makePrivateDirectory(url.parent_path()));
+    KEST_TRY(auto database, tryOpen(url));
+    if (!database) {
+        return replaceHistoryFile(url);
+    }
+    return HistoryFile{.database = *std::move(database)};
 }
 
 Result<HistoryFile> replaceHistoryFile(const fs::path &url)

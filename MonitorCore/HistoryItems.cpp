@@ -49,12 +49,20 @@ void addReadings(const MonitorSnapshot &snapshot, std::optional<Base::Instant> l
     }
 }
 
+// Nothing at all caused nothing, and what has no name or no number tells nothing.
+bool canCause(const AppUsage &app, double value)
+{
+    return value > 0 && std::isfinite(value) && app.id != kSystemKey;
+}
+
 // What an application must have to be among the five highest.
 double fifthHighest(const MonitorSnapshot &snapshot, const AppMetric &rule)
 {
     std::vector<double> values;
     for (const AppUsage &app : snapshot.apps) {
-        values.push_back(app.*rule.usage);
+        if (canCause(app, app.*rule.usage)) {
+            values.push_back(app.*rule.usage);
+        }
     }
     if (values.size() <= kCausesKept) {
         return 0;
@@ -71,8 +79,7 @@ void addApps(const MonitorSnapshot &snapshot, const AppMetric &rule, bool isSpik
         isSpike ? std::min(rule.floor, fifthHighest(snapshot, rule)) : rule.floor;
     for (const AppUsage &app : snapshot.apps) {
         const double value = app.*rule.usage;
-        // Nothing at all caused nothing.
-        if (value >= floor && value > 0 && std::isfinite(value) && app.id != kSystemKey) {
+        if (value >= floor && canCause(app, value)) {
             items.push_back({.app = app.id,
                              .metric = rule.metric,
                              .value = value,
@@ -112,7 +119,7 @@ bool SpikeDetector::isSpike(const AppMetric &rule, double value, Base::Instant n
         rule.spikeLevel > 0 && memory.last < rule.spikeLevel && value >= rule.spikeLevel;
     const double age = (now - memory.peakAt).count();
     const bool isForgotten = !(age >= 0 && age <= kPeakMemorySeconds);
-    const bool isPeak = !isForgotten && value > memory.peak * kPeakStep;
+    const bool isPeak = value > (isForgotten ? memory.last : memory.peak) * kPeakStep;
     if (isForgotten || isPeak) {
         memory.peak = value;
         memory.peakAt = now;

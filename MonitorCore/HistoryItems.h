@@ -38,9 +38,8 @@ inline constexpr AppMetric kAppMetrics[] = {
 };
 
 // Tells when a metric of the machine jumps: it crosses its level upwards, or exceeds by a
-// tenth the highest jump of the last hour, so that a slow climb is told a tenth at a time.
-// Belongs to one recorder; also tells a recorder of the machine alone when it is worth looking
-// at the processes too.
+// tenth the highest jump of the last hour (or what was before, where there was none), so that
+// a slow climb is told a tenth at a time. Belongs to one recorder.
 class SpikeDetector
 {
 public:

@@ -57,7 +57,10 @@ constexpr const char *kClear = "DELETE FROM samples; PRAGMA wal_checkpoint(TRUNC
 constexpr std::string_view kSetAside =
     "Monitor history: The file could not be used. It was set aside as {} and a new history "
     "was begun.";
+constexpr std::string_view kTakenAway =
+    "Monitor history: The file was taken away. A new history was begun.";
 constexpr std::string_view kErrorPrefix = "Monitor history: ";
+constexpr std::string_view kRecorder = "The monitor's recorder";
 constexpr std::string_view kCannotSave = "Could not save a sample";
 constexpr std::string_view kCannotRead = "Could not read samples";
 
@@ -116,7 +119,7 @@ Result<void> rollUp(Base::Database &db, Base::Instant now, std::int64_t retentio
                     keepFrom, rollUpBefore)
             .c_str());
     if (!outcome) {
-        (void)db.runScript("ROLLBACK"); // its own failure would only hide the cause
+        db.rollBack();
     }
     return outcome;
 }
@@ -148,6 +151,18 @@ Result<void> holdToSize(Base::Database &db, std::int64_t byteLimit)
 Result<MonitorHistoryStore> MonitorHistoryStore::open(const fs::path &url)
 {
     MonitorHistoryStore store{url};
+    KEST_CHECK(Base::makePrivateDirectory(url.parent_path()));
+    KEST_TRY(store.m_lock, Base::FileLock::take(url.parent_path() / kRecorderLockName,
+                                                kRecorder, std::chrono::milliseconds{0}));
+    if (auto opened = store.use(openOrReplaceHistoryFile(url)); !opened) {
+        return std::unexpected(monitorStorageError(std::move(opened).error()));
+    }
+    return store;
+}
+
+Result<MonitorHistoryStore> MonitorHistoryStore::openToRead(const fs::path &url)
+{
+    MonitorHistoryStore store{url};
     if (auto opened = store.use(openHistoryFile(url)); !opened) {
         return std::unexpected(monitorStorageError(std::move(opened).error()));
     }
@@ -160,10 +175,42 @@ Result<void> MonitorHistoryStore::use(Result<HistoryFile> file)
         return std::unexpected(std::move(file).error());
     }
     m_db = std::move(file->database);
+    m_identity = Base::fileIdentity(m_url);
     if (!file->setAside.empty()) {
         m_notice = fmt::format(kSetAside, file->setAside);
     }
     return {};
+}
+
+// Before the file is moved, or after: neither it nor a log of its name is to be changed now.
+void MonitorHistoryStore::close()
+{
+    if (m_db) {
+        m_db->leaveLog();
+    }
+    m_insert.reset();
+    m_db.reset();
+}
+
+// Without a new file every later operation says that there is none.
+void MonitorHistoryStore::setDamagedAside()
+{
+    close();
+    if (const auto replaced = use(replaceHistoryFile(m_url)); !replaced) {
+        m_notice = monitorStorageError(replaced.error()).message;
+    }
+}
+
+// A file that was renamed or removed would be written to for ever, and nobody would find it.
+void MonitorHistoryStore::followTheFile()
+{
+    if (m_db && Base::fileIdentity(m_url) == m_identity) {
+        return;
+    }
+    close();
+    if (use(openOrReplaceHistoryFile(m_url)) && !m_notice) {
+        m_notice = kTakenAway;
+    }
 }
 
 template <class Operation>
@@ -176,11 +223,10 @@ auto MonitorHistoryStore::guarded(Operation operation)
     auto result = operation(*m_db);
     if (!result) {
         if (m_db->isDamaged()) {
-            // Closed before its files are renamed: closing folds the log into the file.
-            m_insert.reset();
-            m_db.reset();
-            // Without a new file every later operation says that there is none.
-            (void)use(replaceHistoryFile(m_url));
+            if (!m_lock) {
+                return std::unexpected(monitorStorageError(historyFailure(kUnusable).error()));
+            }
+            setDamagedAside();
         }
         return std::unexpected(monitorStorageError(std::move(result).error()));
     }
@@ -192,6 +238,7 @@ Result<void> MonitorHistoryStore::record(const MonitorSnapshot &snapshot)
     if (!(snapshot.interval > 0 && snapshot.interval <= kLongestGapSeconds)) {
         return {};
     }
+    followTheFile();
     const auto items = historyItems(snapshot, m_spikes.update(snapshot), m_lastAdvanced);
     KEST_CHECK(guarded([&](Base::Database &db) { return write(db, items); }));
     if (snapshot.advancedTimestamp) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/FileLock.h"
 #include "MonitorCore/HistoryFile.h"
 #include "MonitorCore/HistoryItems.h"
 
@@ -70,26 +71,36 @@ struct HistoryRange {
     bool operator==(const HistoryRange &) const = default;
 };
 
-// How large the history may grow: far more than a month of an ordinary day's work.
+// How large the history may grow: a month in which a score of applications is busy at a time.
 inline constexpr std::int64_t kHistoryByteLimit = 67'108'864;
 // The owner maintains the history when it opens it for recording and then this often: a roll-up
 // reads every older row, so doing it each quarter of an hour would cost more than it saves.
 inline constexpr double kMaintenanceSeconds = 3'600;
 
 // Keeps every metric a minute at a time, folds minutes older than a day into quarters of an
-// hour, and holds its file to an age and a size. Has no lock: lives in a Serial.
+// hour, and holds its file to an age and a size. Has no mutex: for one thread, or in a Serial.
 //
 // A failure of the database is a MonitorStorageError, which is a KestError of kind storage
 // whose message begins "Monitor history: "; it leaves the history as it was. A file that is
-// damaged, or is no history, is never written to or deleted: it is set aside under a new name
-// and a new history takes its place (see `takeNotice`).
+// damaged, or is no history, is never deleted: who records sets it aside under a new name, and
+// a new history takes its place (see `takeNotice`); who only reads is told, and leaves it.
 class MonitorHistoryStore
 {
 public:
-    // Creates the folder and the file when they are missing, readable for the user only.
+    // For recording; fails with unavailable while another has it open so. Creates the folder
+    // and the file when they are missing, readable for the user only.
     [[nodiscard]] static Result<MonitorHistoryStore> open(const std::filesystem::path &url);
 
+    // For looking at what was recorded, also while somebody records.
+    [[nodiscard]] static Result<MonitorHistoryStore>
+    openToRead(const std::filesystem::path &url);
+
+    MonitorHistoryStore(MonitorHistoryStore &&) = default;
+    MonitorHistoryStore &operator=(MonitorHistoryStore &&) = delete; // wrong order of closing
+    ~MonitorHistoryStore() = default;
+
     // Adds one snapshot's values. One whose interval is 0, or above 90 seconds, is passed over.
+    // Begins a new file when somebody has taken the old one away.
     [[nodiscard]] Result<void> record(const MonitorSnapshot &snapshot);
 
     // One series, oldest first, at most 5,000 points; `app` is kSystemKey for the machine.
@@ -121,7 +132,8 @@ public:
     // Deletes all history; the store stays open.
     [[nodiscard]] Result<void> clear();
 
-    // What the user should be told once: that an unusable file was set aside, and as what.
+    // What the user should be told once, such as that an unusable file was set aside, and as
+    // what.
     std::optional<std::string> takeNotice() { return std::exchange(m_notice, std::nullopt); }
 
 private:
@@ -133,9 +145,14 @@ private:
     auto guarded(Operation operation) -> std::invoke_result_t<Operation, Base::Database &>;
 
     Result<void> use(Result<HistoryFile> file);
+    void close();
+    void setDamagedAside();
+    void followTheFile();
     Result<void> write(Base::Database &db, const std::vector<HistoryItem> &items);
 
     std::filesystem::path m_url;
+    std::optional<Base::FileLock> m_lock{}; // who only reads has none
+    std::optional<Base::FileIdentity> m_identity{};
     std::optional<Base::Database> m_db{};      // none when its file could not be replaced
     std::optional<Base::Statement> m_insert{}; // goes before the database
     SpikeDetector m_spikes{};

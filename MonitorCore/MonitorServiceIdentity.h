@@ -27,8 +27,6 @@ inline constexpr std::string_view kClientRequirement =
 inline constexpr std::string_view kWorkQueueLabel = "Velvetnook.SystemMonitor";
 // Inside the application's data folder.
 inline constexpr std::string_view kHistoryPath = "Monitor/history.sqlite";
-// Who records into the history holds the lock on this file, so that no second is counted twice.
-inline constexpr std::string_view kRecorderLockPath = "Monitor/recorder.lock";
 // The name offered for the monitor view as an image.
 inline constexpr std::string_view kImageName = "Velvetnook-System-Monitor.png";
 

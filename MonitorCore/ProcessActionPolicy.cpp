@@ -71,14 +71,16 @@ std::optional<ActionRefusal> ProcessActionPolicy::refusal(const ProcessKey &proc
 std::optional<ActionRefusal>
 ProcessActionPolicy::refusal(const std::vector<ProcessKey> &application) const
 {
-    std::optional<ActionRefusal> whole = ActionRefusal::gone;
+    using enum ActionRefusal;
+    std::optional<ActionRefusal> whole = gone;
     for (const ProcessKey &process : application) {
         const auto one = refusal(process);
-        if (one && *one != ActionRefusal::gone) {
-            return one;
-        }
         if (!one) {
             whole.reset();
+        } else if (*one == otherUser) {
+            whole = whole ? one : whole;
+        } else if (*one != gone) {
+            return one;
         }
     }
     return whole;

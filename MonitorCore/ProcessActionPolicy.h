@@ -50,8 +50,8 @@ public:
     // None when the process may be ended.
     std::optional<ActionRefusal> refusal(const ProcessKey &process) const;
 
-    // An application is ended whole or not at all. Processes of it that have gone count only
-    // when nothing else is left.
+    // An application is ended whole or not at all. Processes of it that have gone, and what
+    // other users run of it, count only when nothing else is left.
     std::optional<ActionRefusal> refusal(const std::vector<ProcessKey> &application) const;
 
 private:

@@ -22,6 +22,7 @@ namespace
 {
 
 constexpr double kDeviceSeconds = 5;
+constexpr const char *kZramSource = "/sys/block";
 constexpr double kStaleSeconds = 30; // a driver that hangs for so long is not waited for
 
 // Every metric that the device thread answers.
@@ -125,10 +126,13 @@ void LinuxCollector::sampleDevices(double time, Base::Instant now, MonitorSnapsh
     if (m_devices && !isStale) {
         snapshot.accessories = m_devices->readings.accessories;
     }
-    if (m_devices && m_devices->readings.zramBytes) {
-        Finding &compressed = findings[MetricID::memoryCompressed];
+    Finding &compressed = findings[MetricID::memoryCompressed];
+    if (!m_devices || isStale) { // half of it is no figure
         compressed =
-            found(compressed.value.value_or(0) + *m_devices->readings.zramBytes, "/sys/block");
+            missing(isStale ? MetricState::stale : MetricState::warmingUp, kZramSource);
+    } else if (m_devices->readings.zramBytes) {
+        compressed =
+            found(compressed.value.value_or(0) + *m_devices->readings.zramBytes, kZramSource);
     }
 }
 

@@ -29,7 +29,7 @@ struct ProcessStat {
 };
 std::optional<ProcessStat> parseProcessStat(std::string_view text);
 
-// The pages of /proc/PID/statm that the process shares with no file and no other process.
+// The resident pages of /proc/PID/statm that belong to no file and no shared memory.
 std::optional<std::uint64_t> parsePrivatePages(std::string_view text);
 
 // /proc/PID/io: what went to and came from the disks.

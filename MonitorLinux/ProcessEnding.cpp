@@ -4,6 +4,8 @@
 
 #include "Base/File.h"
 #include "MonitorCore/ProcessActionPolicy.h"
+#include "MonitorLinux/Folder.h"
+#include "MonitorLinux/ProcParsers.h"
 
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -17,6 +19,7 @@ namespace MonitorLinux
 
 using Base::KestError;
 using MonitorCore::ProcessKey;
+using MonitorCore::Result;
 
 namespace
 {
@@ -29,22 +32,25 @@ bool sendSignal(int process, int signal)
     return ::syscall(SYS_pidfd_send_signal, process, signal, nullptr, 0) == 0;
 }
 
-// A descriptor stays with the process that had the number when it was opened.
-struct Held {
-    ProcessKey key{};
-    Base::FileDescriptor process{};
-};
-
-std::vector<Held> hold(const std::vector<ProcessKey> &processes)
+std::unexpected<KestError> systemError()
 {
-    std::vector<Held> held;
-    for (const ProcessKey &key : processes) {
-        Base::FileDescriptor process{openProcess(key.pid)};
-        if (process.isOpen()) {
-            held.push_back({.key = key, .process = std::move(process)});
-        }
+    return std::unexpected(KestError::unavailable(std::generic_category().message(errno)));
+}
+
+// A descriptor stays with the process that had the number when it was opened; only then is
+// the start looked at, so that it is that process's.
+Result<void> endOne(const Folder &proc, const ProcessKey &key, int signal)
+{
+    const Base::FileDescriptor process{openProcess(key.pid)};
+    if (!process.isOpen()) {
+        return errno == ESRCH ? Result<void>{} : systemError();
     }
-    return held;
+    const std::string text = proc.text(std::to_string(key.pid) + "/stat");
+    const auto stat = parseProcessStat(text);
+    if (!stat || stat->start != key.start) {
+        return {};
+    }
+    return sendSignal(process.get(), signal) || errno == ESRCH ? Result<void>{} : systemError();
 }
 
 } // namespace
@@ -52,8 +58,6 @@ std::vector<Held> hold(const std::vector<ProcessKey> &processes)
 MonitorCore::Result<void> endProcesses(MonitorCore::Collector &collector,
                                        const std::vector<ProcessKey> &processes, Ending ending)
 {
-    // Held first and looked at then: what the sample says is true of what is held.
-    const auto held = hold(processes);
     const auto sample =
         collector.sample(MonitorCore::SampleScope::processes, Base::wallClock());
     const MonitorCore::ProcessActionPolicy policy{sample, ::getpid(), ::getuid()};
@@ -61,13 +65,10 @@ MonitorCore::Result<void> endProcesses(MonitorCore::Collector &collector,
         return std::unexpected(KestError::unavailable(std::string{Base::textOf(*refusal)}));
     }
     const int signal = ending == Ending::quit ? SIGTERM : SIGKILL;
-    for (const Held &one : held) {
-        if (policy.refusal(one.key)) {
-            continue; // it has gone: anything else would have refused the whole
-        }
-        if (!sendSignal(one.process.get(), signal) && errno != ESRCH) {
-            return std::unexpected(
-                KestError::unavailable(std::generic_category().message(errno)));
+    const Folder proc{"/proc"};
+    for (const ProcessKey &key : processes) {
+        if (!policy.refusal(key)) { // else it has gone, or is another user's
+            KEST_CHECK(endOne(proc, key, signal));
         }
     }
     return {};

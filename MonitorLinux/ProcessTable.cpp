@@ -24,9 +24,9 @@ constexpr std::size_t kStatBytes = 2048; // 52 numbers and a name, with room to 
 constexpr std::size_t kKernelNameBytes = 15;
 constexpr unsigned kPassesBetweenDetails = 32;
 constexpr unsigned kQuietPassesBetweenDetails = 128;
-constexpr unsigned kQuietPassesBetweenTraffic = 32;
-constexpr std::size_t kMostOpenFiles = 512; // the kernel holds some 5 kB for each
-constexpr double kStartSlack = 0.05;        // start times are whole clock ticks
+constexpr double kQuietSecondsBetweenTraffic = 40; // and up to as many more, to spread them
+constexpr std::size_t kMostOpenFiles = 512;        // the kernel holds some 5 kB for each
+constexpr double kStartSlack = 0.05;               // start times are whole clock ticks
 
 // "123/stat" without an allocation.
 class ProcessPath
@@ -167,7 +167,7 @@ bool ProcessTable::visit(std::int32_t pid, Known &known, double time)
     const double ticks = known.cpu.update(stat->cpuTicks, time).value_or(0);
     shown.cpu = 100 * ticks / m_ticksPerSecond;
     if (!stat->isKernelThread) {
-        readTraffic(*stat, isQuiet && !isDue(pid, kQuietPassesBetweenTraffic), time, known);
+        readTraffic(*stat, isQuiet, time, known);
     }
     shown.energy = energyScore(shown.cpu, shown.diskRead + shown.diskWrite);
     known.cpuTicks = stat->cpuTicks;
@@ -230,27 +230,28 @@ void ProcessTable::readMemory(const ProcessStat &stat, Known &known) const
     }
 }
 
-// A process that used no time of the processor moved no bytes, so of a quiet one the counters
-// are taken to stand still. What it moves in less than a clock tick shows some passes later.
+// A process that used no time of the processor and whose counters stood still when they were
+// last read is taken to move nothing, and asked again after a while. What it then moved in
+// less than a clock tick is a rate over that while, not a burst.
 void ProcessTable::readTraffic(const ProcessStat &stat, bool isQuiet, double time,
                                Known &known) const
 {
     if (known.isTrafficDenied) {
         return;
     }
-    std::optional<ProcessIo> io;
-    if (isQuiet && known.read.previous && known.written.previous) {
-        io = ProcessIo{.readBytes = known.read.previous->first,
-                       .writtenBytes = known.written.previous->first};
-    } else {
-        std::array<char, 512> buffer;
-        const ReadText read = m_proc.read(ProcessPath{stat.pid}.file("/io"), buffer);
-        known.isTrafficDenied = read.isDenied();
-        io = parseProcessIo(read.text);
+    const double patience = kQuietSecondsBetweenTraffic * (1 + (stat.pid % 16) / 16.0);
+    if (isQuiet && known.isTrafficStill && time - known.read.previous->second < patience) {
+        return;
     }
-    if (io) {
-        known.shown.diskRead = known.read.update(io->readBytes, time).value_or(0);
-        known.shown.diskWrite = known.written.update(io->writtenBytes, time).value_or(0);
+    std::array<char, 512> buffer;
+    const ReadText file = m_proc.read(ProcessPath{stat.pid}.file("/io"), buffer);
+    known.isTrafficDenied = file.isDenied();
+    if (const auto io = parseProcessIo(file.text)) {
+        const auto read = known.read.update(io->readBytes, time);
+        const auto written = known.written.update(io->writtenBytes, time);
+        known.shown.diskRead = read.value_or(0);
+        known.shown.diskWrite = written.value_or(0);
+        known.isTrafficStill = read == 0.0 && written == 0.0;
     }
 }
 

@@ -19,8 +19,10 @@ namespace MonitorLinux
 // (owner, executable, folder, cgroup) is read again on a change of the name, and in turns. Of
 // the first hundreds of processes that one file stays open, which halves its cost.
 //
-// Memory is what the process shares with nothing: resident less shared pages, swap left out.
-// Traffic of the network is not told apart by process on this system and stays 0.
+// Memory is what is resident and shared with no file and no shared memory, swap left out. Pages
+// that a process has shared with its parent since it was forked count for both: to tell them
+// apart costs a thousand times as much. Traffic of the network is not told apart by process on
+// this system and stays 0.
 class ProcessTable
 {
 public:
@@ -48,6 +50,7 @@ private:
         std::uint64_t faults{};
         std::uint64_t residentPages{};
         bool isTrafficDenied{};
+        bool isTrafficStill{}; // between the last two times that it was read
     };
 
     std::string_view readStat(std::int32_t pid, Known &known, std::span<char> buffer);

@@ -20,6 +20,11 @@ constexpr std::string_view kGraphicsChips[] = {"amdgpu", "nouveau", "radeon", "i
 constexpr std::string_view kProcessorZones[] = {"x86_pkg_temp", "cpu-thermal", "cpu_thermal",
                                                 "cpu0-thermal", "soc-thermal", "soc_thermal"};
 
+std::string below(std::string folder, std::string_view name)
+{
+    return folder.append("/").append(name);
+}
+
 std::string firstLine(std::string text)
 {
     text.resize(std::min(text.find('\n'), text.size()));
@@ -69,15 +74,17 @@ void readChip(const Folder &sys, const std::string &chip, Sensors &sensors)
 {
     const std::string kind = firstLine(sys.text(chip + "/name"));
     const bool isProcessor = std::ranges::count(kProcessorChips, kind) > 0;
-    const bool isGraphics =
-        std::ranges::count(kGraphicsChips, kind) > 0 && !isPoweredDown(sys, chip + "/device");
+    const bool isGraphics = std::ranges::count(kGraphicsChips, kind) > 0;
+    if (isGraphics && isPoweredDown(sys, chip + "/device")) {
+        return; // its fan would wake it too
+    }
     for (const std::string &file : sys.names(chip)) {
         constexpr std::string_view kEnding = "_input";
         const bool isTemperature = file.starts_with("temp") && (isProcessor || isGraphics);
         if (!file.ends_with(kEnding) || (!isTemperature && !file.starts_with("fan"))) {
             continue; // others are never read: some drivers wake a device for it
         }
-        const auto value = parseNumber(sys.text(chip + "/" + file));
+        const auto value = parseNumber(sys.text(below(chip, file)));
         if (!value) {
             continue; // the chip has no figure just now
         }
@@ -85,8 +92,8 @@ void readChip(const Folder &sys, const std::string &chip, Sensors &sensors)
             sensors.fan = std::max(sensors.fan.value_or(0), static_cast<double>(*value));
             continue;
         }
-        const std::string stem = chip + "/" + file.substr(0, file.size() - kEnding.size());
-        const std::string label = firstLine(sys.text(stem + "_label"));
+        const std::string stem = file.substr(0, file.size() - kEnding.size());
+        const std::string label = firstLine(sys.text(below(chip, stem + "_label")));
         keepBetter(isProcessor ? sensors.processor : sensors.graphics,
                    {.rank = rankOf(label),
                     .celsius = static_cast<double>(*value) / 1000,
@@ -100,7 +107,7 @@ std::optional<Temperature> readZones(const Folder &sys)
     std::optional<Temperature> best;
     const std::string folder = "class/thermal";
     for (const std::string &zone : sys.names(folder)) {
-        const std::string path = folder + "/" + zone;
+        const std::string path = below(folder, zone);
         const std::string type = firstLine(sys.text(path + "/type"));
         if (zone.starts_with("thermal_zone") && std::ranges::count(kProcessorZones, type) > 0) {
             if (const auto value = parseNumber(sys.text(path + "/temp"))) {
@@ -137,7 +144,7 @@ void readSensors(const Folder &sys, Findings &findings)
     const std::string folder = "class/hwmon";
     Sensors sensors;
     for (const std::string &chip : sys.names(folder)) {
-        readChip(sys, folder + "/" + chip, sensors);
+        readChip(sys, below(folder, chip), sensors);
     }
     const std::string source = "/sys/" + folder;
     findings[MetricID::cpuTemperature] =
@@ -154,7 +161,7 @@ void readGraphics(const Folder &sys, Findings &findings)
     std::optional<double> used;
     bool isAsleep = false;
     for (const std::string &card : sys.names(folder)) {
-        const std::string device = folder + "/" + card + "/device";
+        const std::string device = below(folder, card) + "/device";
         if (!isCard(card) || !sys.has((device + "/gpu_busy_percent").c_str())) {
             continue;
         }

@@ -44,7 +44,7 @@ std::size_t displayWidth(std::string_view cell)
     std::size_t width = 0;
     while (!cell.empty()) {
         const std::size_t escape = std::min(cell.find('\x1b'), cell.size());
-        width += Base::countCodePoints(cell.substr(0, escape));
+        width += Base::countCells(cell.substr(0, escape));
         cell.remove_prefix(escape);
         cell.remove_prefix(cell.empty() ? 0 : std::min(cell.find('m'), cell.size() - 1) + 1);
     }

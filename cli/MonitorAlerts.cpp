@@ -74,7 +74,7 @@ Result<void> runMonitorAlerts(const Session &session, double hours)
     preferences.alertsEnabled = true; // who asks for alerts wants them
     std::vector<AlertAnswer> answers;
     if (const auto file = historyFile(session); std::filesystem::exists(file)) {
-        KEST_TRY(auto store, MonitorHistoryStore::open(file));
+        KEST_TRY(auto store, MonitorHistoryStore::openToRead(file));
         const Base::Instant now = Base::wallClock();
         KEST_TRY(const auto minutes, minutesOf(store, now - Base::Seconds{3600 * hours}, now));
         MonitorCore::MonitorAlertRules rules;

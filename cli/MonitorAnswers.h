@@ -66,13 +66,17 @@ struct PointAnswer {
     double peak{};
     double coverage{};
     std::int64_t resolution{};
+    std::optional<std::vector<MonitorCore::HistoryCause>> causes{}; // of the highest point
 };
 consteval auto jsonFields(Of<PointAnswer>)
 {
     using R = PointAnswer;
-    return std::tuple{json::Field{"date", &R::date}, json::Field{"value", &R::value},
-                      json::Field{"peak", &R::peak}, json::Field{"coverage", &R::coverage},
-                      json::Field{"resolution", &R::resolution}};
+    return std::tuple{json::Field{"date", &R::date},
+                      json::Field{"value", &R::value},
+                      json::Field{"peak", &R::peak},
+                      json::Field{"coverage", &R::coverage},
+                      json::Field{"resolution", &R::resolution},
+                      json::Field{"causes", &R::causes}};
 }
 static_assert(json::coversAllMembers<PointAnswer>());
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Base/Text.h"
 #include "cli/MonitorAnswers.h"
 #include "cli/MonitorSampler.h"
 
 #include <CLI/CLI.hpp>
 
-#include <cstdio>
 #include <memory>
 
 namespace Cli
@@ -14,8 +14,22 @@ namespace Cli
 namespace
 {
 
+// CLI11's own range lets "nan" through.
+CLI::Validator numberFrom(double lowest, double highest)
+{
+    return {[=](const std::string &text) {
+                const auto number = Base::numberFrom<double>(text);
+                return number && *number >= lowest && *number <= highest
+                           ? std::string{}
+                           : fmt::format("{} is not within {} and {}", text, lowest, highest);
+            },
+            fmt::format("{} to {}", lowest, highest)};
+}
+
 constexpr double kOnceSeconds = 1;
 constexpr double kRecordSeconds = 10;
+constexpr double kMostHistoryHours = 31 * 24;
+constexpr double kMostAlertHours = 24; // minutes are kept for so long
 
 // Samples one after the other on standard output; each has an interval that its rates are of.
 Result<void> runSamples(const Session &session, const LiveArguments &args)
@@ -53,11 +67,12 @@ Result<void> runMonitor(const Session &session, const Arguments &args)
     return isForPrograms ? runSamples(session, live) : runMonitorView(live);
 }
 
-void addPace(CLI::App *command, const std::shared_ptr<Arguments> &args)
+// Gives the option for the number of samples.
+CLI::Option *addPace(CLI::App *command, const std::shared_ptr<Arguments> &args)
 {
     command->add_option("--interval", args->interval, "Seconds between two samples, 0.2 to 60")
-        ->check(CLI::Range(0.2, 60.0));
-    command->add_option("--count", args->count, "Ends after so many samples")
+        ->check(numberFrom(kShortestPace, kLongestPace));
+    return command->add_option("--count", args->count, "Ends after so many samples")
         ->check(CLI::PositiveNumber);
 }
 
@@ -84,7 +99,7 @@ void addHistory(CLI::App *monitor, Session &session, const std::shared_ptr<Argum
     CLI::Option *from = history->add_option("--from", series.from, "Not before this instant");
     history->add_option("--to", series.to, "Not after this instant, instead of now");
     history->add_option("--hours", series.hours, "So many hours, instead of 24")
-        ->check(CLI::Range(0.0, 31.0 * 24))
+        ->check(numberFrom(0, kMostHistoryHours))
         ->excludes(from);
     history->callback([=, &session] {
         session.command = [=, &session] { return runMonitorHistory(session, args->series); };
@@ -96,7 +111,7 @@ void addAlerts(CLI::App *monitor, Session &session, const std::shared_ptr<Argume
     CLI::App *alerts =
         monitor->add_subcommand("alerts", "Lists loads that lasted and memory that grew");
     alerts->add_option("--hours", args->alertHours, "In the last so many hours, 24 at most")
-        ->check(CLI::Range(0.0, 24.0));
+        ->check(numberFrom(0, kMostAlertHours));
     alerts->callback([=, &session] {
         session.command = [=, &session] { return runMonitorAlerts(session, args->alertHours); };
     });
@@ -109,10 +124,19 @@ void addMonitorCommands(CLI::App &program, Session &session)
     const auto args = std::make_shared<Arguments>();
     CLI::App *monitor = program.add_subcommand("monitor", "Shows what this machine is doing");
     monitor->require_subcommand(0, 1);
-    monitor->add_flag("--once", args->isOnce, "Prints one sample, taken over a second");
-    addPace(monitor, args);
+    CLI::Option *once =
+        monitor->add_flag("--once", args->isOnce, "Prints one sample, taken over a second");
+    CLI::Option *count = addPace(monitor, args);
+    once->excludes(count);
     monitor->callback([=, &session] {
-        if (monitor->get_subcommands().empty()) {
+        const bool isLive = monitor->get_subcommands().empty();
+        const bool hasOptions =
+            once->count() + count->count() + monitor->get_option("--interval")->count() > 0;
+        if (!isLive && hasOptions) {
+            throw CLI::ValidationError("monitor",
+                                       "Options stand behind the command they are of");
+        }
+        if (isLive) {
             session.command = [=, &session] { return runMonitor(session, *args); };
         }
     });

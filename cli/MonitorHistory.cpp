@@ -118,7 +118,8 @@ void drawChart(const Console &console, const std::vector<HistoryPoint> &points,
     const auto chart = brailleChart(columns, kChartRows);
     for (int row = 0; row < kChartRows; ++row) {
         const bool isLabelled = row == 0 || row == kChartRows / 2 || row == kChartRows - 1;
-        const double level = row == 0 ? limit : (row == kChartRows - 1 ? 0 : limit / 2);
+        const double below = row == kChartRows - 1 ? 0 : limit / 2;
+        const double level = row == 0 ? limit : below;
         console.line(fmt::format(
             "{} {}",
             console.styled(
@@ -141,6 +142,11 @@ void printRows(const Console &console, const std::vector<HistoryPoint> &points, 
     console.table(rows);
 }
 
+const HistoryPoint &highestOf(const std::vector<HistoryPoint> &points)
+{
+    return *std::ranges::max_element(points, {}, &HistoryPoint::peak);
+}
+
 // The mean, the peak, and who was highest then.
 Result<void> printSummary(const Console &console, MonitorHistoryStore &store, MetricID metric,
                           const std::vector<HistoryPoint> &points, bool isMachine)
@@ -151,31 +157,42 @@ Result<void> printSummary(const Console &console, MonitorHistoryStore &store, Me
         sum += point.value * point.coverage;
         covered += point.coverage;
     }
-    const auto &peak = *std::ranges::max_element(points, {}, &HistoryPoint::peak);
+    const HistoryPoint &peak = highestOf(points);
     const MetricUnit unit = unitOf(metric);
     console.line(
         fmt::format("Mean {}, peak {} at {}", amountText(covered > 0 ? sum / covered : 0, unit),
                     amountText(peak.peak, unit), localTime(Base::milliseconds1970(peak.date))));
     if (isMachine) {
         KEST_TRY(const auto causes, store.causes(metric, peak));
+        // The machine's percentages are of all cores, an application's of one.
+        const char *const of = unit == MetricUnit::percent ? " of one core" : "";
         for (const auto &cause : causes) {
-            console.line(fmt::format("  {:>10}  {}", amountText(cause.peak, unit),
+            console.line(fmt::format("  {:>10}{}  {}", amountText(cause.peak, unit), of,
                                      printable(cause.app)));
         }
     }
     return {};
 }
 
+// The highest point of the machine's series says who was highest then.
+Result<void> answerSeries(const Console &console, MonitorHistoryStore &store, MetricID metric,
+                          const std::vector<HistoryPoint> &points, bool isMachine)
+{
+    KEST_TRY(auto answers, answersOf(points));
+    if (isMachine && !points.empty()) {
+        const HistoryPoint &highest = highestOf(points);
+        KEST_TRY(answers[static_cast<std::size_t>(&highest - points.data())].causes,
+                 store.causes(metric, highest));
+    }
+    return console.answer(answers, [] {});
+}
+
 Result<void> printSeries(const Console &console, MonitorHistoryStore &store,
                          const SeriesArguments &args, MetricID metric, const Span &span)
 {
     KEST_TRY(const auto points, store.history(args.app, metric, span.from, span.to));
-    if (const auto notice = store.takeNotice()) {
-        std::fprintf(stderr, "kest: %s\n", notice->c_str());
-    }
-    KEST_TRY(const auto answers, answersOf(points));
     if (console.isJson) {
-        return console.answer(answers, [] {});
+        return answerSeries(console, store, metric, points, args.app.empty());
     }
     if (points.empty()) {
         console.line("Nothing is recorded of this; kest monitor record records.");
@@ -204,7 +221,7 @@ Result<void> runMonitorHistory(const Session &session, const SeriesArguments &ar
             session.console.line("Nothing is recorded yet; kest monitor record records.");
         });
     }
-    KEST_TRY(auto store, MonitorHistoryStore::open(file));
+    KEST_TRY(auto store, MonitorHistoryStore::openToRead(file));
     return printSeries(session.console, store, args, metric, span);
 }
 

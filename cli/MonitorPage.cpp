@@ -22,7 +22,7 @@ using MonitorCore::MetricState;
 using MonitorCore::MetricUnit;
 using Ink = Terminal::Ink;
 
-constexpr std::size_t kPastKept = 400; // wider is no terminal's sparkline
+constexpr std::size_t kPastKept = 1'000; // a wider sparkline begins further right
 constexpr int kMeterRow = 2;
 constexpr int kExtrasRow = kMeterRow + 4;
 constexpr int kHeadRow = kExtrasRow + 2;
@@ -32,8 +32,9 @@ constexpr int kValueCells = 26;
 constexpr int kFigureCells = 11;
 constexpr int kNarrow = 64;            // below it only load and memory are shown
 constexpr double kLeastRate = 100'000; // a quiet line must not look like a busy one
+// As wide as the usual terminal.
 constexpr const char *kKeys =
-    "↑↓ select · c m d e n sort · tab processes · / find · k quit it · + - pace · q leave";
+    "q leave · ↑↓ select · k quit it · c m d e n sort · tab processes · / find · + -";
 
 bool has(const MetricReading &reading)
 {
@@ -83,7 +84,7 @@ void MonitorPage::take(MonitorCore::MonitorSnapshot snapshot)
 
 void MonitorPage::list()
 {
-    m_rows = usageRows(m_snapshot, kind, order, filter);
+    m_rows = usageRows(m_snapshot, m_choice.kind, m_choice.order, m_choice.filter);
     const auto same = std::ranges::find(m_rows, m_selectedId, &UsageRow::id);
     if (same != m_rows.end()) {
         m_selected = static_cast<std::size_t>(same - m_rows.begin());
@@ -120,7 +121,8 @@ const MetricReading &MonitorPage::reading(MetricID metric) const
 
 double MonitorPage::valueOf(MetricID metric) const
 {
-    return has(reading(metric)) ? *reading(metric).value : 0;
+    const MetricReading &known = reading(metric);
+    return known.state == MetricState::available ? known.value.value_or(0) : 0;
 }
 
 double MonitorPage::highest(const std::vector<double> &past) const
@@ -141,23 +143,26 @@ std::vector<MonitorPage::Meter> MonitorPage::meters() const
     const double total = valueOf(MetricID::memoryTotal);
     const double disk = valueOf(MetricID::diskTotal);
     const double diskUsed = disk - valueOf(MetricID::diskFree);
+    const auto share = [&](MetricID metric, double part, double whole) {
+        return has(reading(metric)) && whole > 0 ? std::optional{part / whole} : std::nullopt;
+    };
     std::string memory = readingText(reading(MetricID::memoryUsed));
     if (total > 0) {
         memory += " of " + amountText(total, MetricUnit::bytes);
     }
     return {
         {.title = "Processor",
-         .share = valueOf(MetricID::cpu) / 100,
+         .share = share(MetricID::cpu, valueOf(MetricID::cpu), 100),
          .text = readingText(reading(MetricID::cpu)),
          .past = &m_cpu,
          .most = 100},
         {.title = "Memory",
-         .share = total > 0 ? valueOf(MetricID::memoryUsed) / total : 0,
+         .share = share(MetricID::memoryUsed, valueOf(MetricID::memoryUsed), total),
          .text = std::move(memory),
          .past = &m_memory,
          .most = total},
         {.title = "Disk",
-         .share = disk > 0 ? diskUsed / disk : 0,
+         .share = share(MetricID::diskFree, diskUsed, disk),
          .text = pairText(MetricID::diskRead, MetricID::diskWrite),
          .past = &m_disk,
          .most = highest(m_disk)},
@@ -203,7 +208,8 @@ std::string MonitorPage::summary() const
     const std::int64_t hidden = m_snapshot.restrictedProcessCount;
     return fmt::format("up {} · {} applications, {} processes{} · every {} s",
                        spanText(m_snapshot.uptime), m_snapshot.apps.size(), processes,
-                       hidden > 0 ? fmt::format(" ({} restricted)", hidden) : "", interval);
+                       hidden > 0 ? fmt::format(" ({} restricted)", hidden) : "",
+                       m_choice.interval);
 }
 
 void MonitorPage::drawMeter(const Terminal &terminal, int row, const Meter &meter) const
@@ -225,12 +231,12 @@ void MonitorPage::drawMeter(const Terminal &terminal, int row, const Meter &mete
 std::string MonitorPage::head(int width) const
 {
     const auto mark = [&](RowOrder column, std::string_view title) {
-        return fmt::format("{}{}", order == column ? "▾" : "", title);
+        return fmt::format("{}{}", m_choice.order == column ? "▾" : "", title);
     };
     std::string name =
-        mark(RowOrder::name, kind == RowKind::application ? "Application" : "Process");
-    if (!filter.empty()) {
-        name += fmt::format(" \"{}\"", filter);
+        mark(RowOrder::name, m_choice.kind == RowKind::application ? "Application" : "Process");
+    if (!m_choice.filter.empty()) {
+        name += fmt::format(" \"{}\"", m_choice.filter);
     }
     std::string text =
         fitted(name, nameCells(width)) +
@@ -269,7 +275,7 @@ void MonitorPage::drawList(const Terminal &terminal) const
 void MonitorPage::drawFoot(const Terminal &terminal) const
 {
     const int row = terminal.height() - 1;
-    if (question) {
+    if (const auto &question = m_choice.question) {
         const std::size_t count = question->processes.size();
         terminal.write(
             row, 0,
@@ -277,8 +283,8 @@ void MonitorPage::drawFoot(const Terminal &terminal) const
                         printable(question->name),
                         count > 1 ? fmt::format(" and its {} processes", count) : ""),
             Ink::warning);
-    } else if (!message.empty()) {
-        terminal.write(row, 0, message, Ink::warning);
+    } else if (!m_choice.message.empty()) {
+        terminal.write(row, 0, m_choice.message, Ink::warning);
     } else {
         terminal.write(row, 0, kKeys, Ink::faint);
     }

@@ -6,7 +6,6 @@
 #include "cli/MonitorRows.h"
 #include "cli/Terminal.h"
 
-#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,17 +13,22 @@
 namespace Cli
 {
 
-// The live monitor's page: what it shows, and how that is drawn. The selection stays with what
-// was selected while the list moves under it.
-class MonitorPage
-{
-public:
+// What the user chose to see, and what the page says and asks.
+struct MonitorChoice {
     double interval = 2; // seconds
     RowKind kind{};
     RowOrder order{};
     std::string filter{};
     std::string message{};
     std::optional<UsageRow> question{}; // whether to quit this
+};
+
+// The live monitor's page: what it shows, and how that is drawn. The selection stays with what
+// was selected while the list moves under it.
+class MonitorPage
+{
+public:
+    MonitorChoice &choice() { return m_choice; }
 
     void take(MonitorCore::MonitorSnapshot snapshot);
     // Makes the list anew after a change of what it shows.
@@ -56,6 +60,7 @@ private:
     void drawFoot(const Terminal &terminal) const;
     std::string head(int width) const;
 
+    MonitorChoice m_choice{};
     MonitorCore::MonitorSnapshot m_snapshot{};
     std::vector<UsageRow> m_rows{};
     std::string m_selectedId{};

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "Base/FileLock.h"
+#include "MonitorCore/CounterRate.h"
 #include "MonitorCore/MonitorAlertRules.h"
 #include "MonitorCore/MonitorHistoryStore.h"
 #include "MonitorCore/MonitorServiceIdentity.h"
@@ -46,7 +46,8 @@ public:
                 m_lastFailure = recorded.error().message;
                 tell(m_lastFailure);
             }
-        } else if (snapshot.interval > 0) {
+        } else if (snapshot.interval > 0 &&
+                   snapshot.interval <= MonitorCore::kLongestGapSeconds) {
             m_lastFailure.clear();
             ++m_samples;
         }
@@ -109,14 +110,9 @@ void runUntilStopped(const StopSignals &signals, const LiveArguments &args, Reco
 Result<void> runMonitorRecord(const Session &session, const LiveArguments &args)
 {
     const StopSignals signals;
-    const auto folder = session.databaseFile().parent_path();
     const auto file = historyFile(session);
-    KEST_CHECK(Base::makePrivateDirectory(file.parent_path()));
-    KEST_TRY([[maybe_unused]] const auto lock,
-             Base::FileLock::take(folder / MonitorCore::kRecorderLockPath,
-                                  "The monitor's recorder", std::chrono::milliseconds{0}));
-    KEST_TRY(auto preferences, monitorPreferences(session));
     KEST_TRY(auto store, MonitorHistoryStore::open(file));
+    KEST_TRY(auto preferences, monitorPreferences(session));
     const Console &console = session.console;
     if (!console.isJson) {
         console.line(fmt::format("Recording every {} s to {}; Ctrl+C stops it.", args.interval,

@@ -47,6 +47,9 @@ MonitorCore::MonitorSnapshot MonitorSampler::sample()
 
 Result<MonitorCore::MonitorPreferences> monitorPreferences(const Session &session)
 {
+    if (!std::filesystem::exists(session.databaseFile())) { // to look must not create it
+        return MonitorCore::MonitorPreferences{};
+    }
     KEST_TRY(const auto store, session.openStore());
     const auto &settings = store.state().settings;
     const auto found = settings.find(kPreferencesKey);

@@ -46,6 +46,10 @@ monitorPreferences(const Session &session);
 
 std::filesystem::path historyFile(const Session &session);
 
+// Seconds between two samples.
+inline constexpr double kShortestPace = 0.2;
+inline constexpr double kLongestPace = 60;
+
 // The commands behind "monitor".
 struct LiveArguments {
     double interval = 2;

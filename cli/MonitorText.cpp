@@ -125,9 +125,10 @@ std::string readingText(const MonitorCore::MetricReading &reading)
 std::string spanText(double seconds)
 {
     constexpr double kMost = 1e12; // a number from elsewhere may fit no integer
+    constexpr std::int64_t kDay = 1'440;
     const auto minutes = static_cast<std::int64_t>(std::clamp(seconds, 0.0, kMost) / 60);
-    if (minutes >= 24 * 60) {
-        return fmt::format("{} d {} h", minutes / (24 * 60), minutes / 60 % 24);
+    if (minutes >= kDay) {
+        return fmt::format("{} d {} h", minutes / kDay, minutes / 60 % 24);
     }
     return minutes >= 60 ? fmt::format("{} h {:02} min", minutes / 60, minutes % 60)
                          : fmt::format("{} min", minutes);
@@ -163,21 +164,12 @@ std::string sparkline(std::span<const double> values, double most, int cells)
 std::string fitted(std::string_view text, int cells)
 {
     const auto room = static_cast<std::size_t>(std::max(cells, 0));
-    const std::size_t length = Base::countCodePoints(text);
-    if (length <= room) {
-        return std::string{text} + std::string(room - length, ' ');
+    std::string shown{text};
+    if (Base::countCells(text) > room) {
+        shown = Base::firstCells(text, room == 0 ? 0 : room - 1);
+        shown += room == 0 ? "" : "…";
     }
-    std::string cut;
-    std::size_t taken = 0;
-    for (const char byte : text) {
-        const bool continues = (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
-        taken += continues ? 0 : 1;
-        if (taken >= room) {
-            break;
-        }
-        cut += byte;
-    }
-    return room == 0 ? "" : cut + "…";
+    return shown.append(room - Base::countCells(shown), ' ');
 }
 
 } // namespace Cli

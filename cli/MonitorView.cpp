@@ -18,32 +18,30 @@ namespace
 {
 
 constexpr double kFirstInterval = 0.5;
-constexpr double kShortestInterval = 0.5;
-constexpr double kLongestInterval = 60;
 constexpr std::size_t kLongestFilter = 40;
 
 class MonitorView
 {
 public:
-    explicit MonitorView(double interval) { m_page.interval = interval; }
+    explicit MonitorView(double interval) { m_page.choice().interval = interval; }
 
     void run()
     {
         const Terminal terminal;
         // Rates begin with the second sample, which nobody likes to wait for.
         m_page.take(m_sampler.sample());
-        double due = now() + std::min(m_page.interval, kFirstInterval);
+        double due = now() + std::min(m_page.choice().interval, kFirstInterval);
         while (!m_isLeaving) {
             if (now() >= due) {
                 m_page.take(m_sampler.sample());
-                due = now() + m_page.interval;
+                due = now() + m_page.choice().interval;
             }
             m_page.draw(terminal);
-            const double wait = std::clamp(due - now(), 0.0, kLongestInterval);
+            const double wait = std::clamp(due - now(), 0.0, kLongestPace);
             const int milliseconds = static_cast<int>(std::ceil(wait * 1000));
             if (const auto key = terminal.waitForKey(milliseconds)) {
                 press(terminal, *key);
-                due = std::min(due, now() + m_page.interval);
+                due = std::min(due, now() + m_page.choice().interval);
             }
         }
     }
@@ -53,8 +51,8 @@ private:
 
     void press(const Terminal &terminal, int key)
     {
-        m_page.message.clear();
-        if (const auto asked = std::exchange(m_page.question, std::nullopt)) {
+        m_page.choice().message.clear();
+        if (const auto asked = std::exchange(m_page.choice().question, std::nullopt)) {
             if (key == 'y' || key == 'Y') {
                 quit(*asked);
             }
@@ -76,10 +74,10 @@ private:
         const auto *const order =
             std::ranges::find(kOrders, key, &std::pair<int, RowOrder>::first);
         if (order != std::end(kOrders)) {
-            m_page.order = order->second;
+            m_page.choice().order = order->second;
         } else if (key == '\t') {
-            const bool isApps = m_page.kind == RowKind::application;
-            m_page.kind = isApps ? RowKind::process : RowKind::application;
+            const bool isApps = m_page.choice().kind == RowKind::application;
+            m_page.choice().kind = isApps ? RowKind::process : RowKind::application;
         } else {
             return false;
         }
@@ -112,18 +110,23 @@ private:
     {
         switch (key) {
         case '/':
-            m_page.filter = terminal.readText("Find: ", kLongestFilter).value_or(std::string{});
+            m_page.choice().filter =
+                terminal.readText("Find: ", kLongestFilter).value_or(std::string{});
             return m_page.list();
         case '+':
-            m_page.interval = std::max(kShortestInterval, m_page.interval / 2);
+            m_page.choice().interval = std::max(kShortestPace, m_page.choice().interval / 2);
             return;
         case '-':
-            m_page.interval = std::min(kLongestInterval, m_page.interval * 2);
+            m_page.choice().interval = std::min(kLongestPace, m_page.choice().interval * 2);
             return;
         case 'k':
-            m_page.question = m_page.selected();
+            m_page.choice().question = m_page.selected();
+            if (!m_page.choice().question) {
+                m_page.choice().message = "Select something with ↑ and ↓ first.";
+            }
             return;
         case 'q':
+        case Terminal::kGone:
             m_isLeaving = true;
             return;
         default:
@@ -135,7 +138,7 @@ private:
     {
         const auto done = MonitorLinux::endProcesses(m_sampler.collector(), row.processes,
                                                      MonitorLinux::Ending::quit);
-        m_page.message =
+        m_page.choice().message =
             done ? fmt::format("Asked {} to quit.", printable(row.name)) : done.error().message;
     }
 

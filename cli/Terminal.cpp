@@ -2,14 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Terminal.h"
 
+#include "Base/Text.h"
 #include "cli/Console.h"
 
 #include <curses.h>
 
+#include <poll.h>
 #include <term.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <climits>
 #include <cstdlib>
 #include <cwchar>
 
@@ -22,12 +26,31 @@ namespace
 constexpr short kAccentPair = 1;
 constexpr short kWarningPair = 2;
 
+// What stands for the drawing characters where the language has none.
+constexpr std::pair<char32_t, char> kPlainer[] = {
+    {U'━', '#'}, {U'─', '-'}, {U'▁', '_'}, {U'▂', '_'}, {U'▃', '-'}, {U'▄', '-'},
+    {U'▅', '='}, {U'▆', '='}, {U'▇', '#'}, {U'█', '#'}, {U'▾', 'v'}, {U'▏', '|'},
+    {U'·', '-'}, {U'…', '.'}, {U'↑', '^'}, {U'↓', 'v'}};
+
+wchar_t shown(char32_t letter)
+{
+    const auto wanted = static_cast<wchar_t>(letter); // both are code points on this platform
+    std::array<char, MB_LEN_MAX> bytes{};
+    std::mbstate_t state{};
+    if (std::wcrtomb(bytes.data(), wanted, &state) != static_cast<std::size_t>(-1)) {
+        return wanted;
+    }
+    const auto *const plainer =
+        std::ranges::find(kPlainer, letter, &std::pair<char32_t, char>::first);
+    return plainer == std::end(kPlainer) ? L'?' : static_cast<wchar_t>(plainer->second);
+}
+
 std::wstring wide(std::string_view text)
 {
-    std::wstring out(text.size(), L'\0');
-    const std::string copy{text};
-    const std::size_t size = std::mbstowcs(out.data(), copy.c_str(), out.size());
-    out.resize(size == static_cast<std::size_t>(-1) ? 0 : size);
+    std::wstring out;
+    for (const char32_t letter : Base::codePoints(text)) {
+        out += shown(letter);
+    }
     return out;
 }
 
@@ -53,6 +76,13 @@ attr_t attributesOf(Terminal::Ink ink)
         break;
     }
     return A_NORMAL;
+}
+
+// Whether the terminal was closed; then it never waits for a key again.
+bool isGone()
+{
+    pollfd input{.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
+    return ::poll(&input, 1, 0) > 0 && (input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
 }
 
 int ownKey(int key)
@@ -136,6 +166,9 @@ std::optional<int> Terminal::waitForKey(int milliseconds) const
 {
     timeout(milliseconds);
     const int key = getch();
+    if (key == ERR && isGone()) {
+        return kGone;
+    }
     return key == ERR || key == KEY_RESIZE ? std::nullopt : std::optional{ownKey(key)};
 }
 
@@ -167,7 +200,7 @@ std::optional<std::string> Terminal::readAnswer(std::string_view question, std::
         if (*key == '\n') {
             return answer;
         }
-        if (*key == kEscape) {
+        if (*key == kEscape || *key == kGone) {
             return std::nullopt;
         }
         const bool isErase = *key == KEY_BACKSPACE || *key == 127 || *key == '\b';

@@ -21,6 +21,7 @@ public:
     static constexpr int kDown = kUp + 1;
     static constexpr int kPageUp = kUp + 2;
     static constexpr int kPageDown = kUp + 3;
+    static constexpr int kGone = kUp + 4; // the terminal itself was closed
     static constexpr int kEscape = 27;
 
     // Whether this kind of terminal is known; making one of another kind ends the program.

@@ -164,6 +164,7 @@ private:
         case 't':
             return askTarget(terminal);
         case 'q':
+        case Terminal::kGone:
             m_isLeaving = true;
             return;
         default:

@@ -15,6 +15,7 @@ using MonitorCore::MetricID;
 using MonitorCore::MonitorHistoryStore;
 using testing::HasSubstr;
 using testing::MatchesRegex;
+using testing::StartsWith;
 
 namespace
 {
@@ -46,6 +47,8 @@ public:
         }
     }
 
+    bool isAlive() const { return waitpid(m_pid, nullptr, WNOHANG) == 0; }
+
     // The signal that ended it.
     int waitForEnd()
     {
@@ -58,6 +61,12 @@ public:
 private:
     pid_t m_pid = -1;
 };
+
+double numberAfter(const std::string &text, const std::string &key)
+{
+    const std::size_t at = text.find(key);
+    return at == std::string::npos ? -1 : std::atof(text.c_str() + at + key.size());
+}
 
 // A history in which an application was busy in each of the last minutes until now.
 void makeBusyHistory(const std::filesystem::path &folder, int minutes, double cpu)
@@ -83,9 +92,9 @@ TEST(MonitorCommand, PrintsOneSampleWithRates)
     const auto outcome = runKest(folder.path(), {"monitor", "--once", "--json"});
     ASSERT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_THAT(outcome.out, HasSubstr(R"("cpu":{"value":)"));
-    EXPECT_THAT(
-        outcome.out,
-        MatchesRegex(R"(\{"timestamp":"[0-9T:.-]+Z","uptime":[0-9.]+,"interval":1\.[^!]*)"));
+    EXPECT_THAT(outcome.out, StartsWith(R"({"timestamp":")"));
+    EXPECT_GE(numberAfter(outcome.out, R"("interval":)"), 1);
+    EXPECT_GT(numberAfter(outcome.out, R"("uptime":)"), 0);
     EXPECT_THAT(outcome.out, HasSubstr(R"("name":"kest")")) << "it is a process itself";
     EXPECT_FALSE(std::filesystem::exists(folder.database())) << "to look makes nothing";
 }
@@ -98,12 +107,12 @@ TEST(MonitorCommand, RecordsAHistoryAndLetsNoSecondRecorderIn)
 
     const pid_t first = startKest(folder.path(), {"monitor", "record", "--interval", "0.2"});
     std::string points = "[]\n";
-    while (points == "[]\n") {
+    for (int tries = 0; points == "[]\n" && tries < 600; ++tries) {
         usleep(50'000);
         points = runKest(folder.path(), {"monitor", "history", "cpu", "--json"}).out;
     }
     EXPECT_THAT(points,
-                MatchesRegex(R"(\[\{"date":"[^"]+:00Z","value":[^\n]*"resolution":60\}\])"
+                MatchesRegex(R"(\[\{"date":"[^"]+:00Z","value":[^\n]*"resolution":60[^\n]*\}\])"
                              "\n"));
     const auto second = runKest(folder.path(), {"monitor", "record", "--count", "1"});
     EXPECT_EQ(second.status, 1);
@@ -150,7 +159,15 @@ TEST(MonitorCommand, RefusesWhatItDoesNotKnow)
     EXPECT_THAT(metric.err, HasSubstr("choose one of cpu, cpuUser"));
     EXPECT_EQ(runKest(folder.path(), {"monitor", "history", "cpu", "--from", "noon"}).status,
               1);
-    EXPECT_EQ(runKest(folder.path(), {"monitor", "--interval", "0"}).status, 2);
+    using Words = std::vector<std::string>;
+    for (const Words &words :
+         {Words{"--interval", "0"}, Words{"record", "--interval", "nan"},
+          Words{"history", "cpu", "--hours", "nan"}, Words{"--once", "--count", "2"},
+          Words{"--count", "2", "record"}}) {
+        Words arguments{"monitor"};
+        arguments.insert(arguments.end(), words.begin(), words.end());
+        EXPECT_EQ(runKest(folder.path(), arguments).status, 2) << words.front();
+    }
     EXPECT_THAT(runKest(folder.path(), {"monitor"}).err, HasSubstr("kest monitor --once"));
 }
 
@@ -166,9 +183,13 @@ TEST(MonitorOnATerminal, QuitsTheProcessThatWasChosenAndAgreedTo)
     ASSERT_TRUE(monitor.shows("kest-sleeper-b"));
     monitor.type("n\x1bOBk");
     ASSERT_TRUE(monitor.shows("Quit kest-sleeper-a?"));
+    monitor.forget();
     monitor.type("n");
+    ASSERT_TRUE(monitor.shows("select")); // the keys stand in the place of the question again
+    EXPECT_TRUE(sleeper.isAlive());
     monitor.type("ky");
     EXPECT_EQ(sleeper.waitForEnd(), SIGTERM);
+    EXPECT_TRUE(other.isAlive());
     monitor.type("q");
     EXPECT_EQ(monitor.wait(), 0);
 }

@@ -48,6 +48,9 @@ public:
                   static_cast<ssize_t>(keys.size()));
     }
 
+    // What was shown so far no longer counts.
+    void forget() { m_screen.clear(); }
+
     // Reads what is printed until the text has come; false when it has not in half a minute. A
     // screen prints only what changes, so this is for what is new on it.
     bool shows(std::string_view text)

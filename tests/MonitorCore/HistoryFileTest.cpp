@@ -39,6 +39,9 @@ TEST(HistoryFile, IsPrivateWithItsFolders)
 {
     const TemporaryFolder folder;
     const fs::path file = folder.path() / "a" / "Monitor" / "history.sqlite";
+    ASSERT_TRUE(Base::makePrivateDirectory(file.parent_path()));
+    write(file, "");
+    fs::permissions(file, fs::perms::all); // as an old copy may have been put back
     auto store = MonitorHistoryStore::open(file);
     ASSERT_TRUE(store) << store.error().message;
     ASSERT_TRUE(store->record(snapshotAt(60, 1, {{MetricID::cpu, 1}})));
@@ -72,6 +75,70 @@ TEST(HistoryFile, ThatIsNoHistoryIsSetAsideWhole)
         EXPECT_TRUE(store->record(snapshotAt(60, 1, {{MetricID::cpu, 1}})));
         EXPECT_THAT(integrity(file), ElementsAre("ok"));
     }
+}
+
+// A database of somebody else's, its latest change still in its log.
+TEST(HistoryFile, ThatIsAnotherDatabaseKeepsItsLog)
+{
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "history.sqlite";
+    const fs::path log = fs::path{file} += "-wal";
+    RawFile::execute(file, "PRAGMA journal_mode=WAL; CREATE TABLE recipes(name TEXT)");
+    auto writer = Base::Database::open(file, "").value();
+    writer.leaveLog();
+    ASSERT_TRUE(writer.run("INSERT INTO recipes VALUES('soup')"));
+    const std::string bytes = RawFile::bytes(file);
+    const std::string logBytes = RawFile::bytes(log);
+    ASSERT_FALSE(logBytes.empty());
+    {
+        const auto closed = std::move(writer);
+    }
+    ASSERT_FALSE(MonitorHistoryStore::openToRead(file));
+    EXPECT_EQ(RawFile::bytes(file), bytes);
+    EXPECT_EQ(RawFile::bytes(log), logBytes);
+    ASSERT_TRUE(MonitorHistoryStore::open(file));
+    EXPECT_THAT(RawFile::query(folder.path() / "history.set-aside-1.sqlite",
+                               "SELECT name FROM recipes"),
+                ElementsAre("soup"));
+}
+
+// Only who holds the recorder's lock may move the file, and then only one can write to it.
+TEST(HistoryFile, IsNotTouchedByThoseWhoOnlyRead)
+{
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "history.sqlite";
+    write(file, "my diary");
+    const auto foreign = MonitorHistoryStore::openToRead(file);
+    ASSERT_FALSE(foreign);
+    EXPECT_THAT(foreign.error().message, StartsWith("Monitor history: The file is damaged or"));
+    EXPECT_EQ(RawFile::bytes(file), "my diary");
+
+    auto recorder = MonitorHistoryStore::open(file);
+    ASSERT_TRUE(recorder) << recorder.error().message;
+    const auto second = MonitorHistoryStore::open(file);
+    ASSERT_FALSE(second);
+    EXPECT_THAT(second.error().message, StartsWith("The monitor's recorder is in use by"));
+    ASSERT_TRUE(recorder->record(snapshotAt(60, 1, {{MetricID::cpu, 1}})));
+    auto reader = MonitorHistoryStore::openToRead(file);
+    ASSERT_TRUE(reader) << reader.error().message;
+    EXPECT_TRUE(reader->range().value());
+}
+
+TEST(HistoryFile, ThatIsTakenAwayIsBegunAnew)
+{
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "history.sqlite";
+    auto store = MonitorHistoryStore::open(file);
+    ASSERT_TRUE(store);
+    ASSERT_TRUE(store->record(snapshotAt(60, 1, {{MetricID::cpu, 1}})));
+    for (const char *ending : {"", "-wal", "-shm"}) {
+        fs::rename(fs::path{file} += ending, fs::path{folder.path() / "away"} += ending);
+    }
+    ASSERT_TRUE(store->record(snapshotAt(120, 1, {{MetricID::cpu, 1}})));
+    EXPECT_THAT(store->takeNotice().value_or(""), HasSubstr("taken away"));
+    EXPECT_THAT(RawFile::query(file, "SELECT t FROM samples"), ElementsAre("60"));
+    EXPECT_THAT(RawFile::query(folder.path() / "away", "SELECT t FROM samples"),
+                ElementsAre("0"));
 }
 
 // Damage deep inside shows only when a page is read; then too nothing is deleted.

@@ -158,9 +158,13 @@ TEST(CollectorOnALaptop, DoesNotWakeAGraphicsCard)
     Machine machine;
     makeLaptop(machine);
     machine.write("sys/class/drm/card0/device/power/runtime_status", "suspended\n");
+    machine.write("sys/class/hwmon/hwmon7/name", "amdgpu\n");
+    machine.write("sys/class/hwmon/hwmon7/device/power/runtime_status", "suspended\n");
+    machine.write("sys/class/hwmon/hwmon7/fan1_input", "9000\n"); // to read it wakes the card
     auto findings = DeviceReader{machine.root() + "/sys"}.read(1).findings;
     EXPECT_EQ(findings[MetricID::gpu].value, 0);
     EXPECT_EQ(findings[MetricID::gpu].detail, "Powered down");
+    EXPECT_NE(findings[MetricID::fanRPM].value, 9000);
 }
 
 TEST(CollectorOnALaptop, SaysWhatItMayNotRead)

@@ -51,6 +51,9 @@ TEST(Texts, FitTheirCells)
     EXPECT_EQ(fitted("Ärger", 5), "Ärger");
     EXPECT_EQ(fitted("Ärger", 3), "Är…");
     EXPECT_EQ(fitted("Ärger", 0), "");
+    EXPECT_EQ(fitted("計算機", 7), "計算機 ");
+    EXPECT_EQ(fitted("計算機", 4), "計… ");
+    EXPECT_EQ(fitted("e\u0301te\u0301", 4), "e\u0301te\u0301 ");
     EXPECT_EQ(barText(0.5, 4), "━━──");
     EXPECT_EQ(barText(7, 2), "━━");
     EXPECT_EQ(barText(std::numeric_limits<double>::quiet_NaN(), 2), "──");
