@@ -71,7 +71,7 @@ struct HistoryRange {
     bool operator==(const HistoryRange &) const = default;
 };
 
-// How large the history may grow: a month in which a score of applications is busy at a time.
+// How large the history may grow: a month in which a dozen applications are busy all the time.
 inline constexpr std::int64_t kHistoryByteLimit = 67'108'864;
 // The owner maintains the history when it opens it for recording and then this often: a roll-up
 // reads every older row, so doing it each quarter of an hour would cost more than it saves.
@@ -95,6 +95,8 @@ public:
     [[nodiscard]] static Result<MonitorHistoryStore>
     openToRead(const std::filesystem::path &url);
 
+    MonitorHistoryStore(const MonitorHistoryStore &) = delete;
+    MonitorHistoryStore &operator=(const MonitorHistoryStore &) = delete;
     MonitorHistoryStore(MonitorHistoryStore &&) = default;
     MonitorHistoryStore &operator=(MonitorHistoryStore &&) = delete; // wrong order of closing
     ~MonitorHistoryStore() = default;

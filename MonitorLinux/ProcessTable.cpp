@@ -240,7 +240,8 @@ void ProcessTable::readTraffic(const ProcessStat &stat, bool isQuiet, double tim
         return;
     }
     const double patience = kQuietSecondsBetweenTraffic * (1 + (stat.pid % 16) / 16.0);
-    if (isQuiet && known.isTrafficStill && time - known.read.previous->second < patience) {
+    const auto &last = known.read.previous;
+    if (isQuiet && known.isTrafficStill && last && time - last->second < patience) {
         return;
     }
     std::array<char, 512> buffer;

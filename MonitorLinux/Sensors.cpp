@@ -4,6 +4,8 @@
 
 #include "MonitorLinux/ProcParsers.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <array>
 #include <tuple>
@@ -94,10 +96,11 @@ void readChip(const Folder &sys, const std::string &chip, Sensors &sensors)
         }
         const std::string stem = file.substr(0, file.size() - kEnding.size());
         const std::string label = firstLine(sys.text(below(chip, stem + "_label")));
+        const std::string name = label.empty() ? kind : fmt::format("{} {}", kind, label);
         keepBetter(isProcessor ? sensors.processor : sensors.graphics,
                    {.rank = rankOf(label),
                     .celsius = static_cast<double>(*value) / 1000,
-                    .label = asUtf8(label.empty() ? kind : kind + " " + label)});
+                    .label = asUtf8(name)});
     }
 }
 

@@ -14,8 +14,8 @@ namespace
 
 constexpr const char *kSchema =
     "PRAGMA auto_vacuum=INCREMENTAL; PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL; "
-    "PRAGMA journal_size_limit=8388608; PRAGMA cache_size=-8192; CREATE TABLE IF NOT EXISTS samples(t INTEGER NOT "
-    "NULL,res INTEGER NOT NULL,app TEXT NOT NULL,metric TEXT NOT NULL,total REAL NOT "
+    "PRAGMA journal_size_limit=8388608; PRAGMA cache_size=-8192; CREATE TABLE IF NOT EXISTS "
+    "samples(t INTEGER NOT NULL,res INTEGER NOT NULL,app TEXT NOT NULL,metric TEXT NOT NULL,total REAL NOT "
     "NULL,weight REAL NOT NULL,peak REAL NOT NULL,PRIMARY KEY(t,res,app,metric)); CREATE "
     "INDEX IF NOT EXISTS sample_lookup ON samples(app,metric,t)";
 constexpr const char *kInsert =

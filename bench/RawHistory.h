@@ -14,7 +14,7 @@ struct sqlite3_stmt;
 namespace Bench
 {
 
-// The floor of the monitor's history: SQLite itself with the same schema and statements,
+// The floor of the monitor's history: SQLite itself with the same schema and statement,
 // prepared once, and the very rows that come out in the end.
 class RawHistory
 {
