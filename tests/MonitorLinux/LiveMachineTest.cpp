@@ -289,8 +289,8 @@ void sendPackets()
         sample();
         sendPackets();
         const auto after = sample();
-        for (const auto &[at, metric] :
-             {std::pair{0, MetricID::download}, std::pair{1, MetricID::upload}}) {
+        for (const auto &[at, metric] : {std::pair{std::size_t{0}, MetricID::download},
+                                         std::pair{std::size_t{1}, MetricID::upload}}) {
             bytes.at(at) = after.readings.at(metric).value.value_or(-1) * after.interval;
         }
         (void)!::write(results, bytes.data(), sizeof bytes);
