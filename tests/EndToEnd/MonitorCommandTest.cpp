@@ -111,9 +111,8 @@ TEST(MonitorCommand, RecordsAHistoryAndLetsNoSecondRecorderIn)
         usleep(50'000);
         points = runKest(folder.path(), {"monitor", "history", "cpu", "--json"}).out;
     }
-    EXPECT_THAT(points,
-                MatchesRegex(R"(\[\{"date":"[^"]+:00Z","value":.*"resolution":60.*\}\])"
-                             "\n"));
+    EXPECT_THAT(points, MatchesRegex(R"(\[\{"date":"[^"]+:00Z","value":.*"resolution":60.*\}\])"
+                                     "\n"));
     const auto second = runKest(folder.path(), {"monitor", "record", "--count", "1"});
     EXPECT_EQ(second.status, 1);
     EXPECT_EQ(second.err, "kest: The monitor's recorder is in use by kest (process " +
