@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "Base/Text.h"
 #include "cli/MonitorAnswers.h"
 #include "cli/MonitorSampler.h"
+#include "cli/NumberOption.h"
 
 #include <CLI/CLI.hpp>
 
@@ -13,18 +13,6 @@ namespace Cli
 
 namespace
 {
-
-// CLI11's own range lets "nan" through.
-CLI::Validator numberFrom(double lowest, double highest)
-{
-    return {[=](const std::string &text) {
-                const auto number = Base::numberFrom<double>(text);
-                return number && *number >= lowest && *number <= highest
-                           ? std::string{}
-                           : fmt::format("{} is not within {} and {}", text, lowest, highest);
-            },
-            fmt::format("{} to {}", lowest, highest)};
-}
 
 constexpr double kOnceSeconds = 1;
 constexpr double kRecordSeconds = 10;
@@ -70,8 +58,8 @@ Result<void> runMonitor(const Session &session, const Arguments &args)
 // Gives the option for the number of samples.
 CLI::Option *addPace(CLI::App *command, const std::shared_ptr<Arguments> &args)
 {
-    command->add_option("--interval", args->interval, "Seconds between two samples, 0.2 to 60")
-        ->check(numberFrom(kShortestPace, kLongestPace));
+    addNumber(command, "--interval", [args](double seconds) { args->interval = seconds; },
+              "Seconds between two samples, 0.2 to 60", {kShortestPace, kLongestPace});
     return command->add_option("--count", args->count, "Ends after so many samples")
         ->check(CLI::PositiveNumber);
 }
@@ -98,8 +86,8 @@ void addHistory(CLI::App *monitor, Session &session, const std::shared_ptr<Argum
     history->add_option("--app", series.app, "Of one application, by its key");
     CLI::Option *from = history->add_option("--from", series.from, "Not before this instant");
     history->add_option("--to", series.to, "Not after this instant, instead of now");
-    history->add_option("--hours", series.hours, "So many hours, instead of 24")
-        ->check(numberFrom(0, kMostHistoryHours))
+    addNumber(history, "--hours", [args](double hours) { args->series.hours = hours; },
+              "So many hours, instead of 24", {0, kMostHistoryHours})
         ->excludes(from);
     history->callback([=, &session] {
         session.command = [=, &session] { return runMonitorHistory(session, args->series); };
@@ -110,8 +98,8 @@ void addAlerts(CLI::App *monitor, Session &session, const std::shared_ptr<Argume
 {
     CLI::App *alerts =
         monitor->add_subcommand("alerts", "Lists loads that lasted and memory that grew");
-    alerts->add_option("--hours", args->alertHours, "In the last so many hours, 24 at most")
-        ->check(numberFrom(0, kMostAlertHours));
+    addNumber(alerts, "--hours", [args](double hours) { args->alertHours = hours; },
+              "In the last so many hours, 24 at most", {0, kMostAlertHours});
     alerts->callback([=, &session] {
         session.command = [=, &session] { return runMonitorAlerts(session, args->alertHours); };
     });
