@@ -14,6 +14,7 @@
 #include <memory>
 #include <numeric>
 #include <optional>
+#include <utility>
 
 // One file that carries everything to another computer.
 namespace Cli
@@ -43,9 +44,12 @@ public:
     }
     ProgressLine(const ProgressLine &) = delete;
     ProgressLine &operator=(const ProgressLine &) = delete;
-    ~ProgressLine()
+    ~ProgressLine() { clear(); }
+
+    // Takes the line away, before anything else is said.
+    void clear()
     {
-        if (m_shown > 0) {
+        if (std::exchange(m_shown, 0) > 0) {
             std::fputs("\r\x1b[K", stderr);
         }
     }
@@ -86,15 +90,22 @@ public:
         m_progress.showBytes(m_total);
         return m_gathered.size() < kPieceSize ? Result<void>{} : flush();
     }
+    // Hands over the rest.
+    Result<void> finish()
+    {
+        m_progress.clear();
+        return flush();
+    }
+    std::size_t total() const { return m_total; }
+
+private:
     Result<void> flush()
     {
         KEST_CHECK(m_sink(m_gathered));
         m_gathered.clear();
         return {};
     }
-    std::size_t total() const { return m_total; }
 
-private:
     KestCore::BackupSink m_sink;
     std::string m_gathered;
     std::size_t m_total = 0;
@@ -106,7 +117,7 @@ Result<std::int64_t> exportTo(StateStore &store, Gatherer &gatherer)
     KEST_TRY(const std::int64_t count,
              store.exportBackup(Base::wallClock(),
                                 [&](std::string_view piece) { return gatherer.take(piece); }));
-    KEST_CHECK(gatherer.flush());
+    KEST_CHECK(gatherer.finish());
     return count;
 }
 

@@ -182,10 +182,12 @@ Result<void> runDoctor(const Session &session)
         std::vector<std::vector<std::string>> rows;
         for (const Finding &finding : findings) {
             const bool isFull = finding.state == State::full;
-            rows.push_back({console.styled(Base::textOf(finding.state),
-                                           isFull ? Style::good : Style::warning),
-                            finding.check,
-                            finding.detail + (finding.advice ? ". " + *finding.advice : "")});
+            const char *const stop = finding.detail.ends_with('.') ? " " : ". ";
+            rows.push_back(
+                {console.styled(Base::textOf(finding.state),
+                                isFull ? Style::good : Style::warning),
+                 finding.check,
+                 printable(finding.detail + (finding.advice ? stop + *finding.advice : ""))});
         }
         console.table(rows);
     }));
