@@ -97,7 +97,8 @@ struct Machine {
     }
 
     // For each application its key, its name and its processes' names.
-    std::map<std::string, std::string> grouped(const std::vector<InstalledApp> &installed = {})
+    std::map<std::string, std::string>
+    grouped(const std::vector<InstalledApp> &installed = {}) const
     {
         std::map<std::string, std::string> lines;
         for (const AppUsage &app : AppAggregator{installed}.aggregate(processes, origins)) {

@@ -74,7 +74,7 @@ public:
     }
 
 private:
-    void waitForStop()
+    void waitForStop() const
     {
         int status = 0;
         ASSERT_EQ(::waitpid(m_pid, &status, WUNTRACED), m_pid);
@@ -155,7 +155,9 @@ TEST(LiveMachine, MeasuresWhatAChildWrites)
     const std::vector<char> bytes(kBytes, 'x');
     Child child{[&] {
         const int out = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-        (void)!::write(out, bytes.data(), bytes.size());
+        if (::write(out, bytes.data(), bytes.size()) < 0) {
+            ::_exit(1);
+        }
         ::close(out);
     }};
     LinuxCollector collector;
@@ -293,7 +295,9 @@ void sendPackets()
                                          std::pair{std::size_t{1}, MetricID::upload}}) {
             bytes.at(at) = after.readings.at(metric).value.value_or(-1) * after.interval;
         }
-        (void)!::write(results, bytes.data(), sizeof bytes);
+        if (::write(results, bytes.data(), sizeof bytes) < 0) {
+            ::_exit(1);
+        }
     }
     ::_exit(0);
 }

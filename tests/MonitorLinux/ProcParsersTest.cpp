@@ -8,7 +8,6 @@
 
 using namespace MonitorLinux;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {
@@ -75,9 +74,8 @@ TEST(ParseMemory, ReadsWhatOldAndNewKernelsSay)
     const auto now = parseMemory("MemTotal: 1000 kB\nMemFree: 100 kB\nMemAvailable: 600 kB\n"
                                  "Unevictable: 10 kB\nKernelStack: 2 kB\nPageTables: 3 kB\n"
                                  "SUnreclaim: 5 kB\nZswap: 7 kB\n");
-    EXPECT_EQ(now,
-              (MemoryUse{
-                  .total = 1'024'000, .used = 409'600, .wired = 20 * 1024, .zswap = 7 * 1024}));
+    EXPECT_EQ(
+        now, (MemoryUse{.total = 1'024'000, .used = 409'600, .wired = 20'480, .zswap = 7'168}));
     const auto old = parseMemory("MemTotal: 1000 kB\nMemFree: 100 kB\nBuffers: 50 kB\n"
                                  "Cached: 250 kB\n");
     EXPECT_EQ(old, (MemoryUse{.total = 1'024'000, .used = 614'400}));
@@ -163,16 +161,22 @@ TEST(ParseListeningPorts, TakesOnlyWhatListensAndIsTheProcesss)
 
 TEST(AsUtf8, ReplacesWhatIsNoText)
 {
-    const std::string mark = "\xEF\xBF\xBD";
+    const auto marks = [](int count) {
+        std::string text;
+        for (int at = 0; at < count; ++at) {
+            text += "\xEF\xBF\xBD";
+        }
+        return text;
+    };
     for (const auto &[bytes, text] : std::vector<std::pair<std::string, std::string>>{
              {"plain\n", "plain\n"},
              {"\xD8\xB0\xD9\x83\xD8\xB1", "\xD8\xB0\xD9\x83\xD8\xB1"},
              {"\xF0\x9F\x8C\x99", "\xF0\x9F\x8C\x99"},
-             {"cut \xD8", "cut " + mark},
-             {"\xE2\x82", mark + mark},
-             {"\xC0\xAF", mark + mark},                       // too long a form of a slash
-             {"\xED\xA0\x80", mark + mark + mark},            // half of a pair
-             {"\xF4\x90\x80\x80", mark + mark + mark + mark}, // beyond the last character
+             {"cut \xD8", "cut \xEF\xBF\xBD"},
+             {"\xE2\x82", marks(2)},
+             {"\xC0\xAF", marks(2)},         // too long a form of a slash
+             {"\xED\xA0\x80", marks(3)},     // half of a pair
+             {"\xF4\x90\x80\x80", marks(4)}, // beyond the last character
          }) {
         EXPECT_EQ(asUtf8(bytes), text);
     }
