@@ -74,6 +74,22 @@ KestError monitorStorageError(KestError error)
     return error;
 }
 
+// What `make` makes of each row.
+template <class Make>
+auto collect(Base::Statement &rows, Make make)
+    -> Result<std::vector<std::invoke_result_t<Make, Base::Statement &>>>
+{
+    std::vector<std::invoke_result_t<Make, Base::Statement &>> all;
+    auto hasRow = rows.step();
+    for (; hasRow && *hasRow; hasRow = rows.step()) {
+        all.push_back(make(rows));
+    }
+    if (!hasRow) {
+        return historyFailure(kCannotRead);
+    }
+    return all;
+}
+
 // Shares the item out among the minutes that it covers.
 Result<void> writeItem(Base::Statement &insert, const HistoryItem &item)
 {
@@ -271,20 +287,14 @@ Result<std::vector<HistoryPoint>> MonitorHistoryStore::history(std::string_view 
     return guarded([&](Base::Database &db) -> Result<std::vector<HistoryPoint>> {
         KEST_TRY(auto rows, db.prepare(kReadSeries, kCannotPrepare));
         rows.bind(app, Base::textOf(metric), Base::seconds1970(from), Base::seconds1970(to));
-        std::vector<HistoryPoint> points;
-        auto hasRow = rows.step();
-        for (; hasRow && *hasRow; hasRow = rows.step()) {
-            points.push_back(
-                {.date = Base::fromSeconds1970(static_cast<double>(rows.integer(0))),
-                 .value = rows.real(1),
-                 .peak = rows.real(2),
-                 .coverage = rows.real(3),
-                 .resolution = rows.integer(4)});
-        }
-        if (!hasRow) {
-            return historyFailure(kCannotRead);
-        }
-        return points;
+        return collect(rows, [](const Base::Statement &row) {
+            return HistoryPoint{.date =
+                                    Base::fromSeconds1970(static_cast<double>(row.integer(0))),
+                                .value = row.real(1),
+                                .peak = row.real(2),
+                                .coverage = row.real(3),
+                                .resolution = row.integer(4)};
+        });
     });
 }
 
@@ -295,17 +305,10 @@ Result<std::vector<HistoryCause>> MonitorHistoryStore::causes(MetricID metric,
         KEST_TRY(auto rows, db.prepare(kReadCauses, kCannotPrepare));
         rows.bind(static_cast<std::int64_t>(Base::seconds1970(point.date)), point.resolution,
                   Base::textOf(metric), static_cast<std::int64_t>(kCausesKept));
-        std::vector<HistoryCause> causes;
-        auto hasRow = rows.step();
-        for (; hasRow && *hasRow; hasRow = rows.step()) {
-            causes.push_back({.app = std::string{rows.text(0)},
-                              .value = rows.real(1),
-                              .peak = rows.real(2)});
-        }
-        if (!hasRow) {
-            return historyFailure(kCannotRead);
-        }
-        return causes;
+        return collect(rows, [](const Base::Statement &row) {
+            return HistoryCause{
+                .app = std::string{row.text(0)}, .value = row.real(1), .peak = row.real(2)};
+        });
     });
 }
 
@@ -315,19 +318,13 @@ MonitorHistoryStore::shares(MetricID metric, Base::Instant from, Base::Instant t
     return guarded([&](Base::Database &db) -> Result<std::vector<HistoryShare>> {
         KEST_TRY(auto rows, db.prepare(kReadShares, kCannotPrepare));
         rows.bind(Base::textOf(metric), Base::seconds1970(from), Base::seconds1970(to));
-        std::vector<HistoryShare> shares;
-        auto hasRow = rows.step();
-        for (; hasRow && *hasRow; hasRow = rows.step()) {
-            shares.push_back(
-                {.app = std::string{rows.text(0)},
-                 .date = Base::fromSeconds1970(static_cast<double>(rows.integer(1))),
-                 .value = rows.real(2),
-                 .coverage = rows.real(3)});
-        }
-        if (!hasRow) {
-            return historyFailure(kCannotRead);
-        }
-        return shares;
+        return collect(rows, [](const Base::Statement &row) {
+            return HistoryShare{.app = std::string{row.text(0)},
+                                .date =
+                                    Base::fromSeconds1970(static_cast<double>(row.integer(1))),
+                                .value = row.real(2),
+                                .coverage = row.real(3)};
+        });
     });
 }
 
