@@ -24,7 +24,8 @@ struct HttpRequest {
     std::string url{}; // http or https
     std::vector<HttpHeader> headers{};
     Seconds timeout{60};               // for the whole exchange, redirects included
-    std::size_t mostBytes = 8'000'000; // of the body as it is used, after decompression
+    std::size_t mostBytes = 8'000'000; // of the body as it is used, after decompression; that
+                                       // of an answer which is no success is cut there
 };
 
 // The answer that a chain of redirects ended with.

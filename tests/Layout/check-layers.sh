@@ -11,6 +11,7 @@ declare -A below=(
     [PrayerCore]="Base PrayerCore"
     [KestCore]="Base PrayerCore KestCore"
     [SecretService]="Base SecretService"
+    [HttpTransport]="Base HttpTransport"
     [MonitorCore]="Base MonitorCore"
     [MonitorLinux]="Base MonitorCore MonitorLinux"
 )
