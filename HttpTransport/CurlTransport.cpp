@@ -223,6 +223,21 @@ std::optional<std::string> whyNot(const std::string &from, const std::string &to
     return std::nullopt;
 }
 
+HttpResult<HttpResponse> outcome(Receiver receiver, CURLcode code, const WebAddress &address,
+                                 const std::stop_token &stop)
+{
+    if (stop.stop_requested()) {
+        return failed(Kind::cancelled, address.place() + ": cancelled");
+    }
+    if (receiver.isTooLarge) {
+        return failed(Kind::tooLarge, address.place() + ": the answer is too large");
+    }
+    if (code != CURLE_OK && !receiver.isCut) {
+        return failed(Kind::noAnswer, address.place() + ": " + curl_easy_strerror(code));
+    }
+    return std::move(receiver.response);
+}
+
 bool isRedirect(int status)
 {
     return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
@@ -252,6 +267,7 @@ HttpResult<HttpResponse> CurlTransport::get(const HttpRequest &request,
     return failed(Kind::refused, "too many redirects");
 }
 
+// One request and its answer, perhaps one that leads to a next address.
 HttpResult<HttpResponse> CurlTransport::getOnce(const std::string &url,
                                                 const HttpRequest &request,
                                                 Clock::time_point deadline,
@@ -281,23 +297,13 @@ HttpResult<HttpResponse> CurlTransport::getOnce(const std::string &url,
     curl_easy_setopt(easy.get(), CURLOPT_TIMEOUT_MS, static_cast<long>(left.count()));
     curl_easy_setopt(easy.get(), CURLOPT_HEADERDATA, &receiver);
     curl_easy_setopt(easy.get(), CURLOPT_WRITEDATA, &receiver);
-
     const CURLcode code = perform(easy.get(), stop);
-    if (stop.stop_requested()) {
-        return failed(Kind::cancelled, address->place() + ": cancelled");
-    }
-    if (receiver.isTooLarge) {
-        return failed(Kind::tooLarge, address->place() + ": the answer is too large");
-    }
-    if (code != CURLE_OK && !receiver.isCut) {
-        return failed(Kind::noAnswer, address->place() + ": " + curl_easy_strerror(code));
-    }
     if (const char *to = nullptr;
         curl_easy_getinfo(easy.get(), CURLINFO_REDIRECT_URL, &to) == CURLE_OK &&
         to != nullptr) {
         next = to;
     }
-    return std::move(receiver.response);
+    return outcome(std::move(receiver), code, *address, stop);
 }
 
 void CurlTransport::prepare(CURL *easy, const std::string &url, const WebAddress &address) const
