@@ -55,6 +55,13 @@ struct RawJson {
     std::string_view text{};
 };
 
+// An object whose values are all numbers, under whatever keys, of which those are kept that the
+// record names; its members are optional doubles.
+template <class Kept>
+struct Numbers {
+    Kept kept{};
+};
+
 template <class T>
 concept Record = std::is_class_v<T> && requires { jsonFields(Of<T>{}); };
 

@@ -117,6 +117,8 @@ private:
             return readOptional(value, out);
         } else if constexpr (detail::isA<T, std::map>) {
             return readMap(value, out);
+        } else if constexpr (detail::isA<T, Numbers>) {
+            return readNumbers(value, out.kept);
         } else if constexpr (Record<T>) {
             ondemand::object object;
             return take(value.get_object(), object) && readObject(object, out);
@@ -208,6 +210,49 @@ private:
             }
         }
         return true;
+    }
+
+    template <Record Kept>
+    bool readNumbers(ondemand::value value, Kept &out)
+    {
+        ondemand::object object;
+        if (!take(value.get_object(), object)) {
+            return false;
+        }
+        std::size_t expected = 0;
+        for (auto entry : object) {
+            ondemand::field field;
+            std::size_t index = 0;
+            double number = 0;
+            if (!take(std::move(entry), field) || !findField<Kept>(field, expected, index)) {
+                return false;
+            }
+            const bool isKept = index < detail::kFieldCount<Kept>;
+            if (!take(field.value().get_double(), number)) {
+                return inside(isKept ? detail::kFieldNames<Kept>[index] : "unknown key");
+            }
+            if (isKept && !keepNumber(index, number, out)) {
+                return failAt(detail::kFieldNames<Kept>[index], "key given twice");
+            }
+            expected = isKept ? index + 1 : expected;
+        }
+        return true;
+    }
+
+    // False when there is one already.
+    template <Record Kept>
+    static bool keepNumber(std::size_t index, double number, Kept &out)
+    {
+        return [&]<std::size_t... I>(std::index_sequence<I...>) {
+            constexpr auto kFields = jsonFields(Of<Kept>{});
+            bool isNew = false;
+            const auto keep = [&](std::optional<double> &place) {
+                isNew = !place.has_value();
+                place = number;
+            };
+            ((index == I ? keep(out.*(std::get<I>(kFields).member)) : void()), ...);
+            return isNew;
+        }(std::make_index_sequence<detail::kFieldCount<Kept>>{});
     }
 
     template <class T>
