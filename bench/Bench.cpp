@@ -161,7 +161,7 @@ int main(int argc, char **argv)
         {"prayer", Bench::prayerSuite},       {"clipboard", Bench::clipboardSuite},
         {"program", Bench::programSuite},     {"backup", Bench::backupSuite},
         {"monitor", Bench::monitorSuite},     {"collector", Bench::collectorSuite},
-        {"recording", Bench::recordingSuite},
+        {"recording", Bench::recordingSuite}, {"weather", Bench::weatherSuite},
     };
     for (int at = 1; at < argc; ++at) {
         if (std::ranges::none_of(suites, [&](const auto &s) { return s.first == argv[at]; })) {

@@ -85,5 +85,6 @@ std::vector<Row> programSuite();
 std::vector<Row> backupSuite();
 std::vector<Row> collectorSuite();
 std::vector<Row> recordingSuite();
+std::vector<Row> weatherSuite();
 
 } // namespace Bench

@@ -69,6 +69,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addShelfCommands(program, session);
     Cli::addMessageCommands(program, session);
     Cli::addMonitorCommands(program, session);
+    Cli::addWeatherCommand(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 }

@@ -328,7 +328,7 @@ std::string gzip(std::string_view text)
     constexpr int kGzip = 15 + 16; // the largest window, with gzip's own head
     constexpr int kMemory = 8;
     z_stream stream{};
-    require(deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, kGzip, kMemory,
+    require(deflateInit2(&stream, Z_BEST_SPEED, Z_DEFLATED, kGzip, kMemory,
                          Z_DEFAULT_STRATEGY) == Z_OK);
     std::string packed(deflateBound(&stream, text.size()), '\0');
     stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(text.data()));
