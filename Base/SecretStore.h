@@ -42,6 +42,8 @@ public:
     read(std::string_view account) = 0;
     [[nodiscard]] virtual SecretResult<> write(std::string_view account,
                                                std::span<const std::uint8_t> secret) = 0;
+    // There need not be one.
+    [[nodiscard]] virtual SecretResult<> erase(std::string_view account) = 0;
 };
 
 } // namespace Base

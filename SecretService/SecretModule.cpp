@@ -120,6 +120,7 @@ public:
     SecretResult<std::optional<SecretBytes>> read(std::string_view account) override;
     SecretResult<> write(std::string_view account,
                          std::span<const std::uint8_t> secret) override;
+    SecretResult<> erase(std::string_view account) override;
 
 private:
     bool mayPrompt() const { return m_prompts == Prompts::allowed; }
@@ -250,6 +251,23 @@ SecretResult<> LibsecretStore::write(std::string_view account,
         collection.get(), &kSchema, attributes.get(), "Velvetnook", value.get(),
         SECRET_ITEM_CREATE_REPLACE, deadline.cancellable(), problem.receive())};
     if (item == nullptr) {
+        return std::unexpected(problem.failure());
+    }
+    return {};
+}
+
+SecretResult<> LibsecretStore::erase(std::string_view account)
+{
+    const Deadline deadline{patience()};
+    KEST_TRY(const auto keeper, service(deadline));
+    KEST_TRY(const auto item, find(keeper.get(), account, deadline));
+    if (item == nullptr) {
+        KEST_TRY([[maybe_unused]] const auto open, openCollection(keeper.get(), deadline));
+        return {};
+    }
+    Problem problem;
+    if (secret_item_delete_sync(item.get(), deadline.cancellable(), problem.receive()) ==
+        FALSE) {
         return std::unexpected(problem.failure());
     }
     return {};

@@ -361,6 +361,11 @@ public:
         kept.emplace(secret.begin(), secret.end());
         return {};
     }
+    Base::SecretResult<> erase(std::string_view) override
+    {
+        kept.reset();
+        return {};
+    }
 
     std::optional<Base::SecretBytes> kept{};
     std::optional<Base::SecretFailure> failure{};
