@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "KestCore/Clients/InsightPeriod.h"
+#include "KestCore/Clients/InsightReport.h"
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Registry/ToolRegistry.h"
 #include "KestCore/Surfaces/MessageAnimation.h"
@@ -118,9 +120,15 @@ Words argumentsFor(const CLI::App &owner, const Words &typed)
     if (!typed.empty() && typed.back() == "--tone") {
         return textsOf<KestCore::SkinTone>();
     }
+    if (!typed.empty() && typed.back() == "--period") {
+        return textsOf<KestCore::InsightPeriod>();
+    }
     const CLI::App *parent = owner.get_parent();
     if (command == "start" && parent != nullptr && parent->get_name() == "timer") {
         return textsOf<KestCore::TimerMode>();
+    }
+    if ((command == "connect" || command == "disconnect") && parent != nullptr) {
+        return textsOf<KestCore::InsightProvider>();
     }
     if (command == "history" && parent != nullptr && parent->get_name() == "monitor") {
         return textsOf<MonitorCore::MetricID>();

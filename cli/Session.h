@@ -48,6 +48,7 @@ void addMonitorCommands(CLI::App &program, Session &session);
 void addDoctorCommand(CLI::App &program, Session &session);
 void addClipboardCommands(CLI::App &program, Session &session);
 void addWeatherCommand(CLI::App &program, Session &session);
+void addInsightCommands(CLI::App &program, Session &session);
 void addCompletionCommands(CLI::App &program, Session &session);
 
 // The counter on the whole terminal. Fails when there is no terminal.

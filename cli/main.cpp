@@ -70,6 +70,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addMessageCommands(program, session);
     Cli::addMonitorCommands(program, session);
     Cli::addWeatherCommand(program, session);
+    Cli::addInsightCommands(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 }

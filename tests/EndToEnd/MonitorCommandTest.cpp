@@ -175,7 +175,7 @@ TEST(MonitorOnATerminal, QuitsTheProcessThatWasChosenAndAgreedTo)
     Sleeper other{"kest-sleeper-b"};
     Sleeper sleeper{"kest-sleeper-a"};
     const TemporaryFolder folder;
-    TerminalProgram monitor{folder.path(), "monitor"};
+    TerminalProgram monitor{folder.path(), {"monitor"}};
     ASSERT_TRUE(monitor.shows("Processor"));
     ASSERT_TRUE(monitor.shows("processes"));
     monitor.type("\t/kest-sleeper\r");

@@ -31,7 +31,7 @@ bool comesTo(const std::filesystem::path &file, std::string_view session)
 TEST(TerminalCounter, CountsOnKeysAndLetsOthersIn)
 {
     const TemporaryFolder folder;
-    TerminalProgram counter{folder.path(), "counter"};
+    TerminalProgram counter{folder.path(), {"counter"}};
     ASSERT_TRUE(counter.shows("0 of 33"));
     counter.type("   u");
     ASSERT_TRUE(comesTo(folder.database(), R"("count":2,"target":33)"));
@@ -54,7 +54,7 @@ TEST(TerminalCounter, AKillInTheMiddleLosesNothing)
 {
     const TemporaryFolder folder;
     {
-        TerminalProgram counter{folder.path(), "counter"};
+        TerminalProgram counter{folder.path(), {"counter"}};
         ASSERT_TRUE(counter.shows("0 of 33"));
         counter.type("     ");
         ASSERT_TRUE(comesTo(folder.database(), R"("count":5,"target":33)"));

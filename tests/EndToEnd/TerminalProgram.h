@@ -14,19 +14,26 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // A command of kest on a terminal of its own.
 class TerminalProgram
 {
 public:
-    TerminalProgram(const std::filesystem::path &folder, const char *command)
+    TerminalProgram(const std::filesystem::path &folder, std::vector<std::string> words)
     {
+        words.insert(words.begin(), {KEST_PROGRAM, "--data-dir", folder.string()});
+        std::vector<char *> arguments;
+        for (std::string &word : words) {
+            arguments.push_back(word.data());
+        }
+        arguments.push_back(nullptr);
         winsize size{.ws_row = 24, .ws_col = 80, .ws_xpixel = 0, .ws_ypixel = 0};
         m_process = forkpty(&m_terminal, nullptr, nullptr, &size);
         if (m_process == 0) {
             setenv("TERM", "xterm-256color", 1);
             setenv("LC_ALL", "C.UTF-8", 1);
-            execl(KEST_PROGRAM, KEST_PROGRAM, "--data-dir", folder.c_str(), command, nullptr);
+            execv(KEST_PROGRAM, arguments.data());
             _exit(127);
         }
     }
@@ -71,6 +78,9 @@ public:
         }
         return true;
     }
+
+    // All that was printed, as far as it was read.
+    const std::string &screen() const { return m_screen; }
 
     int wait()
     {

@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Velvetnook developers
 # SPDX-License-Identifier: MIT
-# check-keyring.sh KEST: the clipboard's commands with a real keyring that is open, locked or
-# not there. Each keyring lives on a message bus and in a home of its own.
+# check-keyring.sh KEST SERVER: the commands that keep secrets, with a real keyring that is open,
+# locked or not there. Each keyring lives on a message bus and in a home of its own. SERVER
+# answers in the place of the insights' providers.
 # shellcheck disable=SC2317 # `inside` calls functions by their names
 set -euo pipefail
 kest=$1
+server=$2
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)/$(basename "${BASH_SOURCE[0]}")
 
 keyring=
@@ -72,6 +74,8 @@ stop_keyring() {
 check_absent() {
     says 1 "kest: There is no keyring" clipboard list
     says 1 "kest: There is no keyring" clipboard clear --yes
+    says 1 "kest: There is no keyring" insights disconnect stripe
+    connect 1 "kest: There is no keyring" rk_test_1 stripe
     if printf 'a secret' | timeout 30 "$kest" clipboard add >/dev/null 2>&1; then
         fail "add works without a keyring"
     fi
@@ -176,6 +180,110 @@ check_first_uses() {
     done
 }
 
+# start_server: prints its address in $HOME/asked first, then what it is asked.
+start_server() {
+    local url=
+    mkfifo "$HOME/hold"
+    "$server" <"$HOME/hold" >"$HOME/asked" &
+    exec 9>"$HOME/hold" # it ends when this is closed, so at the latest with this script
+    for _ in {1..200}; do
+        if read -r url <"$HOME/asked"; then
+            break
+        fi
+        sleep 0.05
+    done
+    [[ $url == http://127.0.0.1:* ]] || fail "the server did not start"
+    export KEST_STRIPE_URL=$url KEST_DATAFAST_URL=$url/
+}
+
+# connect STATUS TEXT KEY WORD...: takes the key from standard input, or refuses it.
+connect() {
+    local status=$1 text=$2 key=$3 code=0 said
+    shift 3
+    said=$(printf '%s\n' "$key" | timeout 30 "$kest" insights connect "$@" 2>&1) || code=$?
+    [[ $code -eq $status && $said == *"$text"* ]] || fail "connect $*: $code: $said"
+    [[ -z $key || $said != *"$key"* ]] || fail "connect $*: says the key"
+}
+
+times_asked() { grep -c "$1" "$HOME/asked" || true; }
+
+check_stripe() {
+    local said
+    says 1 "kest: Stripe is not connected; kest insights connect stripe takes a key." \
+        insights stripe
+    connect 1 "kest: This is a secret Stripe key" sk_live_1234 stripe
+    connect 1 "kest: A key is one word" "rk_live_1 2" stripe
+    connect 1 "kest: No key on standard input" "" stripe
+    connect 1 "kest: The key is too long" "$(printf '%0600d' 0)" stripe
+    says 1 "kest: Stripe is not connected" insights stripe
+    connect 0 "Stripe is connected." " rk_test_good " stripe
+    said=$("$kest" insights stripe) || fail "insights stripe: $said"
+    for text in "Gross payments    1,234.50 EUR" "Refunds              20.00 EUR" \
+        "Net payments      1,178.40 EUR" "-20.00 EUR  Refund" "Order ·[31m2" \
+        "Stripe test mode · Payment balance activity, not profit."; do
+        [[ $said == *"$text"* ]] || fail "insights stripe lacks \"$text\": $said"
+    done
+    [[ $(times_asked first) -eq 1 && $(times_asked second) -eq 1 ]] || fail "pages: wrong"
+    says 0 '"provider":"stripe","rows":[{"id":"eur-gross","label":"Gross payments","value":1234.5,' \
+        insights stripe --period year --json
+    says 0 '"recent":[{"id":"txn_2","title":"Order \u001b[31m2","value":"1,234.50 EUR","date":"2026-11-21T16:53:20Z"},' \
+        insights stripe --json
+    says 1 'kest: There is no period "decade"; choose one of today, 7d, 30d, 90d, month, year' \
+        insights stripe --period decade
+    "$kest" settings set revenue.period never >"$HOME/out"
+    says 1 'kest: There is no period "never"' insights stripe
+    "$kest" settings unset revenue.period >"$HOME/out"
+    connect 0 "" rk_live_wrong stripe
+    says 1 "kest: This Stripe key has expired or is invalid. Replace it in Connections." \
+        insights stripe
+}
+
+# What the provider asks for binds the next run as well, until there is another key.
+check_waiting() {
+    connect 0 "" rk_live_busy stripe
+    says 1 "Wait a moment, then refresh. It asks for 60 s." insights stripe
+    says 1 "kest: The provider is limiting requests." insights stripe
+    [[ $(times_asked busy) -eq 1 ]] || fail "the provider is asked while it wants to rest"
+    connect 0 "" rk_test_good stripe
+    says 0 "Net payments" insights stripe
+}
+
+check_datafast() {
+    connect 1 "kest: Only DataFast asks for a website" rk_test_good stripe --website site1
+    connect 0 "DataFast is connected." df_good datafast
+    says 1 "kest: Check the DataFast key and website selection (HTTP 404)." insights datafast
+    says 0 "1,234  /start" insights datafast --website site1 --period today
+    connect 0 '{"provider":"datafast","connected":true}' df_good --json datafast --website site1
+    says 0 "Attributed revenue     99.50 USD" insights datafast
+    says 0 "Unavailable" insights datafast
+    says 0 "Online now: 1234" insights datafast
+}
+
+check_insights() {
+    start_server
+    start_keyring has_collection --unlock
+    check_stripe
+    check_waiting
+    check_datafast
+    KEST_STRIPE_URL=http://example.invalid \
+        says 1 "kest: The address of Stripe must be https:// and a host name." insights stripe
+    KEST_STRIPE_URL=http://127.0.0.1:1 \
+        says 1 "kest: Stripe did not answer. Check the connection" insights stripe
+    if grep -rqaE -e '(rk_test|df)_good' "$XDG_DATA_HOME" "$KEST_DATA_DIR"; then
+        fail "a key stands in the clear on the disk"
+    fi
+    grep -rqaF analytics.website "$KEST_DATA_DIR" || fail "the search finds nothing at all"
+    says 0 "Stripe is disconnected." insights disconnect stripe
+    says 0 '{"provider":"stripe","connected":false}' insights disconnect stripe --json
+    says 1 "kest: Stripe is not connected" insights stripe
+    says 0 "Online now: 1234" insights datafast
+    stop_keyring
+    start_keyring has_collection
+    says 1 "kest: The keyring is locked." insights datafast
+    says 1 "kest: The keyring is locked." insights disconnect datafast
+    connect 1 "kest: The keyring is locked." df_other datafast
+}
+
 inside() {
     trap stop_keyring EXIT
     "$@"
@@ -184,14 +292,15 @@ inside() {
 # on_bus WORD...: runs this script again on a bus of its own that starts no services.
 on_bus() {
     timeout --kill-after=5 120 dbus-run-session --config-file="$HOME/bus.conf" -- \
-        bash "$here" "$kest" "$@" 2>&1 | { grep -v 'fd limit' || true; }
+        bash "$here" "$kest" "$server" "$@" 2>&1 | { grep -v 'fd limit' || true; }
 }
 
-if [[ $# -gt 1 ]]; then
-    case $2 in
+if [[ $# -gt 2 ]]; then
+    case $3 in
     absent) inside check_absent ;;
     bare) inside check_without_collection ;;
     first) inside check_first_uses ;;
+    insights) inside check_insights ;;
     *)
         all() {
             check_open
@@ -227,4 +336,7 @@ on_bus absent
 on_bus bare
 on_bus open
 on_bus first
+export KEST_DATA_DIR=$HOME/insights XDG_DATA_HOME=$HOME/data-insights
+mkdir -m 700 "$XDG_DATA_HOME"
+on_bus insights
 [[ ! -e $HOME/failed ]]
