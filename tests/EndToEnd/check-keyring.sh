@@ -187,7 +187,8 @@ start_server() {
     "$server" <"$HOME/hold" >"$HOME/asked" &
     exec 9>"$HOME/hold" # it ends when this is closed, so at the latest with this script
     for _ in {1..200}; do
-        if read -r url <"$HOME/asked"; then
+        if [[ -s $HOME/asked ]]; then
+            read -r url <"$HOME/asked"
             break
         fi
         sleep 0.05
