@@ -4,11 +4,11 @@
 
 #include "Base/Secret.h"
 #include "Base/Text.h"
+#include "KestCore/Clients/HttpDate.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
 
 namespace KestCore
 {
@@ -43,24 +43,6 @@ std::string_view hostIn(std::string_view authority)
     return authority.substr(0, std::min(authority.find(':', bracket), authority.size()));
 }
 
-// "Sun, 06 Nov 1994 08:49:37 GMT", the one form in which servers write a date today.
-std::optional<Base::Instant> httpDate(std::string_view text)
-{
-    constexpr std::array<std::string_view, 12> kMonths{
-        "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-    const auto words = Base::split(text, ' ');
-    if (words.size() != 6 || words[5] != "GMT") {
-        return std::nullopt;
-    }
-    const auto *const month = std::ranges::find(kMonths, words[2]);
-    if (month == kMonths.end()) {
-        return std::nullopt;
-    }
-    const auto instant = Base::fromIso8601(fmt::format(
-        "{}-{:02}-{}T{}Z", words[3], month - kMonths.begin() + 1, words[1], words[4]));
-    return instant ? std::optional{*instant} : std::nullopt;
-}
-
 // How long to wait, told in seconds or as a date. At most a day: longer is a mistake that
 // would lock the user out.
 std::optional<Base::Seconds> retryAfter(const Base::HttpResponse &response, Base::Instant now)
@@ -74,7 +56,7 @@ std::optional<Base::Seconds> retryAfter(const Base::HttpResponse &response, Base
     std::optional<Base::Seconds> wait;
     if (const auto seconds = Base::numberFrom<std::uint64_t>(text)) {
         wait = Base::Seconds{static_cast<double>(*seconds)};
-    } else if (const auto date = httpDate(text)) {
+    } else if (const auto date = fromHttpDate(text)) {
         wait = *date - now;
     }
     return wait ? std::optional{std::clamp(*wait, Base::Seconds{0}, kLongest)} : std::nullopt;
