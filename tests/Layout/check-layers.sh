@@ -12,6 +12,8 @@ declare -A below=(
     [KestCore]="Base PrayerCore KestCore"
     [SecretService]="Base SecretService"
     [HttpTransport]="Base HttpTransport"
+    [MediaPlayers]="Base KestCore MediaPlayers"
+    [BrowserBridge]="Base KestCore BrowserBridge"
     [MonitorCore]="Base MonitorCore"
     [MonitorLinux]="Base MonitorCore MonitorLinux"
 )

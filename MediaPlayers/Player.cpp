@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "MediaPlayers/Player.h"
+
+#include "Base/Text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+namespace MediaPlayers
+{
+
+namespace
+{
+
+double asTime(double seconds) { return std::isfinite(seconds) ? std::max(seconds, 0.0) : 0.0; }
+
+std::string cut(std::string_view text)
+{
+    return std::string{Base::firstCharacters(text, KestCore::BrowserPlayback::kLongestText)};
+}
+
+// Seconds, for players that keep whole ones.
+bool isNear(double position, double wanted) { return std::abs(position - wanted) < 1.5; }
+
+} // namespace
+
+KestCore::BrowserPlayback playbackOf(const Player &player)
+{
+    const std::string &shown = player.identity.empty() ? player.name : player.identity;
+    return {.title = cut(player.title.empty() ? shown : player.title),
+            .artist = cut(player.artist),
+            .playing = player.status == Player::Status::playing,
+            .position = asTime(player.position),
+            .duration = asTime(player.duration),
+            .volume = std::isfinite(player.volume) ? std::clamp(player.volume, 0.0, 1.0) : 1.0,
+            .canSeek = player.canSeek,
+            .canNext = player.canNext,
+            .canPrevious = player.canPrevious};
+}
+
+std::vector<Player> inOrder(std::vector<Player> players, std::string_view controlledLast)
+{
+    std::ranges::sort(players, {}, [&](const Player &player) {
+        return std::tuple{player.status, player.name != controlledLast,
+                          std::string_view{player.name}};
+    });
+    return players;
+}
+
+const Player *find(const std::vector<Player> &players, std::string_view wanted)
+{
+    const std::string lower = Base::lowerAscii(wanted);
+    const auto found = std::ranges::find_if(players, [&](const Player &player) {
+        const std::string name = Base::lowerAscii(player.name);
+        return name == lower || name.substr(0, name.find('.')) == lower ||
+               Base::lowerAscii(player.identity) == lower;
+    });
+    return found == players.end() ? nullptr : &*found;
+}
+
+bool hasFollowed(const Player &before, const Player &after, const Action &action)
+{
+    using Kind = Action::Kind;
+    switch (action.kind) {
+    case Kind::playPause:
+        return before.status != after.status;
+    case Kind::volume:
+        return std::abs(after.volume - std::clamp(action.value, 0.0, 1.0)) < 0.02;
+    case Kind::seek:
+        return isNear(after.position, std::max(action.value, 0.0));
+    case Kind::next:
+    case Kind::previous:
+        return before.track != after.track || before.title != after.title ||
+               after.position < before.position;
+    case Kind::read:
+        break;
+    }
+    return true;
+}
+
+} // namespace MediaPlayers
