@@ -45,6 +45,7 @@ void addEmojiCommands(CLI::App &program, Session &session);
 void addShelfCommands(CLI::App &program, Session &session);
 void addMessageCommands(CLI::App &program, Session &session);
 void addMonitorCommands(CLI::App &program, Session &session);
+void addPlaybackCommands(CLI::App &program, Session &session);
 void addDoctorCommand(CLI::App &program, Session &session);
 void addClipboardCommands(CLI::App &program, Session &session);
 void addWeatherCommand(CLI::App &program, Session &session);

@@ -71,6 +71,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addMonitorCommands(program, session);
     Cli::addWeatherCommand(program, session);
     Cli::addInsightCommands(program, session);
+    Cli::addPlaybackCommands(program, session);
     Cli::addDoctorCommand(program, session);
     Cli::addCompletionCommands(program, session);
 }
