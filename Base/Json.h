@@ -55,8 +55,8 @@ struct RawJson {
     std::string_view text{};
 };
 
-// An object whose values are all numbers, under whatever keys, of which those are kept that the
-// record names; its members are optional doubles.
+// An object whose values are all numbers, or null as if absent, under whatever keys, of which
+// those are kept that the record names; its members are optional doubles.
 template <class Kept>
 struct Numbers {
     Kept kept{};

@@ -228,10 +228,13 @@ private:
                 return false;
             }
             const bool isKept = index < detail::kFieldCount<Kept>;
-            if (!take(field.value().get_double(), number)) {
+            ondemand::value figure = field.value();
+            bool isNull = false;
+            if (!take(figure.is_null(), isNull) ||
+                (!isNull && !take(figure.get_double(), number))) {
                 return inside(isKept ? detail::kFieldNames<Kept>[index] : "unknown key");
             }
-            if (isKept && !keepNumber(index, number, out)) {
+            if (isKept && !isNull && !keepNumber(index, number, out)) {
                 return failAt(detail::kFieldNames<Kept>[index], "key given twice");
             }
             expected = isKept ? index + 1 : expected;

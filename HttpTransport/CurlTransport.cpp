@@ -332,7 +332,7 @@ void CurlTransport::prepare(CURL *easy, const std::string &url, const WebAddress
 
 CURLcode CurlTransport::perform(CURL *easy, const std::stop_token &stop)
 {
-    constexpr int kLongestNap = 1000; // milliseconds; what happens ends it sooner
+    constexpr int kLongestNap = 86'400'000; // milliseconds; what happens ends it sooner
     const std::stop_callback wake{stop, [this] { curl_multi_wakeup(m_multi.get()); }};
     if (curl_multi_add_handle(m_multi.get(), easy) != CURLM_OK) {
         return CURLE_FAILED_INIT;

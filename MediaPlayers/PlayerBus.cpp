@@ -2,24 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "MediaPlayers/PlayerBus.h"
 
-#include <dlfcn.h>
+#include "Base/Module.h"
 
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
 #include <thread>
 
 namespace MediaPlayers
 {
 
-namespace fs = std::filesystem;
-
 namespace
 {
 
 using Base::KestError;
-
-constexpr const char *kModule = "KestMediaPlayers.so";
 
 KestError missing(const std::string &reason)
 {
@@ -27,31 +22,16 @@ KestError missing(const std::string &reason)
                                   reason);
 }
 
-// Beside the program, as it is built, or where it is installed. Nowhere else.
-fs::path moduleFile()
-{
-    std::error_code error;
-    const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
-    const fs::path beside = folder / kModule;
-    return fs::exists(beside, error) ? beside
-                                     : folder.parent_path() / "lib" / "velvetnook" / kModule;
-}
-
 } // namespace
 
 Result<std::unique_ptr<PlayerBus>> open()
 {
-    // Never closed, like every module: nothing waits for that at the end of a process.
-    void *const module = dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (module == nullptr) {
-        return std::unexpected(missing(dlerror()));
-    }
-    void *const symbol = dlsym(module, "kestOpenPlayerBus");
-    if (symbol == nullptr) {
-        return std::unexpected(missing("it is of another version"));
+    const auto symbol = Base::loadFromModule("KestMediaPlayers.so", "kestOpenPlayerBus");
+    if (!symbol) {
+        return std::unexpected(missing(symbol.error()));
     }
     KestError error;
-    std::unique_ptr<PlayerBus> bus{reinterpret_cast<OpenPlayerBus *>(symbol)(error)};
+    std::unique_ptr<PlayerBus> bus{reinterpret_cast<OpenPlayerBus *>(*symbol)(error)};
     if (bus == nullptr) {
         return std::unexpected(std::move(error));
     }

@@ -95,7 +95,8 @@ public:
             g_error_matches(m_error, SECRET_ERROR, SECRET_ERROR_IS_LOCKED) != FALSE;
         return {.kind = isLocked ? Kind::locked : Kind::failed,
                 .message = isLocked ? lockedMessage()
-                                    : std::string{"The keyring: "} + m_error->message};
+                                    : std::string{"The keyring: "} +
+                                          (happened() ? m_error->message : "It was refused.")};
     }
     static std::string lockedMessage()
     {
@@ -258,19 +259,23 @@ SecretResult<> LibsecretStore::write(std::string_view account,
 
 SecretResult<> LibsecretStore::erase(std::string_view account)
 {
+    constexpr int kMostCopies = 100; // in other collections; a service may also lie
     const Deadline deadline{patience()};
     KEST_TRY(const auto keeper, service(deadline));
-    KEST_TRY(const auto item, find(keeper.get(), account, deadline));
-    if (item == nullptr) {
-        KEST_TRY([[maybe_unused]] const auto open, openCollection(keeper.get(), deadline));
-        return {};
+    for (int copies = 0; copies < kMostCopies; ++copies) {
+        KEST_TRY(const auto item, find(keeper.get(), account, deadline));
+        if (item == nullptr) {
+            KEST_TRY([[maybe_unused]] const auto open, openCollection(keeper.get(), deadline));
+            return {};
+        }
+        Problem problem;
+        if (secret_item_delete_sync(item.get(), deadline.cancellable(), problem.receive()) ==
+            FALSE) {
+            return std::unexpected(problem.failure());
+        }
     }
-    Problem problem;
-    if (secret_item_delete_sync(item.get(), deadline.cancellable(), problem.receive()) ==
-        FALSE) {
-        return std::unexpected(problem.failure());
-    }
-    return {};
+    return std::unexpected(
+        SecretFailure{.kind = Kind::failed, .message = "The keyring did not remove the key."});
 }
 
 } // namespace

@@ -2,19 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "SecretService/SecretService.h"
 
-#include <dlfcn.h>
-
-#include <filesystem>
+#include "Base/Module.h"
 
 namespace Keyring
 {
 
-namespace fs = std::filesystem;
-
 namespace
 {
-
-constexpr const char *kModule = "KestSecretService.so";
 
 Base::SecretFailure missing(const std::string &reason)
 {
@@ -22,31 +16,15 @@ Base::SecretFailure missing(const std::string &reason)
             .message = "The part that speaks to the keyring cannot be loaded: " + reason};
 }
 
-// Beside the program, as it is built, or where it is installed. Nowhere else: who names the
-// folder of the module gets the key.
-fs::path moduleFile()
-{
-    std::error_code error;
-    const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
-    const fs::path beside = folder / kModule;
-    return fs::exists(beside, error) ? beside
-                                     : folder.parent_path() / "lib" / "velvetnook" / kModule;
-}
-
 } // namespace
 
 Base::SecretResult<std::unique_ptr<Base::SecretStore>> open(Prompts prompts)
 {
-    // Never closed: the libraries below it cannot be unloaded.
-    void *const module = dlopen(moduleFile().c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (module == nullptr) {
-        return std::unexpected(missing(dlerror()));
+    const auto symbol = Base::loadFromModule("KestSecretService.so", "kestMakeSecretStore");
+    if (!symbol) {
+        return std::unexpected(missing(symbol.error()));
     }
-    void *const symbol = dlsym(module, "kestMakeSecretStore");
-    if (symbol == nullptr) {
-        return std::unexpected(missing("it is of another version"));
-    }
-    const auto make = reinterpret_cast<MakeSecretStore *>(symbol);
+    const auto make = reinterpret_cast<MakeSecretStore *>(*symbol);
     return std::unique_ptr<Base::SecretStore>{make(prompts)};
 }
 

@@ -127,7 +127,8 @@ Words argumentsFor(const CLI::App &owner, const Words &typed)
     if (command == "start" && parent != nullptr && parent->get_name() == "timer") {
         return textsOf<KestCore::TimerMode>();
     }
-    if ((command == "connect" || command == "disconnect") && parent != nullptr) {
+    if ((command == "connect" || command == "disconnect") && parent != nullptr &&
+        parent->get_name() == "insights") {
         return textsOf<KestCore::InsightProvider>();
     }
     if (command == "history" && parent != nullptr && parent->get_name() == "monitor") {

@@ -164,6 +164,12 @@ void printReport(const Console &console, const InsightReport &report)
     if (isAnalytics) {
         console.line(fmt::format("Online now: {}", report.online));
     }
+    if (report.stale) {
+        console.line(console.styled("These figures are from " +
+                                        localTime(Base::milliseconds1970(report.fetchedAt)) +
+                                        "; newer ones could not be had.",
+                                    Style::warning));
+    }
     console.line(console.styled(report.notice, Style::faint));
 }
 

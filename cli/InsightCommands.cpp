@@ -4,6 +4,7 @@
 #include "HttpTransport/HttpTransport.h"
 #include "KestCore/Clients/DirectInsightsClient.h"
 #include "KestCore/Clients/InsightKeys.h"
+#include "KestCore/Clients/ServiceAddress.h"
 #include "SecretService/SecretService.h"
 #include "cli/InsightAnswers.h"
 #include "cli/KeyInput.h"
@@ -12,7 +13,6 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <cstdlib>
 #include <memory>
 
 // insights: the figures of the user's accounts at payment and analytics providers.
@@ -29,7 +29,7 @@ using KestCore::Settings;
 constexpr const char *kWebsiteSetting = "analytics.website";
 
 struct Arguments {
-    std::string period{};
+    std::optional<std::string> period{};
     std::string website{};
     InsightProvider provider{}; // of connect and disconnect
 };
@@ -56,7 +56,7 @@ KestError asKestError(const Base::SecretFailure &failure)
 KestError asKestError(const KestCore::InsightError &error)
 {
     std::string text = messageOf(error);
-    if (error.retryAfter) {
+    if (error.retryAfter && error.retryAfter->count() >= 1) {
         text.append(fmt::format(" It asks for {:.0f} s.", error.retryAfter->count()));
     }
     return KestError::unavailable(std::move(text));
@@ -88,28 +88,15 @@ Result<Base::SecretBytes> keyFor(InsightProvider provider)
     return *std::move(key);
 }
 
-// Another address of a service, for a mirror of one's own.
-void replaceByEnvironment(std::string &host, const char *variable)
-{
-    if (const char *address = std::getenv(variable); address != nullptr && *address != '\0') {
-        host = address;
-        host.resize(host.find_last_not_of('/') + 1);
-    }
-}
-
 KestCore::InsightHosts chosenHosts()
 {
-    KestCore::InsightHosts hosts;
-    replaceByEnvironment(hosts.stripe, "KEST_STRIPE_URL");
-    replaceByEnvironment(hosts.datafast, "KEST_DATAFAST_URL");
-    return hosts;
+    const KestCore::InsightHosts usual;
+    return {.stripe = KestCore::serviceAddress(usual.stripe, "KEST_STRIPE_URL"),
+            .datafast = KestCore::serviceAddress(usual.datafast, "KEST_DATAFAST_URL")};
 }
 
 Result<InsightPeriod> periodFrom(const std::string &text)
 {
-    if (text.empty()) {
-        return KestCore::kUsualInsightPeriod;
-    }
     if (const auto period = Base::fromText<InsightPeriod>(text)) {
         return *period;
     }
@@ -119,6 +106,15 @@ Result<InsightPeriod> periodFrom(const std::string &text)
     }
     return std::unexpected(KestError::invalidData(fmt::format(
         "There is no period \"{}\"; choose one of {}", text, fmt::join(known, ", "))));
+}
+
+// What was given, else what is set, else the usual one.
+Result<InsightPeriod> periodOf(const Arguments &args, const std::string &setting)
+{
+    if (!args.period && setting.empty()) {
+        return KestCore::kUsualInsightPeriod;
+    }
+    return periodFrom(args.period.value_or(setting));
 }
 
 Result<Settings> storedSettings(const Session &session)
@@ -151,7 +147,7 @@ Result<KestCore::InsightReport> load(const Session &session, InsightProvider pro
         return given.empty() ? settingIn(settings, setting) : given;
     };
     KEST_TRY(const auto period,
-             periodFrom(orSetting(args.period, settingOf(provider, "period"))));
+             periodOf(args, settingIn(settings, settingOf(provider, "period"))));
     KEST_TRY(const auto key, keyFor(provider));
     KEST_TRY(const auto transport, Web::openTransport());
     KestCore::DirectInsightsClient client{*transport, chosenHosts()};
@@ -206,12 +202,12 @@ Result<void> runConnect(const Session &session, const Arguments &args)
         return std::unexpected(std::move(key).error());
     }
     KEST_CHECK(KestCore::checkInsightKey(provider, *key));
+    KEST_TRY(auto store, session.openStore()); // before anything is replaced
     KEST_TRY(const auto secrets, openSecrets());
     const std::span bytes{reinterpret_cast<const std::uint8_t *>(key->data()), key->size()};
     if (const auto kept = secrets->write(keyAccountOf(provider), bytes); !kept) {
         return std::unexpected(asKestError(kept.error()));
     }
-    KEST_TRY(auto store, session.openStore());
     KEST_CHECK(store.change([&](KestCore::NativeState &state) -> Result<void> {
         state.settings.erase(settingOf(provider, "waitUntil")); // that was for another key
         if (!args.website.empty()) {
@@ -252,8 +248,18 @@ CLI::App *addOnProvider(CLI::App *insights, Session &session, const char *name,
     CLI::App *command = insights->add_subcommand(name, help);
     command->add_option("PROVIDER", *provider, "stripe or datafast")
         ->required()
-        ->check(CLI::IsMember(std::vector<std::string>{"stripe", "datafast"}));
+        ->check(CLI::Validator{[](const std::string &word) {
+                                   return Base::fromText<InsightProvider>(word)
+                                              ? std::string{}
+                                              : std::string{"choose stripe or datafast"};
+                               },
+                               ""});
+    command->allow_extras(); // refused here: the usual message would quote a key
     command->callback([=, &session] {
+        if (!command->remaining().empty()) {
+            throw CLI::ValidationError(
+                "insights", "A key is never an argument; it stands on standard input");
+        }
         args->provider = Base::fromText<InsightProvider>(*provider).value_or(args->provider);
         session.command = [=, &session] { return run(session, *args); };
     });

@@ -67,31 +67,41 @@ Result<std::optional<char>> nextByte()
     }
 }
 
-bool givesUp(char key)
+constexpr char kEndOfInput = 4; // Ctrl-D
+constexpr char kClear = 21;     // Ctrl-U
+constexpr char kBackspace = 8;
+constexpr char kDelete = 127;
+
+// Any other key that is no character: Ctrl-C, Escape, an arrow.
+bool givesUp(char key) { return key >= 0 && key < ' ' && key != '\t'; }
+
+// Takes one typed key that edits the line; false for one that belongs to it.
+bool edits(char key, std::string &line)
 {
-    constexpr char kInterrupt = 3; // Ctrl-C
-    constexpr char kQuit = 28;     // Ctrl-backslash
-    constexpr char kEscape = 27;
-    return key == kInterrupt || key == kQuit || key == kEscape;
+    if (key == kBackspace || key == kDelete) {
+        line.resize(line.empty() ? 0 : line.size() - 1);
+    } else if (key == kClear) {
+        line.clear();
+    } else {
+        return false;
+    }
+    return true;
 }
 
 // Appends to `line`, which has room for one byte more than the longest.
 Result<void> readLine(std::string &line, std::size_t longest, bool isTyped)
 {
-    constexpr char kBackspace = 8;
-    constexpr char kDelete = 127;
     while (true) {
         KEST_TRY(const auto byte, nextByte());
-        if (!byte || *byte == '\n' || *byte == '\r') {
+        if (!byte || *byte == '\n' || *byte == '\r' || (isTyped && *byte == kEndOfInput)) {
             return {};
+        }
+        if (isTyped && edits(*byte, line)) {
+            continue;
         }
         if (isTyped && givesUp(*byte)) {
             return std::unexpected(
                 KestError::invalidData("No key was entered; nothing changed"));
-        }
-        if (isTyped && (*byte == kBackspace || *byte == kDelete)) {
-            line.resize(line.empty() ? 0 : line.size() - 1);
-            continue;
         }
         if (line.size() == longest) {
             return std::unexpected(KestError::invalidData("The key is too long"));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Base/JsonWriter.h"
 #include "HttpTransport/HttpTransport.h"
+#include "KestCore/Clients/ServiceAddress.h"
 #include "KestCore/Clients/WeatherClient.h"
 #include "KestCore/Clients/WeatherPlace.h"
 #include "KestCore/Clients/WeatherPresentation.h"
@@ -13,8 +14,9 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <unistd.h>
+
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace Cli
@@ -73,10 +75,15 @@ Result<WeatherPlace> placeFor(const Session &session, const Arguments &args)
     return KestCore::weatherPlace(store.state().settings);
 }
 
-std::string serviceAddress()
+Result<std::string> service()
 {
-    const char *own = std::getenv("KEST_WEATHER_URL");
-    return own == nullptr || *own == '\0' ? std::string{KestCore::kWeatherService} : own;
+    std::string address =
+        KestCore::serviceAddress(KestCore::kWeatherService, "KEST_WEATHER_URL");
+    if (!KestCore::isServiceAddress(address)) {
+        return std::unexpected(
+            KestError::invalidData("KEST_WEATHER_URL must be https:// and a host name."));
+    }
+    return address;
 }
 
 // Beside the answer, as it is for who set the service up.
@@ -131,8 +138,10 @@ void printHours(const Console &console, const WeatherPlace &place, const Weather
              hour.wind ? KestCore::windText(hour.wind) : "",
              hour.rain ? fmt::format("{:.1f} mm", *hour.rain) : "", wordsOf(hour.code)});
     }
-    console.line("");
-    console.table(rows);
+    if (!rows.empty()) {
+        console.line("");
+        console.table(rows);
+    }
 }
 
 void printDays(const Console &console, const WeatherView &view)
@@ -153,8 +162,12 @@ void printDays(const Console &console, const WeatherView &view)
 Result<void> runWeather(const Session &session, const Arguments &args)
 {
     KEST_TRY(const auto place, placeFor(session, args));
+    KEST_TRY(std::string address, service());
     KEST_TRY(const auto transport, Web::openTransport());
-    KestCore::WeatherClient client{*transport, {.service = serviceAddress(), .log = warn}};
+    if (isatty(STDERR_FILENO) != 0) {
+        warn(KestCore::kUpdatingForecast);
+    }
+    KestCore::WeatherClient client{*transport, {.service = std::move(address), .log = warn}};
     KEST_TRY(const auto forecast, client.fetch(place.latitude, place.longitude));
     const Base::Instant now = Base::wallClock();
     KEST_TRY(const auto view, KestCore::weatherView(forecast, place.calendar, now));

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-// A certificate authority of this run's own, and a certificate of it for 127.0.0.1 and
+// A certificate authority of this run's own, and a certificate of it for 127.0.0.1, but not for
 // localhost, valid for an hour.
 class WebCertificates
 {

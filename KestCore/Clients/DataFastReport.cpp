@@ -32,7 +32,7 @@ std::unexpected<InsightError> unexpectedReport()
 
 bool makesSense(const std::optional<double> &figure)
 {
-    return !figure || std::abs(*figure) <= kMostOfAnything;
+    return !figure || (*figure >= 0 && *figure <= kMostOfAnything);
 }
 
 bool makesSense(const DataFastTotals &totals)
@@ -257,7 +257,10 @@ InsightResult<InsightReport> dataFastReport(InsightExchange &exchange, std::stri
         KEST_CHECK(addDetails(questions, span, zone, report));
     }
     KEST_TRY(const Rows online, questions.ask<DataFastRow>("realtime", {}, false));
-    report.online = online.empty() ? 0 : std::llround(online.front().visitors.value_or(0));
+    if (online.empty() || !online.front().visitors) {
+        return unexpectedReport();
+    }
+    report.online = std::llround(*online.front().visitors);
     return report;
 }
 

@@ -4,6 +4,7 @@
 
 #include "KestCore/Clients/DataFastReport.h"
 #include "KestCore/Clients/InsightKeys.h"
+#include "KestCore/Clients/ServiceAddress.h"
 #include "KestCore/Clients/StripeReport.h"
 
 #include <fmt/format.h>

@@ -28,6 +28,11 @@ Result<void> checkInsightKey(InsightProvider provider, std::string_view key)
     if (provider == InsightProvider::datafast) {
         return {};
     }
+    if (key.starts_with("sk_test_")) {
+        return refused("This is a secret Stripe test key, whose figures would look like real "
+                       "ones. Make a restricted test key (rk_test_) with Balance read access "
+                       "at Stripe, and connect that.");
+    }
     if (key.starts_with("sk_")) {
         return refused("This is a secret Stripe key: whoever has it can move money, and to "
                        "read the balance needs no such power. Make a restricted key "

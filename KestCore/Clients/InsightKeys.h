@@ -20,8 +20,8 @@ constexpr std::string_view keyAccountOf(InsightProvider provider)
                                                : "insights.datafast.key";
 }
 
-// Fails with invalidData for what is no key, and for a key that may do more than read: a
-// restricted one is enough. The message does not quote it.
+// Fails with invalidData for what is no key, and for a key of Stripe that is not a restricted
+// one. What a restricted key may do, only Stripe knows. The message does not quote it.
 [[nodiscard]] Result<void> checkInsightKey(InsightProvider provider, std::string_view key);
 
 } // namespace KestCore

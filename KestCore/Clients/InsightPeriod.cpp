@@ -62,11 +62,15 @@ std::string hostZoneName()
     const char *chosen = std::getenv("TZ");
     if (chosen == nullptr) {
         std::error_code error;
-        return zoneNameIn(std::filesystem::read_symlink("/etc/localtime", error).string());
+        return zoneNameIn(std::filesystem::canonical("/etc/localtime", error).string());
     }
     std::string_view name = chosen;
     name.remove_prefix(name.starts_with(':') ? 1 : 0);
-    return name.starts_with('/') ? zoneNameIn(name) : std::string{name};
+    if (!name.starts_with('/')) {
+        return std::string{name};
+    }
+    std::error_code error;
+    return zoneNameIn(std::filesystem::canonical(name, error).string());
 }
 
 } // namespace
@@ -74,8 +78,12 @@ std::string hostZoneName()
 InsightZone InsightZone::ofHost()
 {
     std::string name = hostZoneName();
-    const bool isKnown = !name.empty() && Calendar::inZone(name).has_value();
-    return {.calendar = Calendar::ofHost(), .identifier = isKnown ? std::move(name) : "UTC"};
+    // The provider's days and ours must be the same ones.
+    if (name.empty() || !Calendar::inZone(name)) {
+        name = "UTC";
+        return {.calendar = Calendar::inZone(name).value(), .identifier = std::move(name)};
+    }
+    return {.calendar = Calendar::ofHost(), .identifier = std::move(name)};
 }
 
 InsightSpan spanOf(InsightPeriod period, Base::Instant now, const Calendar &calendar)

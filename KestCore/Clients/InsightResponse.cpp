@@ -5,6 +5,7 @@
 #include "Base/Secret.h"
 #include "Base/Text.h"
 #include "KestCore/Clients/HttpDate.h"
+#include "KestCore/Clients/ServiceAddress.h"
 
 #include <fmt/format.h>
 
@@ -18,11 +19,6 @@ namespace
 
 using Kind = InsightError::Kind;
 
-bool isPlainLetterOrDigit(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-}
-
 std::string percentEncoded(std::string_view text)
 {
     std::string encoded;
@@ -34,13 +30,6 @@ std::string percentEncoded(std::string_view text)
         }
     }
     return encoded;
-}
-
-// "[::1]" or a name, without the port.
-std::string_view hostIn(std::string_view authority)
-{
-    const std::size_t bracket = authority.starts_with('[') ? authority.find(']') : 0;
-    return authority.substr(0, std::min(authority.find(':', bracket), authority.size()));
 }
 
 // How long to wait, told in seconds or as a date. At most a day: longer is a mistake that
@@ -70,27 +59,6 @@ std::string_view permissionAdvice(InsightProvider provider)
 }
 
 } // namespace
-
-bool isServiceAddress(std::string_view address)
-{
-    constexpr std::string_view kSecure = "https://";
-    constexpr std::string_view kPlain = "http://";
-    const bool isSecure = address.starts_with(kSecure);
-    if (!isSecure && !address.starts_with(kPlain)) {
-        return false;
-    }
-    address.remove_prefix(isSecure ? kSecure.size() : kPlain.size());
-    const auto holdsOnly = [](std::string_view text, std::string_view signs) {
-        return std::ranges::all_of(
-            text, [&](char c) { return isPlainLetterOrDigit(c) || signs.contains(c); });
-    };
-    const std::string_view authority =
-        address.substr(0, std::min(address.find('/'), address.size()));
-    const std::string_view host = hostIn(authority);
-    return !host.empty() && holdsOnly(authority, "-.:[]") &&
-           holdsOnly(address.substr(authority.size()), "/-._~") &&
-           (isSecure || host == "127.0.0.1" || host == "localhost" || host == "[::1]");
-}
 
 std::string addressOf(std::string_view host, std::string_view path,
                       std::span<const QueryItem> query)

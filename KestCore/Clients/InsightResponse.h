@@ -14,10 +14,6 @@
 namespace KestCore
 {
 
-// Whether a provider may live at this address, such as "https://example.org": it has no query
-// and no name to log in with, and goes without encryption only on this machine.
-bool isServiceAddress(std::string_view address);
-
 using QueryItem = std::pair<std::string_view, std::string>;
 // Everything but letters, digits and "-._~" is percent-encoded.
 std::string addressOf(std::string_view host, std::string_view path,

@@ -123,7 +123,8 @@ bool isIn(const Units &units, const char *quantity, std::string_view unit)
 std::optional<double> within(std::optional<double> value, bool isKnown, double least,
                              double most)
 {
-    return isKnown && value && *value >= least && *value <= most ? value : std::nullopt;
+    const bool isUsable = isKnown && value && *value >= least && *value <= most;
+    return isUsable ? std::optional{*value + 0.0} : std::nullopt; // no -0
 }
 
 Details detailsOf(const std::optional<Period> &period)

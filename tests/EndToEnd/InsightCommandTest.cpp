@@ -22,6 +22,8 @@ TEST(InsightCommand, AsksForTheKeyWithoutShowingIt)
     for (const auto &[typed, answer] : {
              Case{"sk_live_qwert\r", "kest: This is a secret Stripe key"},
              Case{"sk_live_qwertXX\x7F\x7F\r", "kest: This is a secret Stripe key"},
+             Case{"xx\x15sk_live_qwert\x04", "kest: This is a secret Stripe key"},
+             Case{"sk_live_qwert\x1a", "kest: No key was entered; nothing changed"},
              Case{"qwert\r", "kest: This is no restricted Stripe key."},
              Case{"rk_live_qwert\x03", "kest: No key was entered; nothing changed"},
              Case{"\r", "kest: No key on standard input"},
@@ -41,6 +43,13 @@ TEST(InsightCommand, KnowsItsProvidersAndOptions)
     const TemporaryFolder folder;
     EXPECT_EQ(runKest(folder.path(), {"insights"}).status, 2);
     EXPECT_EQ(runKest(folder.path(), {"insights", "connect", "bank"}).status, 2);
+    for (const std::vector<std::string> &words :
+         {std::vector<std::string>{"insights", "connect", "rk_live_qwert"},
+          std::vector<std::string>{"insights", "connect", "stripe", "rk_live_qwert"}}) {
+        const auto outcome = runKest(folder.path(), words);
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_THAT(outcome.out + outcome.err, Not(HasSubstr("qwert"))) << "no key is quoted";
+    }
     EXPECT_EQ(runKest(folder.path(), {"insights", "connect", "stripe", "rk_live_1"}).status, 2)
         << "a key among the arguments is seen by everybody on the machine";
     EXPECT_EQ(runKest(folder.path(), {"insights", "stripe", "--website", "1"}).status, 2);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Clients/WeatherClient.h"
 
+#include "Base/Serial.h"
 #include "HttpTransport/HttpTransport.h"
 #include "tests/ForecastDocument.h"
 #include "tests/WebServer.h"
@@ -68,6 +69,23 @@ protected:
 };
 
 } // namespace
+
+// As the application keeps it: on a queue of its own.
+TEST_F(Weather, AnswersTwoWhoAskAtOnceFromOneRequest)
+{
+    answer(forecastOf(20));
+    Base::Serial<KestCore::WeatherClient> client{
+        KestCore::WeatherClient{*m_transport, {.service = m_server.url("/")}}};
+    const auto ask = [&] {
+        return client.ask(
+            [](KestCore::WeatherClient &weather) { return weather.fetch(30.06, 31.25); });
+    };
+    auto first = ask();
+    auto second = ask();
+    EXPECT_TRUE(first.get());
+    EXPECT_TRUE(second.get());
+    EXPECT_EQ(requestCount(), 1U);
+}
 
 TEST_F(Weather, AsksByTheServicesRules)
 {
