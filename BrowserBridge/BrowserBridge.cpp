@@ -23,6 +23,14 @@ KestError refused()
     return KestError::unavailable("The browser refuses to do this in the tab.");
 }
 
+// Not the browser's own pages, such as its settings.
+bool isWebPage(std::string_view url)
+{
+    constexpr std::string_view kSchemes[] = {"http://", "https://", "file://", "about:blank"};
+    return std::ranges::any_of(
+        kSchemes, [&](std::string_view scheme) { return url.starts_with(scheme); });
+}
+
 } // namespace
 
 KestError tabGone()
@@ -85,7 +93,8 @@ Result<std::vector<BrowserTab>> Bridge::tabs()
     KEST_TRY(auto targets, call<Targets>("Target.getTargets"));
     std::vector<BrowserTab> tabs;
     for (Target &target : targets.targetInfos) {
-        if (target.type == "page" && target.browserContextId == m_ordinary) {
+        if (target.type == "page" && target.browserContextId == m_ordinary &&
+            isWebPage(target.url)) {
             tabs.push_back({.id = std::move(target.targetId),
                             .title = std::move(target.title),
                             .url = std::move(target.url)});

@@ -21,8 +21,15 @@ std::string cut(std::string_view text)
     return std::string{Base::firstCharacters(text, KestCore::BrowserPlayback::kLongestText)};
 }
 
-// Seconds, for players that keep whole ones.
-bool isNear(double position, double wanted) { return std::abs(position - wanted) < 1.5; }
+// Whether a figure has come to where it was wanted: exactly, or roughly where it was not even
+// that before. Players round.
+bool hasCome(double before, double after, double wanted, double exactly, double roughly)
+{
+    const auto isWithin = [&](double figure, double reach) {
+        return std::abs(figure - wanted) < reach;
+    };
+    return isWithin(after, exactly) || (isWithin(after, roughly) && !isWithin(before, roughly));
+}
 
 } // namespace
 
@@ -51,6 +58,10 @@ std::vector<Player> inOrder(std::vector<Player> players, std::string_view contro
 
 const Player *find(const std::vector<Player> &players, std::string_view wanted)
 {
+    if (const auto exact = std::ranges::find(players, wanted, &Player::name);
+        exact != players.end() || wanted.empty()) {
+        return wanted.empty() ? nullptr : &*exact;
+    }
     const std::string lower = Base::lowerAscii(wanted);
     const auto found = std::ranges::find_if(players, [&](const Player &player) {
         const std::string name = Base::lowerAscii(player.name);
@@ -67,9 +78,11 @@ bool hasFollowed(const Player &before, const Player &after, const Action &action
     case Kind::playPause:
         return before.status != after.status;
     case Kind::volume:
-        return std::abs(after.volume - std::clamp(action.value, 0.0, 1.0)) < 0.02;
+        return hasCome(before.volume, after.volume, std::clamp(action.value, 0.0, 1.0), 0.005,
+                       0.02);
     case Kind::seek:
-        return isNear(after.position, std::max(action.value, 0.0));
+        return hasCome(before.position, after.position, reachable(before, action.value), 0.3,
+                       1.5);
     case Kind::next:
     case Kind::previous:
         return before.track != after.track || before.title != after.title ||

@@ -5,6 +5,8 @@
 #include "KestCore/Media/BrowserPlayback.h"
 #include "KestCore/Media/BrowserPlaybackScript.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -30,7 +32,7 @@ struct Player {
     std::string track{}; // the path by which the player knows what it plays; empty: it has none
     double position{};   // seconds, like duration
     double duration{};
-    double volume = 1;
+    double volume{}; // 0 to 1; not a number where the player does not tell it
     bool canSeek{};
     bool canNext{};
     bool canPrevious{};
@@ -52,8 +54,39 @@ KestCore::BrowserPlayback playbackOf(const Player &player);
 std::vector<Player> inOrder(std::vector<Player> players, std::string_view controlledLast);
 
 // The one that the user means: by its name on the bus, by the name's first part, or by what it
-// calls itself, whatever the case. Null: none. Of several, the first.
+// calls itself, whatever the case. An exact name on the bus wins. Null: none. Of several, the
+// first.
 const Player *find(const std::vector<Player> &players, std::string_view wanted);
+
+// The place nearest to this one that is in the track.
+inline double reachable(const Player &player, double seconds)
+{
+    constexpr double kLongest = 1e9;
+    const double end = player.duration > 0 ? std::min(player.duration, kLongest) : kLongest;
+    return std::clamp(seconds, 0.0, end);
+}
+
+// Whether the player says that it can do this at all; a number that is not finite asks for
+// nothing. To play, to pause and to set the volume is tried in any case.
+inline bool canDo(const Player &player, const Action &action)
+{
+    using Kind = Action::Kind;
+    switch (action.kind) {
+    case Kind::seek:
+        return player.canSeek && std::isfinite(action.value);
+    case Kind::volume:
+        return std::isfinite(action.value);
+    case Kind::next:
+        return player.canNext;
+    case Kind::previous:
+        return player.canPrevious;
+    case Kind::playPause:
+        return true;
+    case Kind::read:
+        break;
+    }
+    return false;
+}
 
 // Whether the player's new state shows that it has done what it was asked to.
 bool hasFollowed(const Player &before, const Player &after, const Action &action);

@@ -38,11 +38,15 @@ Result<std::unique_ptr<PlayerBus>> open()
     return bus;
 }
 
-Result<Player> performAndRead(PlayerBus &bus, const Player &player, const Action &action)
+Result<Player> performAndRead(PlayerBus &bus, const Player &player, const Action &action,
+                              std::chrono::milliseconds patience)
 {
     using namespace std::chrono_literals;
+    if (!canDo(player, action)) {
+        return player;
+    }
     KEST_CHECK(bus.perform(player, action));
-    const auto end = std::chrono::steady_clock::now() + 500ms;
+    const auto end = std::chrono::steady_clock::now() + patience;
     while (true) {
         KEST_TRY(const auto players, bus.players());
         const auto now = std::ranges::find(players, player.name, &Player::name);

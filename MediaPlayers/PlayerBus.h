@@ -4,6 +4,7 @@
 
 #include "MediaPlayers/Player.h"
 
+#include <chrono>
 #include <memory>
 
 namespace MediaPlayers
@@ -20,8 +21,8 @@ public:
 
     // Those that answer. One that does not within a second is passed over.
     [[nodiscard]] virtual Result<std::vector<Player>> players() = 0;
-    // Asks the player to do it, as far as it says that it can; a number that is not finite
-    // asks for nothing. Fails with unavailable when it refuses or does not answer.
+    // Asks the player to do it, if it can. Fails with unavailable when it refuses or does not
+    // answer.
     [[nodiscard]] virtual Result<void> perform(const Player &player, const Action &action) = 0;
 };
 
@@ -30,9 +31,10 @@ public:
 [[nodiscard]] Result<std::unique_ptr<PlayerBus>> open();
 
 // Performs the action and says what the player is like after it. Many do it only after they
-// have answered, so it is given half a second to show.
-[[nodiscard]] Result<Player> performAndRead(PlayerBus &bus, const Player &player,
-                                            const Action &action);
+// have answered, so it is given some time to show.
+[[nodiscard]] Result<Player>
+performAndRead(PlayerBus &bus, const Player &player, const Action &action,
+               std::chrono::milliseconds patience = std::chrono::milliseconds{500});
 
 // What the module exports under the name kestOpenPlayerBus; the caller owns the bus. On failure
 // null, and the reason in `error`.

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <deque>
+#include <limits>
 
 // The module itself, over the bus library of systemd, which needs no systemd to run.
 namespace MediaPlayers
@@ -87,7 +88,7 @@ void describe(Player &player, const BusMap &map)
     player.track = valueOr(metadata, "mpris:trackid", std::string{});
     player.duration = valueOr(metadata, "mpris:length", 0.0) / kMicroseconds;
     player.position = valueOr(map, "Position", 0.0) / kMicroseconds;
-    player.volume = valueOr(map, "Volume", 1.0);
+    player.volume = valueOr(map, "Volume", std::numeric_limits<double>::quiet_NaN());
     const bool canControl = valueOr(map, "CanControl", true);
     player.canSeek = canControl && isTrue("CanSeek");
     player.canNext = canControl && isTrue("CanGoNext");
@@ -221,14 +222,12 @@ Result<void> SessionBus::call(const Player &player, const char *method, const ch
 // between.
 Result<void> SessionBus::seek(const Player &player, double seconds)
 {
-    constexpr double kLongest = 1e9;
-    const double end = player.duration > 0 ? std::min(player.duration, kLongest) : kLongest;
-    const double wanted = std::clamp(seconds, 0.0, end);
+    const double wanted = reachable(player, seconds);
     const auto ticks = static_cast<std::int64_t>(std::llround(wanted * kMicroseconds));
     if (sd_bus_object_path_is_valid(player.track.c_str()) != 0) {
         return call(player, "SetPosition", "ox", player.track.c_str(), ticks);
     }
-    const double now = std::clamp(player.position, 0.0, kLongest);
+    const double now = reachable(player, player.position);
     return call(player, "Seek", "x", ticks - std::llround(now * kMicroseconds));
 }
 
@@ -244,22 +243,41 @@ Result<void> SessionBus::setVolume(const Player &player, double level)
 Result<void> SessionBus::perform(const Player &player, const Action &action)
 {
     using Kind = Action::Kind;
+    if (!canDo(player, action)) {
+        return {};
+    }
     switch (action.kind) {
     case Kind::seek:
-        return player.canSeek && std::isfinite(action.value) ? seek(player, action.value)
-                                                             : Result<void>{};
+        return seek(player, action.value);
     case Kind::volume:
-        return std::isfinite(action.value) ? setVolume(player, action.value) : Result<void>{};
+        return setVolume(player, action.value);
     case Kind::playPause:
         return call(player, "PlayPause", "");
     case Kind::next:
-        return player.canNext ? call(player, "Next", "") : Result<void>{};
+        return call(player, "Next", "");
     case Kind::previous:
-        return player.canPrevious ? call(player, "Previous", "") : Result<void>{};
+        return call(player, "Previous", "");
     case Kind::read:
         break;
     }
     return {};
+}
+
+// What listens may take the connection and say nothing; the library itself would wait for a
+// minute and a half.
+bool becomesReady(sd_bus *bus)
+{
+    const auto end = Clock::now() + kPatience;
+    while (sd_bus_is_ready(bus) == 0) {
+        const int done = sd_bus_process(bus, nullptr);
+        const auto left =
+            std::chrono::duration_cast<std::chrono::microseconds>(end - Clock::now()).count();
+        if (done < 0 || left <= 0 ||
+            (done == 0 && sd_bus_wait(bus, static_cast<std::uint64_t>(left)) < 0)) {
+            return false;
+        }
+    }
+    return sd_bus_is_ready(bus) > 0;
 }
 
 } // namespace
@@ -273,12 +291,14 @@ MediaPlayers::PlayerBus *kestOpenPlayerBus(Base::KestError &error)
 {
     using namespace MediaPlayers;
     sd_bus *bus = nullptr;
-    if (sd_bus_open_user(&bus) < 0) {
+    const bool isThere = sd_bus_open_user(&bus) >= 0;
+    Owned<sd_bus> owned{bus};
+    if (!isThere || !becomesReady(bus)) {
         error = Base::KestError::unavailable(
-            "There is no session bus here, so no player can be asked.");
+            isThere ? "The session bus does not answer."
+                    : "There is no session bus here, so no player can be asked.");
         return nullptr;
     }
-    Owned<sd_bus> owned{bus};
     sd_bus_set_method_call_timeout(bus, static_cast<std::uint64_t>(kPatience.count()));
     return new SessionBus{std::move(owned)};
 }

@@ -117,12 +117,6 @@ Result<InsightPeriod> periodOf(const Arguments &args, const std::string &setting
     return periodFrom(args.period.value_or(setting));
 }
 
-Result<Settings> storedSettings(const Session &session)
-{
-    KEST_TRY(const auto store, session.openStore());
-    return store.state().settings;
-}
-
 // What the provider asked for holds for the next run too.
 Result<void> keepWait(const Session &session, const std::string &setting,
                       std::optional<Base::Instant> until)
@@ -202,8 +196,11 @@ Result<void> runConnect(const Session &session, const Arguments &args)
         return std::unexpected(std::move(key).error());
     }
     KEST_CHECK(KestCore::checkInsightKey(provider, *key));
-    KEST_TRY(auto store, session.openStore()); // before anything is replaced
     KEST_TRY(const auto secrets, openSecrets());
+    if (const auto before = secrets->read(keyAccountOf(provider)); !before) {
+        return std::unexpected(asKestError(before.error()));
+    }
+    KEST_TRY(auto store, session.openStore()); // before anything is replaced
     const std::span bytes{reinterpret_cast<const std::uint8_t *>(key->data()), key->size()};
     if (const auto kept = secrets->write(keyAccountOf(provider), bytes); !kept) {
         return std::unexpected(asKestError(kept.error()));
@@ -254,12 +251,13 @@ CLI::App *addOnProvider(CLI::App *insights, Session &session, const char *name,
                                               : std::string{"choose stripe or datafast"};
                                },
                                ""});
-    command->allow_extras(); // refused here: the usual message would quote a key
+    const auto refuse = [](const std::string & /*key*/) {
+        throw CLI::ValidationError("insights",
+                                   "A key is never an argument; it stands on standard input");
+    };
+    // Hidden: the usual message for an argument too many would quote it.
+    command->add_option_function<std::string>("KEY", refuse)->group("");
     command->callback([=, &session] {
-        if (!command->remaining().empty()) {
-            throw CLI::ValidationError(
-                "insights", "A key is never an argument; it stands on standard input");
-        }
         args->provider = Base::fromText<InsightProvider>(*provider).value_or(args->provider);
         session.command = [=, &session] { return run(session, *args); };
     });

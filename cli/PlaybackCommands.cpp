@@ -4,6 +4,7 @@
 #include "KestCore/Media/PlaybackSettings.h"
 #include "KestCore/Models/RecordIds.h"
 #include "MediaPlayers/PlayerBus.h"
+#include "cli/NumberOption.h"
 #include "cli/PlaybackAnswers.h"
 #include "cli/PlaybackSource.h"
 #include "cli/Session.h"
@@ -11,7 +12,6 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <cmath>
 #include <memory>
 
 // playback: what plays in players and in a connected tab of a browser.
@@ -27,7 +27,8 @@ using KestCore::BrowserPlayback;
 using Kind = PlaybackAction::Kind;
 
 constexpr const char *kBridgeHelp =
-    "A browser is asked only after you connect one of its tabs. Start it for this with\n"
+    "Apart from tabs and connect, a browser is asked only while one of its tabs is\n"
+    "connected. Start it for this with\n"
     "--remote-debugging-port=PORT and a --user-data-dir of its own, since every program on\n"
     "this computer can then drive it, and connect a tab with --port PORT. Private windows\n"
     "are never read.";
@@ -49,16 +50,18 @@ std::string place(const BrowserPlayback &playback)
 
 void printForPeople(const Console &console, const SourcedPlayback &sourced)
 {
-    const auto &[playback, source] = sourced;
-    console.line(fmt::format("{}  {}",
-                             playback.playing ? console.styled("playing", Style::good)
-                                              : console.styled("paused", Style::faint),
-                             console.styled(printable(playback.title), Style::strong)));
+    const auto &[playback, source, status, isVolumeKnown] = sourced;
+    console.line(fmt::format(
+        "{}  {}",
+        console.styled(Base::textOf(status), playback.playing ? Style::good : Style::faint),
+        console.styled(printable(playback.title), Style::strong)));
     if (!playback.artist.empty()) {
         console.line(fmt::format("by {}", printable(playback.artist)));
     }
-    console.line(fmt::format("{}, volume {:.0f} %, in {}", place(playback),
-                             playback.volume * 100, printable(source)));
+    console.line(fmt::format(
+        "{}{}, in {}", place(playback),
+        isVolumeKnown ? fmt::format(", volume {:.0f} %", playback.volume * 100) : "",
+        printable(source)));
 }
 
 Result<void> runAction(const Session &session, const Arguments &args, PlaybackAction action)
@@ -84,11 +87,8 @@ Result<void> runAction(const Session &session, const Arguments &args, PlaybackAc
 
 Result<void> runPlayers(const Session &session)
 {
-    std::string last;
-    {
-        KEST_TRY(const auto store, session.openStore());
-        last = KestCore::lastPlayer(store.state().settings);
-    }
+    KEST_TRY(const auto settings, storedSettings(session));
+    const std::string last = KestCore::lastPlayer(settings);
     KEST_TRY(const auto bus, MediaPlayers::open());
     KEST_TRY(auto found, bus->players());
     std::vector<PlayerAnswer> answers;
@@ -146,11 +146,7 @@ Result<std::uint16_t> portFrom(const Arguments &args, const KestCore::Settings &
 
 Result<void> runTabs(const Session &session, const Arguments &args)
 {
-    KestCore::Settings settings;
-    {
-        KEST_TRY(const auto store, session.openStore());
-        settings = store.state().settings;
-    }
+    KEST_TRY(const auto settings, storedSettings(session));
     KEST_TRY(const std::uint16_t port, portFrom(args, settings));
     KEST_TRY(auto bridge, Bridge::open(port));
     KEST_TRY(const auto tabs, bridge.tabs());
@@ -161,13 +157,14 @@ Result<void> runTabs(const Session &session, const Arguments &args)
 
 Result<void> runConnect(const Session &session, const Arguments &args)
 {
-    KEST_TRY(auto store, session.openStore());
-    KEST_TRY(const std::uint16_t port, portFrom(args, store.state().settings));
+    KEST_TRY(const auto settings, storedSettings(session));
+    KEST_TRY(const std::uint16_t port, portFrom(args, settings));
     KEST_TRY(auto bridge, Bridge::open(port));
     KEST_TRY(const auto tabs, bridge.tabs());
     KEST_TRY(const std::size_t index,
              KestCore::findByIdPrefix(KestCore::idsOf(tabs), args.tab, "tab"));
     const BrowserTab &tab = tabs[index];
+    KEST_TRY(auto store, session.openStore());
     KEST_CHECK(store.change([&](KestCore::NativeState &state) -> Result<void> {
         KestCore::connectTab(state.settings, {.port = port, .tab = tab.id});
         return {};
@@ -199,12 +196,6 @@ CLI::App *addAction(CLI::App *playback, Session &session, const SharedArguments 
     return command;
 }
 
-std::string refuseUnlessFinite(const std::string &text)
-{
-    const auto number = Base::numberFrom<double>(text);
-    return number && std::isfinite(*number) ? "" : "Value " + text + " is no number";
-}
-
 void addActions(CLI::App *playback, Session &session, const SharedArguments &args)
 {
     const auto add = [&](const char *name, const char *help, Kind kind) {
@@ -214,14 +205,12 @@ void addActions(CLI::App *playback, Session &session, const SharedArguments &arg
     add("play-pause", "Plays, or pauses what plays", Kind::playPause);
     add("next", "Goes to the next one", Kind::next);
     add("previous", "Goes back to the one before", Kind::previous);
-    add("seek", "Goes to a place in it", Kind::seek)
-        ->add_option("SECONDS", args->value, "From the beginning")
-        ->required()
-        ->check(refuseUnlessFinite);
-    add("volume", "Sets how loud it is", Kind::volume)
-        ->add_option("LEVEL", args->value, "From 0 to 1")
-        ->required()
-        ->check(refuseUnlessFinite);
+    const auto take = [args](double value) { args->value = value; };
+    addNumber(add("seek", "Goes to a place in it", Kind::seek), "SECONDS", take,
+              "From the beginning")
+        ->required();
+    addNumber(add("volume", "Sets how loud it is", Kind::volume), "LEVEL", take, "From 0 to 1")
+        ->required();
 }
 
 void addPort(CLI::App *command, const SharedArguments &args)

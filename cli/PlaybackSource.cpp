@@ -8,6 +8,9 @@
 
 #include <fmt/format.h>
 
+#include <cmath>
+#include <cstdio>
+
 namespace Cli
 {
 
@@ -40,6 +43,9 @@ Result<TabOutcome> playInTab(const ConnectedTab &connected, const PlaybackAction
     if (playback) {
         outcome.playback =
             SourcedPlayback{.playback = *std::move(playback), .source = "the connected tab"};
+        using Status = Player::Status;
+        outcome.playback->status =
+            outcome.playback->playback.playing ? Status::playing : Status::paused;
     }
     return outcome;
 }
@@ -59,7 +65,9 @@ Result<void> remember(const Session &session, const std::string &player)
 SourcedPlayback sourced(const Player &player)
 {
     return {.playback = MediaPlayers::playbackOf(player),
-            .source = player.identity.empty() ? player.name : player.identity};
+            .source = player.identity.empty() ? player.name : player.identity,
+            .status = player.status,
+            .isVolumeKnown = std::isfinite(player.volume)};
 }
 
 // The store is closed while players are asked, who may take their time.
@@ -84,7 +92,10 @@ Result<Sourced> playInPlayer(const Session &session, const PlaybackAction &actio
         return sourced(*player);
     }
     KEST_TRY(const Player now, MediaPlayers::performAndRead(*bus, *player, action));
-    KEST_CHECK(remember(session, player->name));
+    if (const auto kept = remember(session, player->name); !kept) {
+        // The player has done it: to say that it failed would have it done twice.
+        std::fprintf(stderr, "kest: %s\n", printable(kept.error().message).c_str());
+    }
     return sourced(now);
 }
 
@@ -93,11 +104,7 @@ Result<Sourced> playInPlayer(const Session &session, const PlaybackAction &actio
 Result<Sourced> playSomewhere(const Session &session, const PlaybackAction &action,
                               const std::optional<std::string> &player)
 {
-    KestCore::Settings settings;
-    {
-        KEST_TRY(const auto store, session.openStore());
-        settings = store.state().settings;
-    }
+    KEST_TRY(const auto settings, storedSettings(session));
     const auto connected = KestCore::connectedTab(settings);
     TabOutcome tab;
     if (connected && !player) {

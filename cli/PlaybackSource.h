@@ -4,6 +4,7 @@
 
 #include "KestCore/Media/BrowserPlayback.h"
 #include "KestCore/Media/BrowserPlaybackScript.h"
+#include "MediaPlayers/Player.h"
 #include "cli/Session.h"
 
 #include <optional>
@@ -18,6 +19,8 @@ using PlaybackAction = KestCore::BrowserPlaybackScript::Action;
 struct SourcedPlayback {
     KestCore::BrowserPlayback playback{};
     std::string source{};
+    MediaPlayers::Player::Status status{};
+    bool isVolumeKnown = true;
 };
 
 // Does the action where the user means it and says what plays there then: in the player with

@@ -19,4 +19,10 @@ Result<KestCore::StateStore> Session::openStore() const
     return KestCore::StateStore::open(databaseFile());
 }
 
+Result<KestCore::Settings> storedSettings(const Session &session)
+{
+    KEST_TRY(const auto store, session.openStore());
+    return store.state().settings;
+}
+
 } // namespace Cli

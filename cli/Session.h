@@ -28,6 +28,10 @@ struct Session {
     [[nodiscard]] Result<KestCore::StateStore> openStore() const;
 };
 
+// The settings as they are stored now. The store is closed again: who goes on to ask others,
+// who may take their time, must not keep it from counting.
+[[nodiscard]] Result<KestCore::Settings> storedSettings(const Session &session);
+
 // Each adds its commands to the program; chosen, they set `session.command`.
 void addCounterCommands(CLI::App &program, Session &session);
 void addCatalogueCommands(CLI::App &program, Session &session);

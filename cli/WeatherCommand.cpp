@@ -8,6 +8,7 @@
 #include "KestCore/Clients/WeatherPresentation.h"
 #include "KestCore/Clients/WeatherSymbols.h"
 #include "cli/Answers.h"
+#include "cli/NumberOption.h"
 #include "cli/PrayerText.h"
 #include "cli/Session.h"
 
@@ -190,10 +191,12 @@ void addWeatherCommand(CLI::App &program, Session &session)
 {
     const auto args = std::make_shared<Arguments>();
     CLI::App *weather = program.add_subcommand("weather", "Shows the weather and its forecast");
-    CLI::Option *latitude =
-        weather->add_option("--latitude", args->latitude, "Degrees, north positive");
-    CLI::Option *longitude =
-        weather->add_option("--longitude", args->longitude, "Degrees, east positive");
+    CLI::Option *latitude = addNumber(
+        weather, "--latitude", [args](double degrees) { args->latitude = degrees; },
+        "Degrees, north positive");
+    CLI::Option *longitude = addNumber(
+        weather, "--longitude", [args](double degrees) { args->longitude = degrees; },
+        "Degrees, east positive");
     latitude->needs(longitude);
     longitude->needs(latitude);
     weather->callback([=, &session] {

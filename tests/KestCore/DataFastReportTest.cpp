@@ -337,7 +337,7 @@ TEST(InsightKeys, AreReadOnlyAndOneWord)
              Case{stripe, "rk_live_51AbC", ""},
              Case{stripe, "rk_test_51AbC", ""},
              Case{stripe, "sk_live_51AbC", "This is a secret Stripe key: whoever has it can"},
-             Case{stripe, "sk_test_51AbC", "This is a secret Stripe key: whoever has it can"},
+             Case{stripe, "sk_test_51AbC", "This is a secret Stripe test key, whose figures"},
              Case{stripe, "pk_live_51AbC", "This is no restricted Stripe key."},
              Case{stripe, "rk_live_51\r\nX-Header: 1", "A key is one word"},
              Case{datafast, "df_51AbC", ""},

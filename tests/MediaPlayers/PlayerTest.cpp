@@ -96,6 +96,9 @@ TEST(Players, AreFoundByTheNamesThatPeopleGiveThem)
                                                              {"internet radio", 2}}) {
         EXPECT_EQ(find(players, wanted), &players[static_cast<std::size_t>(index)]) << wanted;
     }
+    const std::vector<Player> named{{.name = "v.instance7"}, {.name = "v"}};
+    EXPECT_EQ(find(named, "v"), &named[1]);
+    EXPECT_EQ(find({{.name = "nameless"}}, ""), nullptr);
     for (const char *wanted : {"", "fir", "instance_9", "radio.instance"}) {
         EXPECT_EQ(find(players, wanted), nullptr) << wanted;
     }
@@ -103,8 +106,12 @@ TEST(Players, AreFoundByTheNamesThatPeopleGiveThem)
 
 TEST(Player, ShowsWhetherItHasFollowed)
 {
-    const Player before{
-        .status = Status::paused, .title = "One", .track = "/1", .position = 60, .volume = 0.5};
+    const Player before{.status = Status::paused,
+                        .title = "One",
+                        .track = "/1",
+                        .position = 60,
+                        .duration = 200,
+                        .volume = 0.5};
     struct Case {
         Action action;
         void (*change)(Player &);
@@ -120,6 +127,10 @@ TEST(Player, ShowsWhetherItHasFollowed)
              Case{{Kind::seek, 90}, [](Player &p) { p.position = 90.4; }, true},
              Case{{Kind::seek, 90}, [](Player &p) { p.position = 60; }, false},
              Case{{Kind::seek, -9}, [](Player &p) { p.position = 0; }, true},
+             Case{{Kind::seek, 1e300}, [](Player &p) { p.position = 200; }, true},
+             Case{{Kind::seek, 61}, [](Player &p) { p.position = 60; }, false},
+             Case{{Kind::seek, 61}, [](Player &p) { p.position = 61; }, true},
+             Case{{Kind::volume, 0.51}, [](Player &p) { p.volume = 0.5; }, false},
              Case{{Kind::volume, 0.8}, [](Player &p) { p.volume = 0.8; }, true},
              Case{{Kind::volume, 7}, [](Player &p) { p.volume = 1; }, true},
              Case{{Kind::volume, 0.8}, [](Player &p) { p.volume = 0.5; }, false},
@@ -133,15 +144,23 @@ TEST(Player, ShowsWhetherItHasFollowed)
 TEST(Players, AreReadAgainUntilTheyHaveFollowed)
 {
     SlowBus slow;
-    EXPECT_EQ(performAndRead(slow, slow.player, {Kind::playPause})->status, Status::playing);
+    constexpr std::chrono::hours kLong{1};
+    EXPECT_EQ(performAndRead(slow, Player{slow.player}, {Kind::playPause}, kLong)->status,
+              Status::playing);
     SlowBus stubborn;
     stubborn.looksUntilDone = -1;
-    EXPECT_EQ(performAndRead(stubborn, stubborn.player, {Kind::playPause})->status,
+    constexpr std::chrono::milliseconds kNone{0};
+    EXPECT_EQ(
+        performAndRead(stubborn, Player{stubborn.player}, {Kind::playPause}, kNone)->status,
+        Status::paused);
+    // It says that it cannot, so nobody waits for it.
+    EXPECT_EQ(performAndRead(stubborn, Player{stubborn.player}, {Kind::next}, kLong)->status,
               Status::paused);
     SlowBus gone;
     gone.isGone = true;
-    EXPECT_EQ(performAndRead(gone, gone.player, {Kind::playPause}).error().message,
-              "The player \"slow\" does not answer any more.");
+    EXPECT_EQ(
+        performAndRead(gone, Player{gone.player}, {Kind::playPause}, kLong).error().message,
+        "The player \"slow\" does not answer any more.");
 }
 
 } // namespace MediaPlayersTests
