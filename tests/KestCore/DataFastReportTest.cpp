@@ -4,6 +4,7 @@
 #include "KestCore/Clients/InsightKeys.h"
 #include "KestCore/Clients/InsightResponse.h"
 #include "KestCore/Clients/InsightText.h"
+#include "KestCore/Clients/ServiceAddress.h"
 #include "tests/KestCore/ScriptedTransport.h"
 
 #include <fmt/format.h>
