@@ -67,8 +67,9 @@ Result<std::string> Bridge::answerTo(std::int64_t id)
             return std::unexpected(unreadable());
         }
         if (answer->id == id) {
-            return answer->result ? Result<std::string>{std::string{answer->result->text}}
-                                  : std::unexpected(refused());
+            const auto &result = answer->result;
+            return result ? Result<std::string>{std::string{result->text}}
+                          : std::unexpected(refused());
         }
     }
 }

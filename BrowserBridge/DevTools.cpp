@@ -44,7 +44,7 @@ Result<std::string> debuggerPath(std::string_view versionDocument, std::uint16_t
         return std::unexpected(
             KestError::unavailable("What listens on the port is no browser."));
     }
-    std::string_view address = version->webSocketDebuggerUrl;
+    const std::string_view address = version->webSocketDebuggerUrl;
     for (const std::string_view host : {"127.0.0.1", "localhost"}) {
         const std::string origin = fmt::format("ws://{}:{}", host, port);
         if (address.starts_with(origin) && isPath(address.substr(origin.size()))) {

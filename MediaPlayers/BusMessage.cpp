@@ -11,11 +11,18 @@ namespace MediaPlayers
 namespace
 {
 
+// Reads the basic value that comes next; the bus writes it to an address without a type.
+template <class Wire>
+bool readNext(sd_bus_message *message, char type, Wire &wire)
+{
+    return sd_bus_message_read_basic(message, type, static_cast<void *>(&wire)) > 0;
+}
+
 template <class Wire, class Kept>
 bool readBasic(sd_bus_message *message, char type, BusValue &value)
 {
     Wire wire{};
-    if (sd_bus_message_read_basic(message, type, &wire) <= 0) {
+    if (!readNext(message, type, wire)) {
         return false;
     }
     value.value.emplace<Kept>(static_cast<Kept>(wire));
@@ -25,7 +32,7 @@ bool readBasic(sd_bus_message *message, char type, BusValue &value)
 bool readFlag(sd_bus_message *message, BusValue &value)
 {
     int wire = 0; // the bus's own size of a boolean
-    if (sd_bus_message_read_basic(message, SD_BUS_TYPE_BOOLEAN, &wire) <= 0) {
+    if (!readNext(message, SD_BUS_TYPE_BOOLEAN, wire)) {
         return false;
     }
     value.value = wire != 0;
@@ -39,7 +46,7 @@ bool readTexts(sd_bus_message *message, BusValue &value)
     }
     std::string joined;
     const char *text = nullptr;
-    while (sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &text) > 0) {
+    while (readNext(message, SD_BUS_TYPE_STRING, text)) {
         joined += joined.empty() ? "" : ", ";
         joined += text;
     }
@@ -106,7 +113,7 @@ bool readMap(sd_bus_message *message, BusMap &map)
     }
     while (sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "sv") > 0) {
         const char *key = nullptr;
-        if (sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &key) <= 0) {
+        if (!readNext(message, SD_BUS_TYPE_STRING, key)) {
             return false;
         }
         if (!readVariant(message, map[key]) || sd_bus_message_exit_container(message) < 0) {

@@ -29,7 +29,7 @@ bool readVariant(sd_bus_message *message, BusValue &value);
 
 // The value of that key when it has this type, or the other value.
 template <class T>
-T valueOr(const BusMap &map, const std::string &key, T other)
+T valueOr(const BusMap &map, const std::string &key, const T &other)
 {
     const auto found = map.find(key);
     const T *value = found == map.end() ? nullptr : std::get_if<T>(&found->second.value);

@@ -23,6 +23,9 @@
 namespace Cli
 {
 
+namespace
+{
+
 // A forecast as it is answered, its instants written out.
 struct SampleAnswer {
     std::string date{};
@@ -52,9 +55,6 @@ consteval auto jsonFields(Of<ForecastAnswer>)
                       json::Field{"samples", &ForecastAnswer::samples}};
 }
 static_assert(json::coversAllMembers<ForecastAnswer>());
-
-namespace
-{
 
 using KestCore::WeatherForecast;
 using KestCore::WeatherPlace;

@@ -25,12 +25,15 @@ void require(bool holds)
 // What a page answers. What is accepted keeps the rules and is the same after another round.
 void readResponse(std::string_view text)
 {
-    const auto playback = KestCore::BrowserPlayback::parse(text);
-    if (playback && *playback) {
-        require((*playback)->validate().has_value());
-        const auto again = Base::json::encode(**playback);
+    const auto parsed = KestCore::BrowserPlayback::parse(text);
+    if (!parsed) {
+        return;
+    }
+    if (const auto &playback = *parsed) {
+        require(playback->validate().has_value());
+        const auto again = Base::json::encode(*playback);
         require(again && Base::json::decode<KestCore::BrowserPlayback>(
-                             std::string_view{*again}) == **playback);
+                             std::string_view{*again}) == *playback);
     }
 }
 
@@ -42,16 +45,17 @@ std::vector<Message> readFrames(std::string_view bytes, std::size_t step)
     for (; !bytes.empty(); bytes.remove_prefix(std::min(step, bytes.size()))) {
         reader.add(bytes.substr(0, step));
         while (true) {
-            const auto message = reader.next();
-            if (!message) {
-                messages.push_back({.payload = message.error().message});
+            const auto next = reader.next();
+            if (!next) {
+                messages.push_back({.payload = next.error().message});
                 return messages;
             }
-            if (!*message) {
+            const auto &message = *next;
+            if (!message) {
                 break;
             }
-            require((*message)->payload.size() <= FrameReader::kLargestMessage);
-            messages.push_back(**message);
+            require(message->payload.size() <= FrameReader::kLargestMessage);
+            messages.push_back(*message);
         }
     }
     return messages;
@@ -66,8 +70,12 @@ void readFramesInPieces(std::string_view bytes)
 
 void readHead(std::string_view bytes)
 {
-    const auto head = parseHead(bytes);
-    require(!head || !*head || (*head)->size <= bytes.size());
+    const auto parsed = parseHead(bytes);
+    if (!parsed) {
+        return;
+    }
+    const auto &head = *parsed;
+    require(!head || head->size <= bytes.size());
 }
 
 void readVersion(std::string_view text)

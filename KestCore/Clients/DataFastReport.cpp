@@ -55,7 +55,8 @@ InsightResult<std::vector<Item>> itemsOf(std::string body)
         return unexpectedReport();
     }
     std::vector<Item> items;
-    if (!answer->data) {
+    const auto &rows = answer->data;
+    if (!rows) {
         return items;
     }
     const auto take = [&](const json::PaddedText &one) -> Result<void> {
@@ -66,7 +67,7 @@ InsightResult<std::vector<Item>> itemsOf(std::string body)
         items.push_back(std::move(item));
         return {};
     };
-    const json::RawJson &data = *answer->data;
+    const json::RawJson &data = *rows;
     const auto taken = data.text.starts_with('[') ? json::forEachItem(data, take)
                                                   : take(json::PaddedText{data.text});
     return taken ? InsightResult<std::vector<Item>>{std::move(items)} : unexpectedReport();
@@ -257,10 +258,11 @@ InsightResult<InsightReport> dataFastReport(InsightExchange &exchange, std::stri
         KEST_CHECK(addDetails(questions, span, zone, report));
     }
     KEST_TRY(const Rows online, questions.ask<DataFastRow>("realtime", {}, false));
-    if (online.empty() || !online.front().visitors) {
+    const auto visitors = online.empty() ? std::nullopt : online.front().visitors;
+    if (!visitors) {
         return unexpectedReport();
     }
-    report.online = std::llround(*online.front().visitors);
+    report.online = std::llround(*visitors);
     return report;
 }
 

@@ -91,10 +91,10 @@ Base::HttpRequest WeatherClient::requestFor(const std::string &url) const
                      .value = fmt::format("Velvetnook/1.0 (+{})", kProductAddress)}},
         .timeout = kTimeout,
         .mostBytes = kLargestBody};
-    if (const auto known = m_cache.find(url);
-        known != m_cache.end() && known->second.modified) {
-        request.headers.push_back(
-            {.name = "If-Modified-Since", .value = *known->second.modified});
+    if (const auto known = m_cache.find(url); known != m_cache.end()) {
+        if (const auto &modified = known->second.modified) {
+            request.headers.push_back({.name = "If-Modified-Since", .value = *modified});
+        }
     }
     return request;
 }

@@ -123,8 +123,10 @@ bool isIn(const Units &units, const char *quantity, std::string_view unit)
 std::optional<double> within(std::optional<double> value, bool isKnown, double least,
                              double most)
 {
-    const bool isUsable = isKnown && value && *value >= least && *value <= most;
-    return isUsable ? std::optional{*value + 0.0} : std::nullopt; // no -0
+    if (!isKnown || !value || !(*value >= least && *value <= most)) {
+        return std::nullopt;
+    }
+    return *value + 0.0; // no -0
 }
 
 Details detailsOf(const std::optional<Period> &period)
@@ -134,8 +136,10 @@ Details detailsOf(const std::optional<Period> &period)
 
 std::string codeOf(std::optional<Period> &period)
 {
-    const bool isGiven = period && period->summary && period->summary->symbolCode;
-    return isGiven ? std::move(*period->summary->symbolCode) : "cloudy";
+    if (!period || !period->summary) {
+        return "cloudy";
+    }
+    return std::move(period->summary->symbolCode).value_or("cloudy");
 }
 
 std::optional<WeatherForecast::Sample> sampleOf(Entry &entry, const KnownUnits &units)

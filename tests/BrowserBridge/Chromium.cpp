@@ -26,6 +26,9 @@ namespace
 {
 
 constexpr const char *kProgram = "/usr/bin/chromium";
+// The look-alike page answers under its host name; nothing else of the web is found.
+constexpr const char *kHostRules =
+    "--host-resolver-rules=MAP *youtube.com 127.0.0.1, MAP * ~NOTFOUND, EXCLUDE 127.0.0.1";
 
 // Long enough for a busy machine; nothing is measured by it.
 template <class Condition>
@@ -67,23 +70,21 @@ void Chromium::stop() const
 void Chromium::start()
 {
     const std::string log = m_profile.path() / "log";
-    std::vector<std::string> arguments{
-        kProgram,
-        "--headless=new",
-        "--no-sandbox",
-        "--disable-gpu",
-        "--disable-dev-shm-usage",
-        "--remote-debugging-port=0",
-        "--user-data-dir=" + (m_profile.path() / "p").string(),
-        "--no-first-run",
-        "--disable-background-networking",
-        "--disable-component-update",
-        "--disable-sync",
-        "--ignore-certificate-errors",
-        "--disable-breakpad",
-        "--host-resolver-rules=MAP *youtube.com 127.0.0.1, MAP * ~NOTFOUND, "
-        "EXCLUDE 127.0.0.1",
-        "about:blank"};
+    std::vector<std::string> arguments{kProgram,
+                                       "--headless=new",
+                                       "--no-sandbox",
+                                       "--disable-gpu",
+                                       "--disable-dev-shm-usage",
+                                       "--remote-debugging-port=0",
+                                       "--user-data-dir=" + (m_profile.path() / "p").string(),
+                                       "--no-first-run",
+                                       "--disable-background-networking",
+                                       "--disable-component-update",
+                                       "--disable-sync",
+                                       "--ignore-certificate-errors",
+                                       "--disable-breakpad",
+                                       kHostRules,
+                                       "about:blank"};
     std::vector<char *> argv;
     for (std::string &argument : arguments) {
         argv.push_back(argument.data());

@@ -33,14 +33,14 @@ protected:
     static void SetUpTestSuite()
     {
         if (Chromium::isInstalled()) {
-            s_server = std::make_unique<PageServer>();
-            s_browser = std::make_unique<Chromium>();
+            theServer = std::make_unique<PageServer>();
+            theBrowser = std::make_unique<Chromium>();
         }
     }
     static void TearDownTestSuite()
     {
-        s_browser.reset();
-        s_server.reset();
+        theBrowser.reset();
+        theServer.reset();
     }
     void SetUp() override
     {
@@ -49,19 +49,20 @@ protected:
         }
     }
 
-    static Chromium &browser() { return *s_browser; }
+    static Chromium &browser() { return *theBrowser; }
     static std::string urlOf(const std::string &path, const std::string &host = "127.0.0.1")
     {
-        return fmt::format("https://{}:{}{}", host, s_server->port(), path);
+        return fmt::format("https://{}:{}{}", host, theServer->port(), path);
     }
     static std::string open(const std::string &script, const std::string &title = "A page",
                             const std::string &body = "")
     {
-        return browser().openTab(urlOf(s_server->add(title, body, script)));
+        return browser().openTab(urlOf(theServer->add(title, body, script)));
     }
     static std::string openOn(const std::string &host, const std::string &body)
     {
-        return browser().openTab(urlOf(s_server->add("Site", body, "await addAudio(5)"), host));
+        return browser().openTab(
+            urlOf(theServer->add("Site", body, "await addAudio(5)"), host));
     }
     // Each on a bridge of its own, as the commands do it.
     static Base::Result<std::optional<BrowserPlayback>> tryTo(const std::string &tab,
@@ -86,12 +87,12 @@ protected:
     }
     static std::string server(const std::string &title, const std::string &script)
     {
-        return urlOf(s_server->add(title, "", script));
+        return urlOf(theServer->add(title, "", script));
     }
 
 private:
-    static inline std::unique_ptr<PageServer> s_server{};
-    static inline std::unique_ptr<Chromium> s_browser{};
+    static inline std::unique_ptr<PageServer> theServer{};
+    static inline std::unique_ptr<Chromium> theBrowser{};
 };
 
 constexpr const char *kButtons =
@@ -210,9 +211,11 @@ TEST_F(ChromiumTest, SurvivesAnyTextOfAPage)
                                                }()},
              {R"('\uD83D' + 'a\uDCFF')", "\uFFFDa\uFFFD"},
          }) {
-        EXPECT_EQ(evaluate(tab, "navigator.mediaSession.metadata = new MediaMetadata({title: " +
-                                    text + ", artist: " + text + "}); ''"),
-                  "");
+        EXPECT_EQ(
+            evaluate(tab, fmt::format("navigator.mediaSession.metadata = "
+                                      "new MediaMetadata({{title: {0}, artist: {0}}}); ''",
+                                      text)),
+            "");
         const BrowserPlayback playback = run(tab);
         EXPECT_EQ(playback.title, title);
         EXPECT_EQ(playback.artist, title);

@@ -27,7 +27,7 @@ class WeatherCommand : public testing::Test
 {
 protected:
     WeatherCommand() { setService(m_server.url()); }
-    ~WeatherCommand() override
+    void TearDown() override
     {
         unsetenv("KEST_WEATHER_URL");
         unsetenv("KEST_CA_FILE");

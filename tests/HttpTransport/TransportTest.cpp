@@ -7,7 +7,6 @@
 
 #include <thread>
 
-using Base::HttpFailure;
 using Base::HttpRequest;
 using Base::HttpResult;
 using testing::AllOf;

@@ -7,8 +7,6 @@
 
 #include <cstdlib>
 
-using testing::HasSubstr;
-using testing::Not;
 using Kind = Base::HttpFailure::Kind;
 
 TEST(TransportTrust, TrustsOnlyCertificatesOfAKnownAuthorityForThatHost)

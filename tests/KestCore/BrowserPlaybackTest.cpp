@@ -271,12 +271,17 @@ TEST(BrowserPlaybackScript, KnowsFourBrowsers)
               "Automation access.");
 }
 
+namespace
+{
+
 // Texts of any bytes, and often of those that mean something inside a literal.
 rc::Gen<std::string> hostileText()
 {
     return rc::gen::container<std::string>(rc::gen::oneOf(
         rc::gen::element('"', '\\', '\n', '\r', '{', '}', '\0'), rc::gen::arbitrary<char>()));
 }
+
+} // namespace
 
 RC_GTEST_PROP(BrowserPlaybackScript, LetsNothingOutOfALiteral, ())
 {

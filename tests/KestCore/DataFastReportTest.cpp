@@ -155,7 +155,7 @@ TEST(DataFastReport, TellsWhatIsMissingAndWhatIsEmpty)
     ASSERT_TRUE(report);
     EXPECT_EQ(metricText(report->rows[0]), "3");
     EXPECT_EQ(metricText(report->rows[5]), "5.00 €");
-    for (const std::size_t missing : {1, 2, 3, 4, 6}) {
+    for (const std::size_t missing : {1U, 2U, 3U, 4U, 6U}) {
         EXPECT_EQ(metricText(report->rows[missing]), "Unavailable");
     }
     for (const char *nothing :

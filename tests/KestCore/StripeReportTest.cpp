@@ -14,11 +14,8 @@ namespace KestCore
 namespace
 {
 
-using testing::AllOf;
 using testing::ElementsAre;
 using testing::EndsWith;
-using testing::HasSubstr;
-using testing::Not;
 
 const Base::Instant kNow = *Base::fromIso8601("2026-11-21T18:00:00Z");
 constexpr const char *kKey = "rk_live_a1B2c3";

@@ -13,7 +13,6 @@
 #include <limits>
 #include <thread>
 
-using KestCore::WeatherForecast;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using Way = WebReply::Way;

@@ -5,6 +5,7 @@
 #include "KestCore/Clients/HttpDate.h"
 #include "tests/ForecastDocument.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -117,7 +118,7 @@ TEST(WeatherForecast, TurnsAnEntryIntoASample)
          }) {
         SCOPED_TRACE(name);
         const std::string other = forecastEntry(kNoon + Base::Seconds{60}, 1);
-        const auto forecast = parse(forecastDocument(text + "," + other, units));
+        const auto forecast = parse(forecastDocument(fmt::format("{},{}", text, other), units));
         ASSERT_TRUE(forecast) << messageOf(forecast);
         ASSERT_EQ(forecast->samples.size(), expected ? 2U : 1U);
         if (expected) {
