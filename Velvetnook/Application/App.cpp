@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/App.h"
+
+#include "Velvetnook/Application/ApplicationModel.h"
+
+#include <QQmlEngine>
+
+namespace Velvetnook
+{
+
+App::App(ApplicationModel &model, QObject *parent)
+    : QObject{parent}, m_model{model}, m_formatting{model}
+{
+}
+
+template <class T>
+T *App::made(T *&viewModel)
+{
+    if (viewModel == nullptr) {
+        viewModel = new T{m_model, m_formatting, this};
+    }
+    return viewModel;
+}
+
+PanelViewModel *App::panel() { return made(m_panel); }
+StripViewModel *App::strip() { return made(m_strip); }
+HomeViewModel *App::home() { return made(m_home); }
+CounterViewModel *App::counter() { return made(m_counter); }
+HistoryViewModel *App::history() { return made(m_history); }
+NamesViewModel *App::names() { return made(m_names); }
+PrayerViewModel *App::prayer() { return made(m_prayer); }
+RemindersViewModel *App::reminders() { return made(m_reminders); }
+FridayViewModel *App::friday() { return made(m_friday); }
+TimersViewModel *App::timers() { return made(m_timers); }
+UnitsViewModel *App::units() { return made(m_units); }
+NotesViewModel *App::notes() { return made(m_notes); }
+SettingsViewModel *App::settings() { return made(m_settings); }
+OnboardingViewModel *App::onboarding() { return made(m_onboarding); }
+PaletteViewModel *App::palette() { return made(m_palette); }
+
+void registerForQml(App &app)
+{
+    qmlRegisterSingletonInstance("Velvetnook.Application", 1, 0, "App", &app);
+}
+
+} // namespace Velvetnook

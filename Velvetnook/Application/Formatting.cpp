@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/Formatting.h"
+
+#include "Velvetnook/Application/ApplicationModel.h"
+
+#include <QDate>
+
+#include <array>
+#include <cmath>
+
+namespace Velvetnook
+{
+
+namespace
+{
+
+QString fromView(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace
+
+Formatting::Formatting(const ApplicationModel &model, QObject *parent)
+    : QObject{parent}, m_model{model}
+{
+}
+
+QString Formatting::language() const
+{
+    const std::string_view chosen = m_model.setting("appearance.language");
+    if (chosen == "en" || chosen == "ar") {
+        return fromView(chosen);
+    }
+    const bool isArabic = QLocale::system().language() == QLocale::Arabic;
+    return isArabic ? QStringLiteral("ar") : QStringLiteral("en");
+}
+
+QLocale Formatting::locale() const
+{
+    return isRightToLeft() ? QLocale{QLocale::Arabic, QLocale::Egypt}
+                           : QLocale{QLocale::English, QLocale::UnitedKingdom};
+}
+
+QString Formatting::digits(QString text) const
+{
+    const std::string_view chosen = m_model.setting("appearance.digits");
+    const bool arabic = chosen == "arabic" || (chosen != "latin" && isRightToLeft());
+    for (QChar &letter : text) {
+        const bool isLatinDigit = letter >= u'0' && letter <= u'9';
+        const bool isArabicDigit = letter >= u'٠' && letter <= u'٩';
+        if (arabic && isLatinDigit) {
+            letter = QChar{letter.unicode() - u'0' + u'٠'};
+        } else if (!arabic && isArabicDigit) {
+            letter = QChar{letter.unicode() - u'٠' + u'0'};
+        }
+    }
+    return text;
+}
+
+QString Formatting::number(qlonglong value) const { return digits(locale().toString(value)); }
+
+QString Formatting::decimal(double value, int decimals) const
+{
+    return digits(locale().toString(value, 'f', decimals));
+}
+
+QString Formatting::time(Base::Instant instant) const
+{
+    return timeIn(m_model.calendar(), instant);
+}
+
+QString Formatting::timeIn(const KestCore::Calendar &calendar, Base::Instant instant) const
+{
+    const KestCore::LocalTime local = calendar.at(instant);
+    return digits(QStringLiteral("%1:%2")
+                      .arg(local.hour, 2, 10, QLatin1Char{'0'})
+                      .arg(local.minute, 2, 10, QLatin1Char{'0'}));
+}
+
+QString Formatting::date(Base::Instant instant) const
+{
+    const KestCore::LocalTime local = m_model.calendar().at(instant);
+    const QDate date{local.year, local.month, local.day};
+    return digits(locale().toString(date, QStringLiteral("dddd d MMMM")));
+}
+
+QString Formatting::islamicDate(const KestCore::IslamicDate &date) const
+{
+    static constexpr std::array kEnglish{
+        "Muharram", "Safar",   "Rabi I",  "Rabi II", "Jumada I",     "Jumada II",
+        "Rajab",    "Sha‘ban", "Ramadan", "Shawwal", "Dhu al-Qa‘da", "Dhu al-Hijja"};
+    static constexpr std::array kArabic{
+        "محرم", "صفر",   "ربيع الأول", "ربيع الآخر", "جمادى الأولى", "جمادى الآخرة",
+        "رجب",  "شعبان", "رمضان",      "شوال",       "ذو القعدة",    "ذو الحجة"};
+    const auto &months = isRightToLeft() ? kArabic : kEnglish;
+    const auto month = static_cast<std::size_t>(date.month - 1);
+    return digits(QStringLiteral("%1 %2 %3")
+                      .arg(date.day)
+                      .arg(QString::fromUtf8(months.at(month)))
+                      .arg(date.year));
+}
+
+QString Formatting::duration(double seconds) const
+{
+    const auto whole = static_cast<qint64>(std::ceil(std::max(seconds, 0.0)));
+    const auto two = [](qint64 value) {
+        return QStringLiteral("%1").arg(value, 2, 10, QLatin1Char{'0'});
+    };
+    const qint64 hours = whole / 3600;
+    const qint64 minutes = whole / 60 % 60;
+    const QString tail = two(whole % 60);
+    return digits(hours > 0 ? QStringLiteral("%1:%2:%3").arg(hours).arg(two(minutes), tail)
+                            : QStringLiteral("%1:%2").arg(minutes).arg(tail));
+}
+
+QString Formatting::remaining(double seconds) const
+{
+    if (seconds < 60) {
+        return digits(tr("%1 s").arg(static_cast<qint64>(std::ceil(std::max(seconds, 0.0)))));
+    }
+    const auto minutes = static_cast<qint64>(std::ceil(seconds / 60));
+    if (minutes <= 90) {
+        return digits(tr("%1 min").arg(minutes));
+    }
+    return digits(tr("%1 h %2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char{'0'}));
+}
+
+} // namespace Velvetnook

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/Instant.h"
+#include "KestCore/Devotional/Calendar.h"
+#include "KestCore/Prayer/PrayerCalculator.h"
+
+#include <QLocale>
+#include <QObject>
+#include <QString>
+
+namespace Velvetnook
+{
+
+class ApplicationModel;
+
+// Numbers, times and dates as the user reads them: in the language of the interface, with the
+// digits that were chosen, in the user's time zone. QML formats nothing itself.
+class Formatting : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Formatting(const ApplicationModel &model, QObject *parent = nullptr);
+
+    // The language of the interface, "en" or "ar": setting "appearance.language", or the
+    // session's where that is "system" or not set.
+    QString language() const;
+    bool isRightToLeft() const { return language() == QLatin1String{"ar"}; }
+    QLocale locale() const;
+
+    Q_INVOKABLE QString number(qlonglong value) const;
+    Q_INVOKABLE QString decimal(double value, int decimals) const;
+    // The same text with the chosen digits: setting "appearance.digits" is "latin" or "arabic";
+    // else as the language has them.
+    QString digits(QString text) const;
+
+    QString time(Base::Instant instant) const; // "13:48"
+    QString timeIn(const KestCore::Calendar &calendar, Base::Instant instant) const;
+    QString date(Base::Instant instant) const;                    // "Friday 14 November"
+    QString islamicDate(const KestCore::IslamicDate &date) const; // "23 Jumada I 1447"
+    QString duration(double seconds) const;                       // "14:32", "1:02:03"
+    // What is left until something, rounded up: "42 min", "3 h 05", and in the last minute "45
+    // s".
+    QString remaining(double seconds) const;
+
+private:
+    const ApplicationModel &m_model;
+};
+
+} // namespace Velvetnook

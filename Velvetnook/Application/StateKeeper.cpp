@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/StateKeeper.h"
+
+#include <utility>
+
+namespace Velvetnook
+{
+
+Committed committedAll(KestCore::Snapshot snapshot)
+{
+    return {.state = std::move(snapshot.state),
+            .companion = std::move(snapshot.companion),
+            .records = std::move(snapshot.records)};
+}
+
+StateKeeper::StateKeeper(std::filesystem::path file, KestCore::StateStore store,
+                         QObject *parent)
+    : QObject{parent},
+      m_slot{Slot{.file = std::move(file), .store = std::move(store), .failure = {}}}
+{
+}
+
+// Hands a call to the main loop. The queue of this object dies with it, after the store's
+// thread has ended, so no answer reaches what is gone.
+auto StateKeeper::onMainThread()
+{
+    return [this](auto call) {
+        auto shared = std::make_shared<decltype(call)>(std::move(call));
+        QMetaObject::invokeMethod(this, [shared] { (*shared)(); }, Qt::QueuedConnection);
+    };
+}
+
+void StateKeeper::perform(Operation operation, Answer answer)
+{
+    if (m_isLent) {
+        m_waiting.push_back({.operation = std::move(operation), .answer = std::move(answer)});
+        return;
+    }
+    send(std::move(operation), std::move(answer));
+}
+
+void StateKeeper::send(Operation operation, Answer answer)
+{
+    m_slot.ask(
+        [operation = std::move(operation)](Slot &slot) mutable -> Result<Committed> {
+            if (!slot.store) {
+                return std::unexpected(*slot.failure);
+            }
+            return operation(*slot.store);
+        },
+        onMainThread(), std::move(answer));
+}
+
+void StateKeeper::lend(std::function<void()> lent)
+{
+    m_isLent = true;
+    m_slot.ask(
+        [](Slot &slot) {
+            slot.store.reset();
+            slot.failure = KestError::unavailable("Another program has the data");
+            return true;
+        },
+        onMainThread(), [lent = std::move(lent)](bool) { lent(); });
+}
+
+Result<Committed> StateKeeper::reopen(Slot &slot)
+{
+    auto opened = KestCore::StateStore::open(slot.file);
+    if (!opened) {
+        slot.failure = opened.error();
+        return std::unexpected(opened.error());
+    }
+    slot.store = std::move(*opened);
+    KEST_TRY(KestCore::Snapshot snapshot, slot.store->snapshot());
+    return committedAll(std::move(snapshot));
+}
+
+void StateKeeper::takeBack(std::function<void(Result<Committed>)> back)
+{
+    m_slot.ask([](Slot &slot) { return reopen(slot); }, onMainThread(),
+               [this, back = std::move(back)](Result<Committed> held) {
+                   m_isLent = false;
+                   back(std::move(held));
+                   sendWaiting();
+               });
+}
+
+void StateKeeper::sendWaiting()
+{
+    while (!m_waiting.empty()) {
+        Waiting next = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        send(std::move(next.operation), std::move(next.answer));
+    }
+}
+
+} // namespace Velvetnook

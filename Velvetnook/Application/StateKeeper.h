@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/Serial.h"
+#include "KestCore/Store/StateStore.h"
+
+#include <QObject>
+
+#include <deque>
+#include <functional>
+#include <optional>
+
+namespace Velvetnook
+{
+
+using Base::KestError;
+using Base::Result;
+
+// What the store holds after an operation. Parts that the operation did not touch are absent.
+struct Committed {
+    std::optional<KestCore::NativeState> state{};
+    std::optional<KestCore::CompanionState> companion{};
+    std::optional<Base::SharedList<KestCore::RecordRef>> records{};
+};
+
+Committed committedAll(KestCore::Snapshot snapshot);
+
+// The store, on a thread of its own. Lives on the main thread, and answers arrive there, in
+// the order of the operations. The store can be lent to another program: what is asked while
+// it is away waits and is done when it is back.
+class StateKeeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Operation = std::move_only_function<Result<Committed>(KestCore::StateStore &)>;
+    using Answer = std::move_only_function<void(Result<Committed>)>;
+
+    // `file` is where `store` was opened.
+    StateKeeper(std::filesystem::path file, KestCore::StateStore store,
+                QObject *parent = nullptr);
+
+    void perform(Operation operation, Answer answer);
+
+    // Gives the store up for another program and calls `lent` once its lock is free.
+    void lend(std::function<void()> lent);
+    // Opens it again and tells what it holds now. When that fails what waits is answered with
+    // the failure, and so is all that follows until a later call succeeds.
+    void takeBack(std::function<void(Result<Committed>)> back);
+    bool isLent() const { return m_isLent; }
+
+private:
+    struct Slot {
+        std::filesystem::path file;
+        std::optional<KestCore::StateStore> store;
+        std::optional<KestError> failure; // why there is no store
+    };
+    struct Waiting {
+        Operation operation;
+        Answer answer;
+    };
+
+    [[nodiscard]] static Result<Committed> reopen(Slot &slot);
+    void send(Operation operation, Answer answer);
+    void sendWaiting();
+    auto onMainThread();
+
+    Base::Serial<Slot> m_slot;
+    std::deque<Waiting> m_waiting;
+    bool m_isLent = false;
+};
+
+} // namespace Velvetnook

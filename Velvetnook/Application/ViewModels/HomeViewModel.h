@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+namespace Velvetnook
+{
+
+class ApplicationModel;
+class Formatting;
+
+// What QML shows of the cards of the home view.
+class HomeViewModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    HomeViewModel(ApplicationModel &model, const Formatting &formatting,
+                  QObject *parent = nullptr);
+
+private:
+    ApplicationModel &m_model;
+    const Formatting &m_formatting;
+};
+
+} // namespace Velvetnook

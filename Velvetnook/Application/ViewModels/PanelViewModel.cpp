@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/ViewModels/PanelViewModel.h"
+
+#include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Formatting.h"
+
+namespace Velvetnook
+{
+
+PanelViewModel::PanelViewModel(ApplicationModel &model, const Formatting &formatting,
+                               QObject *parent)
+    : QObject{parent}, m_model{model}, m_formatting{formatting}
+{
+}
+
+} // namespace Velvetnook

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+namespace Velvetnook
+{
+
+class ApplicationModel;
+class Formatting;
+
+// What QML shows of the one thing that the closed strip shows.
+class StripViewModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    StripViewModel(ApplicationModel &model, const Formatting &formatting,
+                   QObject *parent = nullptr);
+
+private:
+    ApplicationModel &m_model;
+    const Formatting &m_formatting;
+};
+
+} // namespace Velvetnook

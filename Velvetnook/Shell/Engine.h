@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QQmlEngine>
+
+namespace Velvetnook
+{
+
+class App;
+class Theme;
+
+// Makes the singletons App and Theme and the icons known to what `engine` loads.
+void prepareEngine(QQmlEngine &engine, App &app, Theme &theme);
+
+} // namespace Velvetnook

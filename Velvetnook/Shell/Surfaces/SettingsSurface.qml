@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Velvetnook.Application
+
+Rectangle {
+    implicitWidth: 900
+    implicitHeight: 640
+    color: Theme.color.bg0
+}

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/App.h"
+#include "Velvetnook/Shots/Shot.h"
+
+namespace Velvetnook
+{
+
+std::vector<Shot> counterShots()
+{
+    return {
+        {.name = QStringLiteral("counter"), .surface = QStringLiteral("Panel"), .view = {}}};
+}
+
+} // namespace Velvetnook

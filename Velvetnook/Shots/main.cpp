@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "KestCore/Store/StateStore.h"
+#include "Velvetnook/Application/App.h"
+#include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Shell/Engine.h"
+#include "Velvetnook/Shell/Theme.h"
+#include "Velvetnook/Shots/Shot.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+// VelvetnookShots FOLDER [PATTERN]: draws the shots whose names contain PATTERN, in dark and
+// light, English and Arabic. The scale is that of QT_SCALE_FACTOR.
+namespace Velvetnook
+{
+
+namespace
+{
+
+struct Variant {
+    const char *theme;
+    const char *language;
+};
+constexpr Variant kVariants[]{{"dark", "en"}, {"light", "en"}, {"dark", "ar"}, {"light", "ar"}};
+
+std::vector<Shot> allShots()
+{
+    std::vector<Shot> all;
+    for (const auto &list : {counterShots(), devotionalShots(), prayerShots(), toolShots(),
+                             settingsShots(), surfaceShots(), paletteShots()}) {
+        all.insert(all.end(), list.begin(), list.end());
+    }
+    return all;
+}
+
+Result<KestCore::Snapshot> fill(KestCore::StateStore &store, const Shot &shot,
+                                const Variant &variant)
+{
+    ShotData data{.state = store.state(), .companion = store.companion(), .records = {}};
+    data.state.devotional.onboardingComplete = true;
+    data.state.settings["appearance.theme"] = variant.theme;
+    data.state.settings["appearance.language"] = variant.language;
+    data.state.settings["appearance.reduceMotion"] = "true";
+    data.state.settings["prayer.latitude"] = "51.5074";
+    data.state.settings["prayer.longitude"] = "-0.1278";
+    data.state.settings["prayer.timezone"] = "Europe/London";
+    data.state.settings["prayer.city"] = "London";
+    data.state.settings["prayer.country"] = "GB";
+    if (shot.prepare) {
+        shot.prepare(data);
+    }
+    KEST_CHECK(store.change([&](KestCore::NativeState &state) -> Result<void> {
+        state = data.state;
+        return {};
+    }));
+    KEST_CHECK(store.changeRecords({.written = data.records, .removed = {}}));
+    return store.saveCompanion(data.companion);
+}
+
+// Lets the loop run until nothing more arrives and the last fade has ended.
+void settle()
+{
+    QEventLoop loop;
+    QTimer::singleShot(350, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
+{
+    const QTemporaryDir data;
+    const std::filesystem::path file =
+        data.filePath(QStringLiteral("kest.sqlite")).toStdString();
+    auto store = KestCore::StateStore::open(file);
+    auto snapshot = store ? fill(*store, shot, variant) : std::unexpected(store.error());
+    if (!snapshot) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(shot.name),
+                     snapshot.error().message.c_str());
+        return false;
+    }
+    ApplicationModel model{std::make_unique<StateKeeper>(file, std::move(*store)),
+                           committedAll(std::move(*snapshot)), [] { return kShotTime; }};
+    App app{model};
+    Theme theme{model};
+    QTranslator translator;
+    if (app.format()->isRightToLeft() &&
+        translator.load(QStringLiteral(":/velvetnook/i18n/velvetnook_ar.qm"))) {
+        QGuiApplication::installTranslator(&translator);
+    }
+    QGuiApplication::setLayoutDirection(app.format()->isRightToLeft() ? Qt::RightToLeft
+                                                                      : Qt::LeftToRight);
+    QQmlEngine engine;
+    prepareEngine(engine, app, theme);
+    if (shot.arrange) {
+        shot.arrange(app);
+    }
+    settle();
+    QQmlComponent component{
+        &engine,
+        QStringLiteral("qrc:/Velvetnook/Shell/Surfaces/%1Surface.qml").arg(shot.surface)};
+    QVariantMap properties;
+    if (!shot.view.isEmpty()) {
+        properties.insert(QStringLiteral("view"), shot.view);
+    }
+    std::unique_ptr<QObject> made{component.createWithInitialProperties(properties)};
+    auto *surface = qobject_cast<QQuickItem *>(made.get());
+    if (surface == nullptr) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(shot.name),
+                     qPrintable(component.errorString()));
+        return false;
+    }
+    QQuickWindow window;
+    window.setColor(QColor{variant.theme == std::string_view{"dark"} ? "#3A4A42" : "#B9C7BD"});
+    window.resize(static_cast<int>(surface->implicitWidth()) + 80,
+                  static_cast<int>(surface->implicitHeight()) + 80);
+    surface->setParentItem(window.contentItem());
+    surface->setX(40);
+    surface->setSize({surface->implicitWidth(), surface->implicitHeight()});
+    window.show();
+    settle();
+    const QString name =
+        QStringLiteral("%1-%2-%3-%4.png")
+            .arg(shot.name, QLatin1String{variant.theme}, QLatin1String{variant.language})
+            .arg(qRound(window.devicePixelRatio() * 100));
+    const bool isSaved = window.grabWindow().save(folder.filePath(name));
+    std::printf("%s%s\n", qPrintable(name), isSaved ? "" : " COULD NOT BE WRITTEN");
+    surface->setParentItem(nullptr);
+    return isSaved;
+}
+
+} // namespace
+
+} // namespace Velvetnook
+
+int main(int argc, char **argv)
+{
+    using namespace Velvetnook;
+    if (argc < 2) {
+        std::fputs("VelvetnookShots FOLDER [PATTERN]\n", stderr);
+        return 2;
+    }
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    setenv("TZ", "Europe/London", 1);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application{argc, argv};
+    const QDir folder{QString::fromLocal8Bit(argv[1])};
+    folder.mkpath(QStringLiteral("."));
+    const QString pattern = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString{};
+    bool isWhole = true;
+    for (const Shot &shot : allShots()) {
+        for (const Variant &variant : kVariants) {
+            if (shot.name.contains(pattern)) {
+                isWhole = draw(shot, variant, folder) && isWhole;
+            }
+        }
+    }
+    return isWhole ? 0 : 1;
+}

@@ -1,0 +1,3 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+int main() { return 0; }
