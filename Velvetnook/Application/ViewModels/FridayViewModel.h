@@ -2,7 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Instant.h"
+
 #include <QObject>
+#include <QString>
+
+#include <optional>
 
 namespace Velvetnook
 {
@@ -14,12 +19,44 @@ class Formatting;
 class FridayViewModel : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(QString arabic READ arabic CONSTANT)
+    Q_PROPERTY(QString transliteration READ transliteration NOTIFY changed)
+    Q_PROPERTY(QString translation READ translation NOTIFY changed)
+    Q_PROPERTY(QString weekday READ weekday NOTIFY changed)
+    Q_PROPERTY(QString islamicDate READ islamicDate NOTIFY changed)
+    Q_PROPERTY(QString dhuhr READ dhuhr NOTIFY changed) // empty where there is none to tell
+    Q_PROPERTY(QString dhuhrNote READ dhuhrNote NOTIFY changed)
+    // Whether this is a Friday whose invitation still stands.
+    Q_PROPERTY(bool isInviting READ isInviting NOTIFY changed)
+    Q_PROPERTY(QString footer READ footer NOTIFY changed)
 
 public:
     FridayViewModel(ApplicationModel &model, const Formatting &formatting,
                     QObject *parent = nullptr);
 
+    QString arabic() const;
+    QString transliteration() const;
+    QString translation() const;
+    QString weekday() const;
+    QString islamicDate() const;
+    QString dhuhr() const;
+    QString dhuhrNote() const;
+    bool isInviting() const;
+    QString footer() const;
+
+    // When the invitation is to be shown, seen from `now`; see fridayDue.
+    std::optional<Base::Instant> dueAt(Base::Instant now) const;
+    // It is being shown, or the user wants none today: not again before the next Friday.
+    Q_INVOKABLE void markShown();
+    // Makes the blessings the phrase that is counted.
+    Q_INVOKABLE void beginCounting();
+
+signals:
+    void changed();
+
 private:
+    bool isFriday() const;
+
     ApplicationModel &m_model;
     const Formatting &m_formatting;
 };

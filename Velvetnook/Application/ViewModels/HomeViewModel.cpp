@@ -2,16 +2,285 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/ViewModels/HomeViewModel.h"
 
+#include "KestCore/Devotional/Rotation.h"
+#include "KestCore/Prayer/PrayerInputs.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/CounterSteps.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/HomeCards.h"
+#include "Velvetnook/Application/LocalDay.h"
+
+#include <QVariantMap>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Velvetnook
 {
+
+namespace
+{
+
+constexpr long long kLongInMinutes = 90; // from there on hours are told
+
+QVariantMap part(const QString &value, const QString &unit)
+{
+    return {{QStringLiteral("value"), value}, {QStringLiteral("unit"), unit}};
+}
+
+// How long until a count of `seconds` that is shown in whole units, rounded up, shows one less.
+// A moment later, so that the clock's own roundness does not hold it back.
+Base::Seconds untilOneLess(double seconds, double unit)
+{
+    const double rest = std::fmod(seconds, unit);
+    return Base::Seconds{(rest > 0 ? rest : unit) + 0.001};
+}
+
+const KestCore::Phrase &nameOfToday(const ApplicationModel &model)
+{
+    const auto &names = KestCore::contentCatalogue().names;
+    const auto &id = KestCore::nameOfTheDay(model.now(), model.calendar());
+    return KestCore::phraseById(id, names, names.front());
+}
+
+} // namespace
 
 HomeViewModel::HomeViewModel(ApplicationModel &model, const Formatting &formatting,
                              QObject *parent)
     : QObject{parent}, m_model{model}, m_formatting{formatting}
 {
+    connect(&m_model, &ApplicationModel::stateChanged, this, &HomeViewModel::follow);
+    connect(&m_model, &ApplicationModel::recordsChanged, this, &HomeViewModel::follow);
+    connect(&m_model, &ApplicationModel::companionChanged, this, &HomeViewModel::follow);
+    connect(&m_model, &ApplicationModel::calendarChanged, this, &HomeViewModel::follow);
+    m_model.clock().add(
+        this,
+        [this](Base::Instant now) {
+            return m_isShown ? nextTick(now) : std::optional<Base::Instant>{};
+        },
+        [this](Base::Instant now) {
+            if (m_next && now >= m_next->at) {
+                followPrayer();
+            }
+            emit changed();
+        });
+}
+
+void HomeViewModel::setShown(bool isShown)
+{
+    if (isShown == m_isShown) {
+        return;
+    }
+    m_isShown = isShown;
+    follow();
+    m_model.clock().reschedule();
+    emit isShownChanged();
+}
+
+void HomeViewModel::follow()
+{
+    if (!m_isShown) {
+        return;
+    }
+    followPrayer();
+    followTimers();
+    QVariantList cards;
+    for (const HomeCard &card : homeCards(m_model.state().settings, m_model.companion())) {
+        cards.append(QVariantMap{{QStringLiteral("tool"), QString::fromStdString(card.tool)},
+                                 {QStringLiteral("row"), card.row},
+                                 {QStringLiteral("column"), card.column},
+                                 {QStringLiteral("columns"), card.columns}});
+    }
+    if (cards != m_cards) {
+        m_cards = std::move(cards);
+        emit cardsChanged();
+    }
+    emit changed();
+}
+
+void HomeViewModel::followPrayer()
+{
+    m_next.reset();
+    m_prayerCalendar.reset();
+    const auto inputs = KestCore::prayerInputs(m_model.state().settings);
+    if (!inputs) {
+        m_prayerMessage = tr("Choose where you are");
+        return;
+    }
+    m_prayerCalendar = inputs->calendar;
+    m_next = KestCore::PrayerCalculator::next(*inputs, m_model.now());
+    m_prayerMessage = m_next ? QString{} : tr("No times on this date here.");
+}
+
+// The one that ends first, or the first that waits.
+void HomeViewModel::followTimers()
+{
+    m_timer.reset();
+    auto timers = KestCore::timersOf(m_model.recordsOfKind("timer"));
+    if (timers && !timers->empty()) {
+        KestCore::sortForList(*timers);
+        m_timer = timers->front();
+    }
+}
+
+std::optional<Base::Instant> HomeViewModel::nextTick(Base::Instant now) const
+{
+    std::optional<Base::Instant> tick;
+    if (m_next) {
+        const double left = (m_next->at - now).count();
+        tick = now + untilOneLess(left, left > 60 ? 60 : 1);
+    }
+    if (m_timer && m_timer->state.running && !KestCore::hasEnded(m_timer->state, now)) {
+        const double seconds = KestCore::remaining(m_timer->state, now);
+        const bool isStopwatch = !KestCore::countsDown(m_timer->state);
+        const Base::Instant second =
+            now + (isStopwatch ? Base::Seconds{std::floor(seconds) + 1.001 - seconds}
+                               : untilOneLess(seconds, 1));
+        tick = tick ? std::min(*tick, second) : second;
+    }
+    return tick;
+}
+
+QString HomeViewModel::footer() const
+{
+    return tr("%1 · %2").arg(m_formatting.date(m_model.now()),
+                             islamicDateText(m_model, m_formatting));
+}
+
+QString HomeViewModel::counterNote() const
+{
+    const KestCore::Session &session = m_model.state().devotional.session;
+    const QString count = m_formatting.number(session.count);
+    const QString progress =
+        session.target ? tr("%1 of %2").arg(count, m_formatting.number(*session.target))
+                       : tr("%1, open count").arg(count);
+    if (session.isPaused) {
+        return tr("%1 · paused").arg(progress);
+    }
+    if (!session.startedAt) {
+        return progress;
+    }
+    const auto startedAt = Base::fromMilliseconds1970(*session.startedAt);
+    return tr("%1 · since %2").arg(progress, m_formatting.time(startedAt));
+}
+
+QString HomeViewModel::prayerTitle() const
+{
+    if (!m_next) {
+        return tr("Prayer");
+    }
+    switch (m_next->prayer) {
+    case PrayerCore::Prayer::fajr:
+        return tr("Fajr");
+    case PrayerCore::Prayer::sunrise:
+        return tr("Sunrise");
+    case PrayerCore::Prayer::dhuhr:
+        return tr("Dhuhr");
+    case PrayerCore::Prayer::asr:
+        return tr("Asr");
+    case PrayerCore::Prayer::maghrib:
+        return tr("Maghrib");
+    case PrayerCore::Prayer::isha:
+        break;
+    }
+    return tr("Isha");
+}
+
+QVariantList HomeViewModel::prayerLeft() const
+{
+    if (!m_next) {
+        return {};
+    }
+    const double left = std::max((m_next->at - m_model.now()).count(), 0.0);
+    if (left < 60) {
+        return {part(m_formatting.number(std::llround(std::ceil(left))), tr("s"))};
+    }
+    const auto minutes = std::llround(std::ceil(left / 60));
+    if (minutes <= kLongInMinutes) {
+        return {part(m_formatting.number(minutes), tr("min"))};
+    }
+    const QString rest =
+        m_formatting.digits(QStringLiteral("%1").arg(minutes % 60, 2, 10, QLatin1Char{'0'}));
+    return {part(m_formatting.number(minutes / 60), tr("h")), part(rest, {})};
+}
+
+QString HomeViewModel::prayerNote() const
+{
+    if (!m_next || !m_prayerCalendar) {
+        return m_prayerMessage;
+    }
+    const QString time = m_formatting.timeIn(*m_prayerCalendar, m_next->at);
+    const std::string_view city = m_model.setting("prayer.city");
+    return city.empty() ? time : tr("%1 · %2").arg(time, QString::fromUtf8(city));
+}
+
+QString HomeViewModel::nameId() const
+{
+    return QString::fromStdString(nameOfToday(m_model).id);
+}
+
+QString HomeViewModel::nameArabic() const
+{
+    return QString::fromStdString(nameOfToday(m_model).arabic);
+}
+
+QString HomeViewModel::nameTitle() const
+{
+    return m_formatting.isRightToLeft() ? QString{} : phraseTitle(nameOfToday(m_model));
+}
+
+double HomeViewModel::timerSeconds() const
+{
+    return m_timer ? KestCore::remaining(m_timer->state, m_model.now()) : 0;
+}
+
+QString HomeViewModel::timerTitle() const
+{
+    return m_timer ? QString::fromStdString(m_timer->record.title) : tr("Timer");
+}
+
+QString HomeViewModel::timerText() const
+{
+    if (!m_timer) {
+        return {};
+    }
+    const bool isStopwatch = !KestCore::countsDown(m_timer->state);
+    return m_formatting.duration(isStopwatch ? std::floor(timerSeconds()) : timerSeconds());
+}
+
+QString HomeViewModel::timerNote() const
+{
+    if (!m_timer) {
+        return tr("Nothing is running");
+    }
+    if (KestCore::hasEnded(m_timer->state, m_model.now())) {
+        return tr("finished");
+    }
+    return m_timer->state.running ? QString{} : tr("paused");
+}
+
+bool HomeViewModel::hasTimerBar() const
+{
+    return m_timer && m_timer->state.running && KestCore::countsDown(m_timer->state);
+}
+
+double HomeViewModel::timerShare() const
+{
+    if (!m_timer || m_timer->state.duration <= 0) {
+        return 0;
+    }
+    return std::clamp(1 - timerSeconds() / m_timer->state.duration, 0.0, 1.0);
+}
+
+void HomeViewModel::resumeCounter()
+{
+    if (m_model.state().devotional.session.isPaused) {
+        stepCounter(m_model, KestCore::TogglePause{}, [this](Result<bool> done) {
+            if (!done) {
+                emit m_model.failed(QString::fromStdString(done.error().message));
+            }
+        });
+    }
 }
 
 } // namespace Velvetnook

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/LocalDay.h"
+
+#include "Base/Text.h"
+#include "KestCore/Prayer/PrayerCalculator.h"
+#include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Formatting.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace Velvetnook
+{
+
+namespace
+{
+
+int qtWeekday(const KestCore::LocalTime &local)
+{
+    return local.weekday == 0 ? 7 : local.weekday;
+}
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("Velvetnook::LocalDay", text);
+}
+
+} // namespace
+
+QString weekdayText(Base::Instant instant, const KestCore::Calendar &calendar,
+                    const Formatting &formatting)
+{
+    return formatting.locale().standaloneDayName(qtWeekday(calendar.at(instant)));
+}
+
+QString weekdayLetter(Base::Instant instant, const KestCore::Calendar &calendar,
+                      const Formatting &formatting)
+{
+    return formatting.locale().standaloneDayName(qtWeekday(calendar.at(instant)),
+                                                 QLocale::NarrowFormat);
+}
+
+QString dayText(Base::Instant instant, const ApplicationModel &model,
+                const Formatting &formatting)
+{
+    const auto &calendar = model.calendar();
+    const std::int64_t age = calendar.dayNumber(model.now()) - calendar.dayNumber(instant);
+    if (age == 0) {
+        return translated(QT_TRANSLATE_NOOP("Velvetnook::LocalDay", "Today"));
+    }
+    if (age == 1) {
+        return translated(QT_TRANSLATE_NOOP("Velvetnook::LocalDay", "Yesterday"));
+    }
+    const int year = calendar.at(instant).year;
+    if (year == calendar.at(model.now()).year) {
+        return formatting.date(instant);
+    }
+    return QStringLiteral("%1 %2").arg(formatting.date(instant),
+                                       formatting.digits(QString::number(year)));
+}
+
+QString islamicDateText(const ApplicationModel &model, const Formatting &formatting)
+{
+    const auto offset = Base::numberFrom<int>(model.setting("prayer.islamicDayOffset"));
+    const std::int64_t day = model.calendar().dayNumber(model.now()) + offset.value_or(0);
+    const std::chrono::sys_days date{std::chrono::days{day}};
+    return formatting.islamicDate(KestCore::PrayerCalculator::islamicDate(date));
+}
+
+} // namespace Velvetnook
