@@ -2,16 +2,207 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/ViewModels/StripViewModel.h"
 
+#include "Base/EnumText.h"
+#include "KestCore/Models/UtilityPayloads.h"
+#include "KestCore/Tools/Messages.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace Velvetnook
 {
 
+namespace
+{
+
+using PrayerCore::Prayer;
+
+// The last prayer that has come until `now`. Sunrise is none: it ends the time of one.
+std::optional<KestCore::NextPrayer> lastPrayer(const KestCore::PrayerInputs &place,
+                                               Base::Instant now)
+{
+    // What came after midnight can belong to the day before.
+    const std::chrono::sys_days today{KestCore::PrayerCalculator::today(place, now)};
+    std::optional<KestCore::NextPrayer> last;
+    for (const KestCore::PrayerDay &day :
+         KestCore::PrayerCalculator::days(place, today - std::chrono::days{1}, 2)) {
+        for (const Prayer prayer :
+             {Prayer::fajr, Prayer::dhuhr, Prayer::asr, Prayer::maghrib, Prayer::isha}) {
+            const auto at = day.times ? instantOf(*day.times, prayer) : std::nullopt;
+            if (at && *at <= now && (!last || *at > last->at)) {
+                last = KestCore::NextPrayer{.prayer = prayer, .at = *at};
+            }
+        }
+    }
+    return last;
+}
+
+std::optional<KestCore::NextPrayer> nextPrayer(const KestCore::PrayerInputs &place,
+                                               Base::Instant now)
+{
+    auto next = KestCore::PrayerCalculator::next(place, now);
+    if (next && next->prayer == Prayer::sunrise) {
+        next = KestCore::PrayerCalculator::next(place, next->at);
+    }
+    return next;
+}
+
+KestCore::Settings prayerSettings(const KestCore::Settings &all)
+{
+    return {all.lower_bound("prayer."), all.lower_bound("prayer/")};
+}
+
+} // namespace
+
 StripViewModel::StripViewModel(ApplicationModel &model, const Formatting &formatting,
                                QObject *parent)
-    : QObject{parent}, m_model{model}, m_formatting{formatting}
+    : QObject{parent}, m_model{model}, m_formatting{formatting},
+      m_sources{.state = model.state()}, m_sessionId{model.state().devotional.session.id},
+      m_count{model.state().devotional.session.count},
+      m_newestMessage{Base::milliseconds1970(model.now())}
 {
+    connect(&model, &ApplicationModel::stateChanged, this, &StripViewModel::followState);
+    connect(&model, &ApplicationModel::recordsChanged, this, &StripViewModel::followRecords);
+    connect(&model, &ApplicationModel::calendarChanged, this, [this] {
+        m_prayersFrom.reset();
+        refresh();
+    });
+    const auto tell = [this](const QString &text) { say(text); };
+    connect(&model, &ApplicationModel::said, this, tell);
+    connect(&model, &ApplicationModel::failed, this, tell);
+    model.clock().add(
+        this, [this](Base::Instant) { return m_changesAt; },
+        [this](Base::Instant) { refresh(); });
+    followRecords();
+}
+
+void StripViewModel::followState()
+{
+    const KestCore::Session &session = m_model.state().devotional.session;
+    const bool isSame = session.id == m_sessionId;
+    const std::int64_t before = isSame ? m_count : 0;
+    if (session.count != before) {
+        m_sources.countedAt = m_model.now();
+        const bool isReached =
+            session.target && before < *session.target && session.count == *session.target;
+        m_sources.reachedAt = isReached ? m_sources.countedAt : std::nullopt;
+    } else if (!isSame) {
+        m_sources.countedAt.reset();
+    }
+    m_sessionId = session.id;
+    m_count = session.count;
+    refresh();
+}
+
+void StripViewModel::followRecords()
+{
+    auto timers = KestCore::timersOf(m_model.recordsOfKind("timer"));
+    m_sources.timers = timers ? std::move(*timers) : std::vector<KestCore::Timer>{};
+    KestCore::sortForList(m_sources.timers);
+    sayNewMessages();
+    refresh();
+}
+
+// A message that was just written, here or by the command line, shows once.
+void StripViewModel::sayNewMessages()
+{
+    for (const KestCore::RecordRef &record : m_model.records()) {
+        if (record->kind != KestCore::kMessageKind || record->updated <= m_newestMessage) {
+            continue;
+        }
+        m_newestMessage = record->updated;
+        const auto message =
+            KestCore::json::decode<KestCore::StripMessage>(std::string_view{record->body});
+        if (message) {
+            say(QString::fromStdString(message->text), message->animation);
+        }
+    }
+}
+
+// The times are found once for each prayer: counting asks for them with every bead.
+void StripViewModel::followPrayers()
+{
+    KestCore::Settings settings = prayerSettings(m_model.state().settings);
+    const Base::Instant now = m_model.now();
+    if (settings != m_prayerSettings || !m_prayersFrom) {
+        auto place = KestCore::prayerInputs(settings);
+        m_place = place ? std::optional{std::move(*place)} : std::nullopt;
+        m_prayerSettings = std::move(settings);
+    } else if (now >= *m_prayersFrom &&
+               (!m_sources.nextPrayer || now < m_sources.nextPrayer->at)) {
+        return;
+    }
+    m_prayersFrom = now;
+    m_sources.lastPrayer = m_place ? lastPrayer(*m_place, now) : std::nullopt;
+    m_sources.nextPrayer = m_place ? nextPrayer(*m_place, now) : std::nullopt;
+}
+
+void StripViewModel::refresh()
+{
+    followPrayers();
+    StripStep step = stripStep(m_sources, m_formatting, m_model.now());
+    m_changesAt = step.changesAt;
+    m_model.clock().reschedule();
+    m_content = std::move(step.content);
+    emit changed();
+}
+
+void StripViewModel::say(const QString &text) { say(text, KestCore::MessageAnimation::scroll); }
+
+void StripViewModel::say(const QString &text, KestCore::MessageAnimation animation)
+{
+    m_sources.message = ShortMessage{
+        .text = text, .animation = animation, .until = m_model.now() + kShortMessageTime};
+    refresh();
+    emit messageBegan();
+}
+
+void StripViewModel::emphasise()
+{
+    m_sources.emphasisUntil = m_model.now() + kEmphasisTime;
+    refresh();
+    emit emphasisBegan();
+}
+
+void StripViewModel::setVisible(bool isVisible)
+{
+    if (std::exchange(m_sources.canBeSeen, isVisible) != isVisible) {
+        refresh();
+    }
+}
+
+int StripViewModel::baseWidth() const
+{
+    const std::string &size = m_model.state().devotional.preferences.pinSize;
+    if (m_content.isNarrow || size == "mini") {
+        return 190;
+    }
+    return size == "comfortable" ? 340 : 260;
+}
+
+QString StripViewModel::animation() const
+{
+    if (!m_sources.message) {
+        return {};
+    }
+    const std::string_view name = Base::textOf(m_sources.message->animation);
+    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+bool StripViewModel::isEmphasised() const
+{
+    return m_content.kind == QLatin1String{"pin"} && m_sources.emphasisUntil &&
+           *m_sources.emphasisUntil > m_model.now();
+}
+
+QString StripViewModel::spoken() const
+{
+    QStringList parts{m_content.text, m_content.note,
+                      m_content.trailing + m_content.trailingNote};
+    parts.removeAll(QString{});
+    return parts.join(QStringLiteral(", "));
 }
 
 } // namespace Velvetnook

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMargins>
+#include <QRegion>
+
+class QWindow;
+
+// What Qt leaves to the X server about a window that is not a rectangle. Each does nothing on
+// another platform.
+namespace Velvetnook
+{
+
+// The outline of something that hangs from the top edge, in whole pixels: a body with round
+// lower corners and, beside its top, fillets that curve to the edge. `body` is without the
+// fillets and begins at y 0.
+QRegion hangingOutline(const QRect &body, int radius, int fillet);
+
+// Whether something mixes translucent windows with what is below them.
+bool hasCompositor();
+
+// Lets the pointer through everywhere but in `outline`, in device pixels of the window. What
+// lies around is drawn, such as a shadow, only where it can be mixed with what is below.
+void setWindowOutline(QWindow &window, const QRegion &outline);
+
+// When the window changes its size, what was drawn stays at its top centre until it is drawn
+// again: nothing jumps.
+void keepContentAtTopCentre(QWindow &window);
+
+void raiseAboveAll(QWindow &window);
+
+// The window that has the keyboard now, and giving it back; 0 for none.
+quint32 focusedWindow();
+void giveFocusTo(quint32 window);
+
+} // namespace Velvetnook
