@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Shell/IconImages.h"
+#include "Velvetnook/Shell/ShadowImages.h"
 #include "Velvetnook/Shell/Theme.h"
 
 namespace Velvetnook
@@ -14,6 +15,7 @@ void prepareEngine(QQmlEngine &engine, App &app, Theme &theme)
     registerForQml(app);
     qmlRegisterSingletonInstance("Velvetnook.Application", 1, 0, "Theme", &theme);
     engine.addImageProvider(QStringLiteral("icon"), new IconImages);
+    engine.addImageProvider(QStringLiteral("shadow"), new ShadowImages);
     engine.addImportPath(QStringLiteral("qrc:/"));
 }
 

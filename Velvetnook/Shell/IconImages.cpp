@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Shell/IconImages.h"
 
+#include <QColor>
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -20,7 +21,11 @@ QImage IconImages::requestImage(const QString &id, QSize *size, const QSize &req
         return {};
     }
     QByteArray drawing = file.readAll();
-    drawing.replace("#000000", "#" + parts.value(1, QStringLiteral("000000")).toLatin1());
+    const QColor colour{u'#' + parts.value(1, QStringLiteral("000000"))};
+    drawing.replace("#000000", colour.name().toLatin1());
+    if (parts.value(3) == QLatin1String{"filled"}) {
+        drawing.replace("fill=\"none\"", "fill=\"" + colour.name().toLatin1() + "\"");
+    }
     drawing.replace("stroke-width=\"1.6\"",
                     "stroke-width=\"" + parts.value(2, QStringLiteral("1.6")).toLatin1() +
                         "\"");
@@ -28,6 +33,7 @@ QImage IconImages::requestImage(const QString &id, QSize *size, const QSize &req
     QImage image{wanted, QImage::Format_ARGB32_Premultiplied};
     image.fill(Qt::transparent);
     QPainter painter{&image};
+    painter.setOpacity(colour.alphaF());
     QSvgRenderer{drawing}.render(&painter);
     if (size != nullptr) {
         *size = wanted;

@@ -8,7 +8,8 @@ namespace Velvetnook
 {
 
 // "image://icon/NAME/RRGGBB/STROKE": an icon of the set in a colour and with a stroke, drawn at
-// the size that the image asks for.
+// the size that the image asks for. With "/filled" its outline is filled too; the colour may
+// carry its opacity first (AARRGGBB).
 class IconImages : public QQuickImageProvider
 {
 public:

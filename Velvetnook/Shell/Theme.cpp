@@ -3,18 +3,25 @@
 #include "Velvetnook/Shell/Theme.h"
 
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Shell/ShadowImages.h"
 
 #include <QColor>
 #include <QFile>
 #include <QFont>
+#include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <cstdio>
 
 namespace Velvetnook
 {
 
 namespace
 {
+
+QString presentFamily(const QString &family);
 
 QJsonObject readTokens()
 {
@@ -32,10 +39,41 @@ void insertColours(QQmlPropertyMap &into, const QJsonObject &colours)
     }
 }
 
+// What stands in for a family that is not installed.
+QString substituteFor(const QString &family)
+{
+    if (family == QLatin1String{"Inter Display"}) {
+        return presentFamily(QStringLiteral("Inter"));
+    }
+    return family == QLatin1String{"Amiri"} ? QStringLiteral("Noto Sans Arabic")
+                                            : QStringLiteral("Noto Sans");
+}
+
+QString presentFamily(const QString &family)
+{
+    if (QFontDatabase::hasFamily(family)) {
+        return family;
+    }
+    static QStringList said;
+    const QString substitute = substituteFor(family);
+    if (!said.contains(family)) {
+        said.append(family);
+        std::fprintf(stderr, "velvetnook: the font %s is missing, %s stands in for it\n",
+                     qPrintable(family), qPrintable(substitute));
+    }
+    return substitute;
+}
+
+bool isDigit(QChar letter)
+{
+    return (letter >= u'0' && letter <= u'9') || (letter >= u'٠' && letter <= u'٩');
+}
+
 } // namespace
 
 Theme::Theme(const ApplicationModel &model, QObject *parent)
-    : QObject{parent}, m_model{model}, m_tokens{readTokens()}
+    : QObject{parent}, m_model{model}, m_tokens{readTokens()},
+      m_ink{presentFamily(m_tokens[u"arabic"].toObject()[u"family"].toString())}
 {
     fillFonts();
     const QJsonObject radius = m_tokens[u"radius"].toObject();
@@ -55,10 +93,19 @@ void Theme::fillFonts()
     const QJsonObject type = m_tokens[u"type"].toObject();
     for (auto it = type.begin(); it != type.end(); ++it) {
         const QJsonObject role = it.value().toObject();
-        QFont font{role[u"family"].toString()};
-        font.setPixelSize(role[u"pixelSize"].toInt());
+        const QString family = presentFamily(role[u"family"].toString());
+        // Inter has no Arabic letters; these stand in letter by letter.
+        QFont::insertSubstitutions(
+            family, {QStringLiteral("Noto Sans Arabic"), QStringLiteral("Noto Color Emoji")});
+        const int pixelSize = role[u"pixelSize"].toInt();
+        QFont font{family};
+        font.setPixelSize(pixelSize);
         font.setWeight(static_cast<QFont::Weight>(role[u"weight"].toInt(400)));
+        if (font.weight() == QFont::Light) {
+            font.setLetterSpacing(QFont::AbsoluteSpacing, -0.02 * pixelSize);
+        }
         m_type.insert(it.key(), font);
+        m_lineHeight.insert(it.key(), role[u"lineHeight"].toInt());
     }
 }
 
@@ -72,6 +119,42 @@ void Theme::fillColours(QQmlPropertyMap &into, const QString &theme, const QStri
     insertColours(into, tones);
     into.insert(QStringLiteral("accentHover"), QColor{tones[u"hover"].toString()});
     into.insert(QStringLiteral("accentPressed"), QColor{tones[u"pressed"].toString()});
+    if (m_moreContrast) {
+        into.insert(QStringLiteral("line2"), into.value(QStringLiteral("text3")));
+        into.insert(QStringLiteral("text3"), into.value(QStringLiteral("text2")));
+    }
+}
+
+qreal Theme::strokeFor(int size)
+{
+    if (size <= 14) {
+        return 1.9;
+    }
+    if (size <= 16) {
+        return 1.75;
+    }
+    return size >= 32 ? 1.3 : 1.6;
+}
+
+int Theme::shadowReach(const QString &step) { return ShadowImages::reach(step); }
+
+qreal Theme::cellWidth(const QString &role, const QString &letter, qreal pixelSize) const
+{
+    const auto font = m_type.value(role).value<QFont>();
+    const bool isDisplay = font.family() == QLatin1String{"Inter Display"};
+    if (letter == QLatin1String{":"}) {
+        return (isDisplay ? 0.22 : 0.30) * pixelSize;
+    }
+    if (letter.size() != 1 || !isDigit(letter.front())) {
+        return 0;
+    }
+    return (isDisplay ? 0.58 : 0.66) * pixelSize;
+}
+
+void Theme::setMoreContrast(bool moreContrast)
+{
+    m_moreContrast = moreContrast;
+    follow();
 }
 
 void Theme::setDesktop(bool isDark, bool reducedMotion)

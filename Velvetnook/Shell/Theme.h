@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Velvetnook/Shell/ArabicInk.h"
+
 #include <QJsonObject>
 #include <QObject>
 #include <QQmlPropertyMap>
@@ -19,11 +21,14 @@ class Theme : public QObject
     Q_PROPERTY(QQmlPropertyMap *color READ color CONSTANT)     // Theme.color.text1, .accent …
     Q_PROPERTY(QQmlPropertyMap *onStrip READ onStrip CONSTANT) // the dark theme's colours
     Q_PROPERTY(QQmlPropertyMap *type READ type CONSTANT)       // a font for each role
+    Q_PROPERTY(QQmlPropertyMap *lineHeight READ lineHeight CONSTANT) // px for each role
     Q_PROPERTY(QQmlPropertyMap *radius READ radius CONSTANT)
     Q_PROPERTY(QQmlPropertyMap *motion READ motion CONSTANT) // ms; curves as lists of numbers
     Q_PROPERTY(bool isDark READ isDark NOTIFY changed)
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY changed)
     Q_PROPERTY(qreal phraseScale READ phraseScale NOTIFY changed)
+    Q_PROPERTY(Velvetnook::ArabicInk *ink READ ink CONSTANT)
+    Q_PROPERTY(QString arabicFamily READ arabicFamily CONSTANT)
 
 public:
     explicit Theme(const ApplicationModel &model, QObject *parent = nullptr);
@@ -31,15 +36,28 @@ public:
     QQmlPropertyMap *color() { return &m_color; }
     QQmlPropertyMap *onStrip() { return &m_onStrip; }
     QQmlPropertyMap *type() { return &m_type; }
+    QQmlPropertyMap *lineHeight() { return &m_lineHeight; }
     QQmlPropertyMap *radius() { return &m_radius; }
     QQmlPropertyMap *motion() { return &m_motion; }
     bool isDark() const { return m_isDark; }
     bool reducedMotion() const { return m_reducedMotion; }
     // What the preference of text size makes of phrases.
     qreal phraseScale() const;
+    ArabicInk *ink() { return &m_ink; }
+    QString arabicFamily() const { return m_ink.family(); }
+
+    // The stroke of an icon of that size, in units of its 24 grid.
+    Q_INVOKABLE static qreal strokeFor(int size);
+    // How far the shadow of a step reaches around its surface.
+    Q_INVOKABLE static int shadowReach(const QString &step);
+    // The cell of a digit or colon in a number that changes; 0: the letter's own width.
+    Q_INVOKABLE qreal cellWidth(const QString &role, const QString &letter,
+                                qreal pixelSize) const;
 
     // What the desktop wants where the user has not chosen.
     void setDesktop(bool isDark, bool reducedMotion);
+    // Stronger outlines and notes, where the desktop asks for more contrast.
+    void setMoreContrast(bool moreContrast);
 
 signals:
     void changed();
@@ -54,10 +72,13 @@ private:
     QQmlPropertyMap m_color;
     QQmlPropertyMap m_onStrip;
     QQmlPropertyMap m_type;
+    QQmlPropertyMap m_lineHeight;
     QQmlPropertyMap m_radius;
     QQmlPropertyMap m_motion;
+    ArabicInk m_ink;
     bool m_desktopIsDark = true;
     bool m_desktopReducesMotion = false;
+    bool m_moreContrast = false;
     bool m_isDark = true;
     bool m_reducedMotion = false;
 };

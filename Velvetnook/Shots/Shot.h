@@ -41,5 +41,6 @@ std::vector<Shot> toolShots();
 std::vector<Shot> settingsShots();
 std::vector<Shot> surfaceShots();
 std::vector<Shot> paletteShots();
+std::vector<Shot> galleryShots();
 
 } // namespace Velvetnook

@@ -40,7 +40,7 @@ std::vector<Shot> allShots()
 {
     std::vector<Shot> all;
     for (const auto &list : {counterShots(), devotionalShots(), prayerShots(), toolShots(),
-                             settingsShots(), surfaceShots(), paletteShots()}) {
+                             settingsShots(), surfaceShots(), paletteShots(), galleryShots()}) {
         all.insert(all.end(), list.begin(), list.end());
     }
     return all;

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Shapes
+import Velvetnook.Application
+
+// Says that something is being done; turns only where it can be seen.
+Shape {
+    id: root
+
+    property real diameter: 16
+
+    width: diameter
+    height: diameter
+    Accessible.role: Accessible.Indicator
+    Accessible.name: qsTr("Working")
+
+    ShapePath {
+        strokeColor: Theme.color.bg3
+        strokeWidth: 2
+        fillColor: "transparent"
+        PathAngleArc {
+            centerX: root.diameter / 2
+            centerY: root.diameter / 2
+            radiusX: root.diameter / 2 - 1
+            radiusY: root.diameter / 2 - 1
+            startAngle: 0
+            sweepAngle: 360
+        }
+    }
+    ShapePath {
+        strokeColor: Theme.color.accent
+        strokeWidth: 2
+        fillColor: "transparent"
+        PathAngleArc {
+            centerX: root.diameter / 2
+            centerY: root.diameter / 2
+            radiusX: root.diameter / 2 - 1
+            radiusY: root.diameter / 2 - 1
+            startAngle: -135
+            sweepAngle: 90
+        }
+    }
+    RotationAnimation on rotation {
+        running: root.visible && !Theme.reducedMotion
+        from: 0
+        to: 360
+        duration: 900
+        loops: Animation.Infinite
+    }
+}
