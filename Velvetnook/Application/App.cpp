@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/App.h"
 
+#include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 
 #include <QQmlEngine>
@@ -23,6 +24,14 @@ T *App::made(T *&viewModel)
     return viewModel;
 }
 
+Alarms &App::alarms()
+{
+    if (m_alarms == nullptr) {
+        m_alarms = new Alarms{m_model, this};
+    }
+    return *m_alarms;
+}
+
 PanelViewModel *App::panel() { return made(m_panel); }
 StripViewModel *App::strip() { return made(m_strip); }
 HomeViewModel *App::home() { return made(m_home); }
@@ -30,7 +39,13 @@ CounterViewModel *App::counter() { return made(m_counter); }
 HistoryViewModel *App::history() { return made(m_history); }
 NamesViewModel *App::names() { return made(m_names); }
 PrayerViewModel *App::prayer() { return made(m_prayer); }
-RemindersViewModel *App::reminders() { return made(m_reminders); }
+RemindersViewModel *App::reminders()
+{
+    if (m_reminders == nullptr) {
+        m_reminders = new RemindersViewModel{m_model, m_formatting, alarms(), this};
+    }
+    return m_reminders;
+}
 FridayViewModel *App::friday() { return made(m_friday); }
 TimersViewModel *App::timers() { return made(m_timers); }
 UnitsViewModel *App::units() { return made(m_units); }

@@ -24,6 +24,8 @@
 namespace Velvetnook
 {
 
+class Alarms;
+
 // The root of what QML sees, as the singleton `App`. A view model is made when it is first
 // looked at: what nobody opens costs nothing.
 class App : public QObject
@@ -49,6 +51,9 @@ class App : public QObject
 public:
     explicit App(ApplicationModel &model, QObject *parent = nullptr);
 
+    // What happens by itself: made once, by whoever shows it first.
+    Alarms &alarms();
+
     Formatting *format() { return &m_formatting; }
     PanelViewModel *panel();
     StripViewModel *strip();
@@ -72,6 +77,7 @@ private:
 
     ApplicationModel &m_model;
     Formatting m_formatting;
+    Alarms *m_alarms = nullptr;
     PanelViewModel *m_panel = nullptr;
     StripViewModel *m_strip = nullptr;
     HomeViewModel *m_home = nullptr;

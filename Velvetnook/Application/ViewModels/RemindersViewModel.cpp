@@ -2,16 +2,333 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/ViewModels/RemindersViewModel.h"
 
+#include "KestCore/Models/TimeOfDay.h"
+#include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+
+#include <QVariantMap>
+
+#include <algorithm>
 
 namespace Velvetnook
 {
 
-RemindersViewModel::RemindersViewModel(ApplicationModel &model, const Formatting &formatting,
-                                       QObject *parent)
-    : QObject{parent}, m_model{model}, m_formatting{formatting}
+namespace
 {
+
+constexpr qint64 kMostMinutes = 1440;
+constexpr int kMinutesPerDay = 1440;
+
+// As a person may have typed it, with the digits of any language.
+QString plainDigits(QString text)
+{
+    for (QChar &letter : text) {
+        if (letter.digitValue() >= 0) {
+            letter = QChar{u'0' + letter.digitValue()};
+        }
+    }
+    return text.trimmed();
 }
+
+std::optional<Base::Instant> endOfPause(const ApplicationModel &model)
+{
+    const auto until = model.state().devotional.pausedUntil;
+    if (!until || Base::fromMilliseconds1970(*until) <= model.now()) {
+        return std::nullopt;
+    }
+    return Base::fromMilliseconds1970(*until);
+}
+
+void choose(std::vector<std::int64_t> &weekdays, int weekday, bool isChosen)
+{
+    std::erase(weekdays, weekday);
+    if (isChosen) {
+        weekdays.push_back(weekday);
+        std::ranges::sort(weekdays);
+    }
+}
+
+} // namespace
+
+RemindersViewModel::RemindersViewModel(ApplicationModel &model, const Formatting &formatting,
+                                       Alarms &alarms, QObject *parent)
+    : QObject{parent}, m_model{model}, m_formatting{formatting}, m_alarms{alarms}
+{
+    connect(&model, &ApplicationModel::stateChanged, this, &RemindersViewModel::changed);
+    connect(&model, &ApplicationModel::calendarChanged, this, &RemindersViewModel::changed);
+    connect(&alarms, &Alarms::nextReminderChanged, this, &RemindersViewModel::changed);
+    connect(&alarms, &Alarms::previewReported, this, &RemindersViewModel::changed);
+    model.clock().add(
+        this, [this](Base::Instant) { return endOfPause(m_model); },
+        [this](Base::Instant) { emit changed(); });
+}
+
+const KestCore::Preferences &RemindersViewModel::preferences() const
+{
+    return m_model.state().devotional.preferences;
+}
+
+bool RemindersViewModel::reminderEnabled() const { return preferences().reminderEnabled; }
+int RemindersViewModel::interval() const
+{
+    return static_cast<int>(preferences().reminderInterval);
+}
+QString RemindersViewModel::intervalText() const
+{
+    return m_formatting.digits(tr("%n minute(s)", nullptr, interval()));
+}
+QString RemindersViewModel::activeStart() const
+{
+    return m_formatting.digits(QString::fromStdString(preferences().activeHoursStart));
+}
+QString RemindersViewModel::activeEnd() const
+{
+    return m_formatting.digits(QString::fromStdString(preferences().activeHoursEnd));
+}
+QList<int> RemindersViewModel::weekdays() const
+{
+    QList<int> chosen;
+    for (const std::int64_t weekday : preferences().weekdays) {
+        chosen.append(static_cast<int>(weekday));
+    }
+    return chosen;
+}
+
+QVariantList RemindersViewModel::days() const
+{
+    const QLocale locale = m_formatting.locale();
+    const QList<int> chosen = weekdays();
+    QVariantList days;
+    for (int weekday = 0; weekday < 7; ++weekday) {
+        const int isoDay = weekday == 0 ? 7 : weekday;
+        const QString letter = locale.standaloneDayName(isoDay, QLocale::NarrowFormat);
+        days.append(QVariantMap{{QStringLiteral("value"), weekday},
+                                {QStringLiteral("letter"), letter},
+                                {QStringLiteral("name"), locale.standaloneDayName(isoDay)},
+                                {QStringLiteral("chosen"), chosen.contains(weekday)}});
+    }
+    return days;
+}
+
+QString RemindersViewModel::pinnedReminder() const
+{
+    return QString::fromStdString(preferences().pinnedReminder);
+}
+QString RemindersViewModel::pinMode() const
+{
+    return QString::fromStdString(preferences().pinMode);
+}
+int RemindersViewModel::rotationMinutes() const
+{
+    return static_cast<int>(preferences().rotationMinutes);
+}
+bool RemindersViewModel::reminderSound() const { return preferences().reminderSound; }
+bool RemindersViewModel::soundEnabled() const { return preferences().soundEnabled; }
+bool RemindersViewModel::completionSound() const { return preferences().completionSound; }
+
+QString RemindersViewModel::nextText() const
+{
+    if (!reminderEnabled()) {
+        return tr("Reminders are off.");
+    }
+    if (preferences().weekdays.empty()) {
+        return tr("No day is chosen, so no reminder comes.");
+    }
+    const auto next = m_alarms.nextReminder();
+    if (!next) {
+        return tr("No reminder comes in the next days.");
+    }
+    const KestCore::Calendar &calendar = m_model.calendar();
+    const QString time = m_formatting.time(*next);
+    return calendar.dayNumber(*next) == calendar.dayNumber(m_model.now())
+               ? tr("Next reminder at %1").arg(time)
+               : tr("Next reminder on %1 at %2").arg(m_formatting.date(*next), time);
+}
+
+bool RemindersViewModel::isPaused() const { return endOfPause(m_model).has_value(); }
+
+QString RemindersViewModel::pausedText() const
+{
+    const auto end = endOfPause(m_model);
+    if (!end) {
+        return {};
+    }
+    const KestCore::Calendar &calendar = m_model.calendar();
+    const QString time = m_formatting.time(*end);
+    return calendar.dayNumber(*end) == calendar.dayNumber(m_model.now())
+               ? tr("Paused until %1").arg(time)
+               : tr("Paused until %1 at %2").arg(m_formatting.date(*end), time);
+}
+
+QString RemindersViewModel::testText() const
+{
+    const std::string &status = m_model.state().devotional.notificationStatus;
+    if (status == "allowed") {
+        return tr("Notifications allowed.");
+    }
+    return status == "denied" ? tr("Notifications denied. Enable Velvetnook in System Settings "
+                                   "→ Notifications.")
+                              : QString{};
+}
+
+bool RemindersViewModel::testIsDenied() const
+{
+    return m_model.state().devotional.notificationStatus == "denied";
+}
+
+void RemindersViewModel::change(std::function<void(KestCore::DevotionalState &)> edit)
+{
+    m_model.changeState([edit = std::move(edit)](KestCore::NativeState &state) -> Result<void> {
+        edit(state.devotional);
+        return {};
+    });
+}
+
+QString RemindersViewModel::setMinutes(const QString &text,
+                                       std::function<void(KestCore::Preferences &, qint64)> set)
+{
+    bool isNumber = false;
+    const qint64 minutes = plainDigits(text).toLongLong(&isNumber);
+    if (!isNumber || minutes < 1 || minutes > kMostMinutes) {
+        return m_formatting.digits(tr("Choose between 1 and 1440 minutes."));
+    }
+    change([set = std::move(set), minutes](KestCore::DevotionalState &state) {
+        set(state.preferences, minutes);
+    });
+    return {};
+}
+
+QString
+RemindersViewModel::setHours(const QString &text,
+                             std::function<void(KestCore::Preferences &, std::string)> set)
+{
+    const auto minute = KestCore::minuteOfDay(plainDigits(text).toStdString());
+    if (!minute) {
+        return m_formatting.digits(tr("Write a time such as 09:00."));
+    }
+    const QString written = QStringLiteral("%1:%2")
+                                .arg(*minute / 60, 2, 10, QLatin1Char{'0'})
+                                .arg(*minute % 60, 2, 10, QLatin1Char{'0'});
+    change([set = std::move(set), time = written.toStdString()](
+               KestCore::DevotionalState &state) { set(state.preferences, time); });
+    return {};
+}
+
+QString RemindersViewModel::setReminderEnabled(bool isOn)
+{
+    change([isOn](auto &state) { state.preferences.reminderEnabled = isOn; });
+    return {};
+}
+
+QString RemindersViewModel::setInterval(const QString &minutes)
+{
+    return setMinutes(
+        minutes, [](auto &preferences, qint64 value) { preferences.reminderInterval = value; });
+}
+
+QString RemindersViewModel::setActiveStart(const QString &time)
+{
+    return setHours(time, [](auto &preferences, std::string value) {
+        preferences.activeHoursStart = std::move(value);
+    });
+}
+
+QString RemindersViewModel::setActiveEnd(const QString &time)
+{
+    return setHours(time, [](auto &preferences, std::string value) {
+        preferences.activeHoursEnd = std::move(value);
+    });
+}
+
+QString RemindersViewModel::setWeekday(int weekday, bool isChosen)
+{
+    if (weekday < 0 || weekday > 6) {
+        return tr("There is no such day.");
+    }
+    change([weekday, isChosen](auto &state) {
+        choose(state.preferences.weekdays, weekday, isChosen);
+    });
+    return {};
+}
+
+QString RemindersViewModel::setPinnedReminder(const QString &value)
+{
+    if (value != u"nothing" && value != u"emphasis") {
+        return tr("There is no such choice.");
+    }
+    change(
+        [text = value.toStdString()](auto &state) { state.preferences.pinnedReminder = text; });
+    return {};
+}
+
+QString RemindersViewModel::setPinMode(const QString &value)
+{
+    if (value != u"single" && value != u"favourites" && value != u"daily") {
+        return tr("There is no such choice.");
+    }
+    change([text = value.toStdString()](auto &state) { state.preferences.pinMode = text; });
+    return {};
+}
+
+QString RemindersViewModel::setRotationMinutes(const QString &minutes)
+{
+    return setMinutes(
+        minutes, [](auto &preferences, qint64 value) { preferences.rotationMinutes = value; });
+}
+
+QString RemindersViewModel::setReminderSound(bool isOn)
+{
+    change([isOn](auto &state) { state.preferences.reminderSound = isOn; });
+    return {};
+}
+
+QString RemindersViewModel::setSoundEnabled(bool isOn)
+{
+    change([isOn](auto &state) { state.preferences.soundEnabled = isOn; });
+    return {};
+}
+
+QString RemindersViewModel::setCompletionSound(bool isOn)
+{
+    change([isOn](auto &state) { state.preferences.completionSound = isOn; });
+    return {};
+}
+
+void RemindersViewModel::pauseForHours(int hours)
+{
+    const Base::Instant until = m_model.now() + Base::Seconds{std::max(hours, 1) * 3600.0};
+    change([until](auto &state) { state.pausedUntil = Base::milliseconds1970(until); });
+}
+
+void RemindersViewModel::pauseUntilTomorrow()
+{
+    const int start = KestCore::minuteOfDay(preferences().activeHoursStart).value_or(0);
+    const Base::Instant midnight = m_model.calendar().nextDateChange(m_model.now());
+    const Base::Instant until = midnight + Base::Seconds{start * 60.0};
+    change([until](auto &state) { state.pausedUntil = Base::milliseconds1970(until); });
+}
+
+QString RemindersViewModel::pauseUntil(const QString &time)
+{
+    const auto minute = KestCore::minuteOfDay(plainDigits(time).toStdString());
+    if (!minute) {
+        return m_formatting.digits(tr("Write a time such as 09:00."));
+    }
+    const Base::Instant now = m_model.now();
+    const KestCore::LocalTime local = m_model.calendar().at(now);
+    int ahead = *minute - (local.hour * 60 + local.minute);
+    ahead += ahead <= 0 ? kMinutesPerDay : 0;
+    const Base::Instant until = now + Base::Seconds{ahead * 60.0 - local.second};
+    change([until](auto &state) { state.pausedUntil = Base::milliseconds1970(until); });
+    return {};
+}
+
+void RemindersViewModel::endPause()
+{
+    change([](auto &state) { state.pausedUntil.reset(); });
+}
+
+void RemindersViewModel::sendTest() { m_alarms.requestPreview(); }
 
 } // namespace Velvetnook
