@@ -3,6 +3,7 @@
 #include "cli/Session.h"
 
 #include "KestCore/Store/StoreLocation.h"
+#include "cli/Application.h"
 
 namespace Cli
 {
@@ -16,7 +17,11 @@ std::filesystem::path Session::databaseFile() const
 
 Result<KestCore::StateStore> Session::openStore() const
 {
-    return KestCore::StateStore::open(databaseFile());
+    const auto file = databaseFile();
+    auto loan = borrowStore(file);
+    KEST_TRY(auto store, KestCore::StateStore::open(file));
+    store.holdUntilClosed(std::move(loan));
+    return store;
 }
 
 Result<KestCore::Settings> storedSettings(const Session &session)

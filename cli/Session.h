@@ -25,6 +25,7 @@ struct Session {
     std::function<Result<void>()> command{};
 
     std::filesystem::path databaseFile() const;
+    // Borrowed from the application where one is running; it goes back when the store closes.
     [[nodiscard]] Result<KestCore::StateStore> openStore() const;
 };
 
@@ -54,6 +55,7 @@ void addDoctorCommand(CLI::App &program, Session &session);
 void addClipboardCommands(CLI::App &program, Session &session);
 void addWeatherCommand(CLI::App &program, Session &session);
 void addInsightCommands(CLI::App &program, Session &session);
+void addSurfaceCommands(CLI::App &program, Session &session);
 void addCompletionCommands(CLI::App &program, Session &session);
 
 // The counter on the whole terminal. Fails when there is no terminal.

@@ -73,6 +73,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addInsightCommands(program, session);
     Cli::addPlaybackCommands(program, session);
     Cli::addDoctorCommand(program, session);
+    Cli::addSurfaceCommands(program, session);
     Cli::addCompletionCommands(program, session);
 }
 

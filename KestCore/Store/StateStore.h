@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -40,6 +41,10 @@ public:
     // owner, then fails with unavailable, saying who that is.
     [[nodiscard]] static Result<StateStore>
     open(const std::filesystem::path &file, std::chrono::milliseconds patience = kLockPatience);
+
+    // Keeps this alive until the file and its lock are given up, such as the connection over
+    // which another owner has lent them.
+    void holdUntilClosed(std::shared_ptr<const void> thing) { m_held = std::move(thing); }
 
     const NativeState &state() const { return m_state; }
     const CompanionState &companion() const { return m_companion; }
@@ -123,6 +128,7 @@ private:
     selectRecords(std::string_view sql, Base::Database::Parameters parameters);
     Snapshot currentSnapshot() const;
 
+    std::shared_ptr<const void> m_held; // before the lock, so that it goes after it
     Base::FileLock m_lock; // before the database, so that it is given up after it
     Base::Database m_database;
     NativeState m_state{};

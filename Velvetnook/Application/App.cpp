@@ -52,7 +52,13 @@ UnitsViewModel *App::units() { return made(m_units); }
 NotesViewModel *App::notes() { return made(m_notes); }
 SettingsViewModel *App::settings() { return made(m_settings); }
 OnboardingViewModel *App::onboarding() { return made(m_onboarding); }
-PaletteViewModel *App::palette() { return made(m_palette); }
+PaletteViewModel *App::palette()
+{
+    if (m_palette == nullptr) {
+        m_palette = new PaletteViewModel{*this, m_model, m_formatting};
+    }
+    return m_palette;
+}
 
 void registerForQml(App &app)
 {

@@ -17,7 +17,7 @@ Committed committedAll(KestCore::Snapshot snapshot)
 StateKeeper::StateKeeper(std::filesystem::path file, KestCore::StateStore store,
                          QObject *parent)
     : QObject{parent},
-      m_slot{Slot{.file = std::move(file), .store = std::move(store), .failure = {}}}
+      m_slot{Slot{.file = std::move(file), .store = std::move(store)}}
 {
 }
 
@@ -44,10 +44,9 @@ void StateKeeper::send(Operation operation, Answer answer)
 {
     m_slot.ask(
         [operation = std::move(operation)](Slot &slot) mutable -> Result<Committed> {
-            if (!slot.store) {
-                return std::unexpected(*slot.failure);
-            }
-            return operation(*slot.store);
+            return slot.store
+                       ? operation(*slot.store)
+                       : std::unexpected(KestError::unavailable("Another program has the data"));
         },
         onMainThread(), std::move(answer));
 }
@@ -57,8 +56,10 @@ void StateKeeper::lend(std::function<void()> lent)
     m_isLent = true;
     m_slot.ask(
         [](Slot &slot) {
-            slot.store.reset();
-            slot.failure = KestError::unavailable("Another program has the data");
+            if (slot.store) {
+                slot.lentRevision = slot.store->state().revision;
+                slot.store.reset();
+            }
             return true;
         },
         onMainThread(), [lent = std::move(lent)](bool) { lent(); });
@@ -66,13 +67,14 @@ void StateKeeper::lend(std::function<void()> lent)
 
 Result<Committed> StateKeeper::reopen(Slot &slot)
 {
-    auto opened = KestCore::StateStore::open(slot.file);
-    if (!opened) {
-        slot.failure = opened.error();
-        return std::unexpected(opened.error());
+    KEST_TRY(auto opened, KestCore::StateStore::open(slot.file));
+    // Every change raises the revision. Without one there is no need to read the records.
+    if (opened.state().revision == slot.lentRevision) {
+        slot.store = std::move(opened);
+        return Committed{};
     }
-    slot.store = std::move(*opened);
-    KEST_TRY(KestCore::Snapshot snapshot, slot.store->snapshot());
+    KEST_TRY(KestCore::Snapshot snapshot, opened.snapshot());
+    slot.store = std::move(opened);
     return committedAll(std::move(snapshot));
 }
 
@@ -80,9 +82,12 @@ void StateKeeper::takeBack(std::function<void(Result<Committed>)> back)
 {
     m_slot.ask([](Slot &slot) { return reopen(slot); }, onMainThread(),
                [this, back = std::move(back)](Result<Committed> held) {
-                   m_isLent = false;
+                   const bool isBack = held.has_value();
+                   m_isLent = !isBack;
                    back(std::move(held));
-                   sendWaiting();
+                   if (isBack) {
+                       sendWaiting();
+                   }
                });
 }
 

@@ -45,8 +45,8 @@ public:
 
     // Gives the store up for another program and calls `lent` once its lock is free.
     void lend(std::function<void()> lent);
-    // Opens it again and tells what it holds now. When that fails what waits is answered with
-    // the failure, and so is all that follows until a later call succeeds.
+    // Opens it again and tells what it holds now: nothing when nobody has changed it. When that
+    // fails the store stays away, and what waits goes on waiting for a later call.
     void takeBack(std::function<void(Result<Committed>)> back);
     bool isLent() const { return m_isLent; }
 
@@ -54,7 +54,7 @@ private:
     struct Slot {
         std::filesystem::path file;
         std::optional<KestCore::StateStore> store;
-        std::optional<KestError> failure; // why there is no store
+        std::int64_t lentRevision = 0; // what the store held then
     };
     struct Waiting {
         Operation operation;
