@@ -74,6 +74,13 @@ QString Formatting::time(Base::Instant instant) const
 QString Formatting::timeIn(const KestCore::Calendar &calendar, Base::Instant instant) const
 {
     const KestCore::LocalTime local = calendar.at(instant);
+    if (m_model.setting("appearance.clock") == "12") {
+        const QString half = local.hour < 12 ? tr("am") : tr("pm");
+        return digits(QStringLiteral("%1:%2 %3")
+                          .arg((local.hour + 11) % 12 + 1)
+                          .arg(local.minute, 2, 10, QLatin1Char{'0'})
+                          .arg(half));
+    }
     return digits(QStringLiteral("%1:%2")
                       .arg(local.hour, 2, 10, QLatin1Char{'0'})
                       .arg(local.minute, 2, 10, QLatin1Char{'0'}));

@@ -36,7 +36,8 @@ public:
     // else as the language has them.
     QString digits(QString text) const;
 
-    QString time(Base::Instant instant) const; // "13:48"
+    // "13:48", or "1:48 pm" where setting "appearance.clock" is "12".
+    QString time(Base::Instant instant) const;
     QString timeIn(const KestCore::Calendar &calendar, Base::Instant instant) const;
     QString date(Base::Instant instant) const;                    // "Friday 14 November"
     QString islamicDate(const KestCore::IslamicDate &date) const; // "23 Jumada I 1447"

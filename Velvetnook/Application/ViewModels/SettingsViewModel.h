@@ -2,26 +2,83 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
+#include "Velvetnook/Application/ViewModels/Settings/AboutSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/AppearanceSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/DataSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/GeneralSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/NotchSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/PlaceSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/PrayerSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/ToolSettings.h"
 
 namespace Velvetnook
 {
 
-class ApplicationModel;
-class Formatting;
-
-// What QML shows of the settings window.
+// What QML shows of the settings window: its pages, each with a model of its own.
 class SettingsViewModel : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(Velvetnook::GeneralSettings *general READ general CONSTANT)
+    Q_PROPERTY(Velvetnook::AppearanceSettings *appearance READ appearance CONSTANT)
+    Q_PROPERTY(Velvetnook::NotchSettings *notch READ notch CONSTANT)
+    Q_PROPERTY(Velvetnook::PlaceSettings *place READ place CONSTANT)
+    Q_PROPERTY(Velvetnook::PrayerSettings *prayer READ prayer CONSTANT)
+    Q_PROPERTY(Velvetnook::ToolSettings *tools READ tools CONSTANT)
+    Q_PROPERTY(Velvetnook::DataSettings *data READ data CONSTANT)
+    Q_PROPERTY(Velvetnook::AboutSettings *about READ about CONSTANT)
+    // The pages that the search leaves, [{page, title, icon, group, view}].
+    Q_PROPERTY(QVariantList pages READ pages NOTIFY pagesChanged)
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY pagesChanged)
+    Q_PROPERTY(QString page READ page WRITE setPage NOTIFY pageChanged)
+    Q_PROPERTY(QString title READ title NOTIFY pageChanged)
+    // Why the last choice could not be kept; empty after the next that was.
+    Q_PROPERTY(QString refusal READ refusal NOTIFY refusalChanged)
 
 public:
     SettingsViewModel(ApplicationModel &model, const Formatting &formatting,
                       QObject *parent = nullptr);
 
+    GeneralSettings *general() { return &m_general; }
+    AppearanceSettings *appearance() { return &m_appearance; }
+    NotchSettings *notch() { return &m_notch; }
+    PlaceSettings *place() { return &m_place; }
+    PrayerSettings *prayer() { return &m_prayer; }
+    ToolSettings *tools() { return &m_tools; }
+    DataSettings *data() { return &m_data; }
+    AboutSettings *about() { return &m_about; }
+
+    QVariantList pages() const;
+    QString query() const { return m_query; }
+    QString page() const { return m_page; }
+    QString title() const;
+    QString refusal() const { return m_refusal; }
+
+    void setQuery(const QString &query);
+    void setPage(const QString &page);
+
+    // Shows the window, at this page or where it was.
+    Q_INVOKABLE void open(const QString &page = {});
+
+signals:
+    void pagesChanged();
+    void pageChanged();
+    void refusalChanged();
+    void openWanted(const QString &page);
+
 private:
-    ApplicationModel &m_model;
-    const Formatting &m_formatting;
+    void setRefusal(const QString &refusal);
+
+    GeneralSettings m_general;
+    AppearanceSettings m_appearance;
+    NotchSettings m_notch;
+    PlaceSettings m_place;
+    PrayerSettings m_prayer;
+    ToolSettings m_tools;
+    DataSettings m_data;
+    AboutSettings m_about;
+    QString m_query;
+    QString m_page;
+    QString m_refusal;
 };
 
 } // namespace Velvetnook

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+#include <memory>
+
+namespace KestCore
+{
+class Backup;
+} // namespace KestCore
+
+namespace Velvetnook
+{
+
+class ApplicationModel;
+class Formatting;
+
+// The data as a whole: one file to carry it, and the ways to forget it. What fails leaves the
+// data as it is and is told in the words of what refused it.
+class DataSettings : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString folder READ folder CONSTANT)
+    Q_PROPERTY(QUrl suggestedFile READ suggestedFile CONSTANT)
+    Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
+    // What came of the last thing that was done, and whether it failed.
+    Q_PROPERTY(QString message READ message NOTIFY changed)
+    Q_PROPERTY(bool isFailure READ isFailure NOTIFY changed)
+    // The question before an import; the body is empty while none stands.
+    Q_PROPERTY(QString importTitle READ importTitle CONSTANT)
+    Q_PROPERTY(QString importBody READ importBody NOTIFY changed)
+
+public:
+    DataSettings(ApplicationModel &model, const Formatting &formatting,
+                 QObject *parent = nullptr);
+    ~DataSettings() override;
+    DataSettings(const DataSettings &) = delete;
+    DataSettings &operator=(const DataSettings &) = delete;
+
+    QString folder() const;
+    QUrl suggestedFile() const;
+    bool isBusy() const { return m_isBusy; }
+    QString message() const { return m_message; }
+    bool isFailure() const { return m_isFailure; }
+    QString importTitle() const;
+    QString importBody() const { return m_importBody; }
+
+    Q_INVOKABLE void exportTo(const QUrl &file);
+    // Reads and proves the file; importWanted() follows where it is sound.
+    Q_INVOKABLE void openBackup(const QUrl &file);
+    Q_INVOKABLE void acceptImport();
+    Q_INVOKABLE void declineImport();
+    Q_INVOKABLE void clearHistory();
+    Q_INVOKABLE void resetAll();
+
+signals:
+    void changed();
+    void importWanted();
+
+private:
+    struct Reading;
+
+    void begin();
+    void finish(const QString &message, bool isFailure);
+    void ask(const std::shared_ptr<Reading> &reading);
+
+    ApplicationModel &m_model;
+    const Formatting &m_formatting;
+    bool m_isBusy = false;
+    bool m_isFailure = false;
+    QString m_message;
+    QString m_importBody;
+    std::shared_ptr<const KestCore::Backup> m_backup; // that the question is about
+};
+
+} // namespace Velvetnook

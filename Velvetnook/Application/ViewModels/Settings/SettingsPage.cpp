@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/ViewModels/Settings/SettingsPage.h"
+
+#include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Formatting.h"
+
+#include <QVariantMap>
+
+namespace Velvetnook
+{
+
+SettingsPage::SettingsPage(ApplicationModel &model, const Formatting &formatting,
+                           QObject *parent)
+    : QObject{parent}, m_model{model}, m_formatting{formatting}
+{
+    m_words = words();
+    connect(&model, &ApplicationModel::stateChanged, this, &SettingsPage::follow);
+}
+
+// What the words depend on.
+QString SettingsPage::words() const
+{
+    return setting("appearance.language", "") + u'/' + setting("appearance.digits", "");
+}
+
+void SettingsPage::follow()
+{
+    emit changed();
+    if (m_words != words()) {
+        m_words = words();
+        // Once whoever loads the translations has done so.
+        QMetaObject::invokeMethod(this, &SettingsPage::wordsChanged, Qt::QueuedConnection);
+    }
+}
+
+QVariantList SettingsPage::options(std::span<const Choice> choices)
+{
+    QVariantList list;
+    for (const Choice &choice : choices) {
+        list.push_back(QVariantMap{{QStringLiteral("value"), QString::fromUtf8(choice.value)},
+                                   {QStringLiteral("label"), choice.label}});
+    }
+    return list;
+}
+
+QString SettingsPage::setting(std::string_view key, const char *fallback) const
+{
+    const std::string_view value = m_model.setting(key);
+    return value.empty()
+               ? QString::fromUtf8(fallback)
+               : QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+}
+
+bool SettingsPage::isOn(std::string_view key, bool fallback) const
+{
+    const std::string_view value = m_model.setting(key);
+    return value.empty() ? fallback : value == "true";
+}
+
+void SettingsPage::set(const char *key, const QString &value)
+{
+    m_model.changeSetting(key, value.toStdString());
+}
+
+void SettingsPage::set(const char *key, bool isOn)
+{
+    m_model.changeSetting(key, isOn ? "true" : "false");
+}
+
+const KestCore::Preferences &SettingsPage::preferences() const
+{
+    return m_model.state().devotional.preferences;
+}
+
+void SettingsPage::changePreferences(std::function<void(KestCore::Preferences &)> change)
+{
+    m_model.changeState(
+        [change = std::move(change)](KestCore::NativeState &state) -> Result<void> {
+            change(state.devotional.preferences);
+            return {};
+        });
+}
+
+} // namespace Velvetnook
