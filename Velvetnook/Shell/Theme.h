@@ -48,6 +48,8 @@ public:
 
     // The stroke of an icon of that size, in units of its 24 grid.
     Q_INVOKABLE static qreal strokeFor(int size);
+    // The colour of one of the accents in the present theme, chosen or not.
+    Q_INVOKABLE QColor accentOf(const QString &accent) const;
     // How far the shadow of a step reaches around its surface.
     Q_INVOKABLE static int shadowReach(const QString &step);
     // The cell of a digit or colon in a number that changes; 0: the letter's own width.

@@ -1,11 +1,160 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "KestCore/Store/StateStore.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Shots/Shot.h"
+
+#include <QFile>
+#include <QStandardItemModel>
 
 namespace Velvetnook
 {
 
-std::vector<Shot> settingsShots() { return {}; }
+namespace
+{
+
+Shot page(const char *name, const char *view, std::function<void(ShotData &)> prepare = {},
+          std::function<void(App &)> arrange = {})
+{
+    return {.name = QStringLiteral("settings-%1").arg(QLatin1String{name}),
+            .surface = QStringLiteral("Settings"),
+            .view = QLatin1String{view},
+            .prepare = std::move(prepare),
+            .arrange = std::move(arrange)};
+}
+
+Shot step(const char *name, int number, std::function<void(ShotData &)> prepare = {},
+          std::function<void(App &)> arrange = {})
+{
+    return {.name = QStringLiteral("onboarding-%1").arg(QLatin1String{name}),
+            .surface = QStringLiteral("Onboarding"),
+            .view = {},
+            .prepare =
+                [prepare = std::move(prepare)](ShotData &data) {
+                    data.state.devotional.onboardingComplete = false;
+                    if (prepare) {
+                        prepare(data);
+                    }
+                },
+            .arrange =
+                [number, arrange = std::move(arrange)](App &app) {
+                    for (int done = 0; done < number; ++done) {
+                        app.onboarding()->next();
+                    }
+                    if (arrange) {
+                        arrange(app);
+                    }
+                }};
+}
+
+void forgetPlace(ShotData &data)
+{
+    for (const char *key : {"prayer.latitude", "prayer.longitude", "prayer.timezone",
+                            "prayer.city", "prayer.country"}) {
+        data.state.settings.erase(key);
+    }
+}
+
+void remindUntilFive(ShotData &data)
+{
+    auto &preferences = data.state.devotional.preferences;
+    preferences.reminderEnabled = true;
+    preferences.activeHoursEnd = "17:00";
+    preferences.weekdays = {1, 2, 3, 4, 5};
+}
+
+void keepAway(ShotData &data)
+{
+    data.state.settings["notch.exclusions"] = "vlc,mpv,Impress";
+    data.state.settings["notch.pausedUntil"] = "1763130000000";
+}
+
+// What a desktop without a layer for panels would give.
+void offerCapabilities(App &app)
+{
+    auto *list = new QStandardItemModel{&app};
+    list->setItemRoleNames({{Qt::UserRole + 1, "name"},
+                            {Qt::UserRole + 2, "level"},
+                            {Qt::UserRole + 3, "levelText"},
+                            {Qt::UserRole + 4, "reason"},
+                            {Qt::UserRole + 5, "wayOut"}});
+    const QStringList rows[]{
+        {"Panel at the screen’s edge", "full", "Full", "The X server keeps it above.", ""},
+        {"Key that works everywhere", "degraded", "Limited",
+         "The session takes keys only from its own settings.",
+         "Bind “kest palette toggle” in the desktop’s shortcut settings."},
+        {"Tray icon", "off", "Off", "Nothing here shows tray icons.", ""}};
+    for (const QStringList &row : rows) {
+        auto *item = new QStandardItem;
+        for (int column = 0; column < row.size(); ++column) {
+            item->setData(row.at(column), Qt::UserRole + 1 + column);
+        }
+        list->appendRow(item);
+    }
+    app.settings()->about()->setCapabilities(list);
+}
+
+// A file that is a backup in its name only.
+void openBrokenBackup(App &app)
+{
+    QFile file{QStringLiteral("broken-backup.json")};
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write("{}");
+        file.close();
+        app.settings()->data()->openBackup(QUrl::fromLocalFile(file.fileName()));
+    }
+}
+
+} // namespace
+
+std::vector<Shot> settingsShots()
+{
+    return {
+        page("general", "general"),
+        page("general-refused", "general", {},
+             [](App &app) {
+                 app.settings()->general()->setLaunchRefusal(
+                     QStringLiteral("~/.config/autostart: Permission denied"));
+             }),
+        page("appearance", "appearance"),
+        page("appearance-iris", "appearance",
+             [](ShotData &data) {
+                 data.state.settings["appearance.accent"] = "iris";
+                 data.state.devotional.preferences.textSize = "large";
+                 data.state.devotional.preferences.showTranslation = false;
+             }),
+        page("notch", "notch"),
+        page("notch-away", "notch", keepAway,
+             [](App &app) { app.settings()->notch()->addExclusion(QStringLiteral("a,b")); }),
+        page("shortcuts", "shortcuts"),
+        page("reminders", "reminders", remindUntilFive),
+        page("prayer", "prayer"),
+        page("prayer-search", "prayer", {},
+             [](App &app) { app.settings()->place()->search(QStringLiteral("cair")); }),
+        page("prayer-refused", "prayer", forgetPlace,
+             [](App &app) {
+                 app.settings()->place()->setField(QStringLiteral("latitude"),
+                                                   QStringLiteral("95"));
+                 app.settings()->place()->setField(QStringLiteral("timezone"),
+                                                   QStringLiteral("Europe/Londn"));
+             }),
+        page("tools", "tools"),
+        page("data", "data"),
+        page("data-reset", "data", {},
+             [](App &app) { app.settings()->data()->ask(QStringLiteral("reset")); }),
+        page("data-refused", "data", {}, openBrokenBackup),
+        page("about", "about", {}, offerCapabilities),
+        page("search", "notch", {},
+             [](App &app) { app.settings()->setQuery(QStringLiteral("pa")); }),
+        step("welcome", 0),
+        step("phrase", 1),
+        step("place", 2),
+        step("place-search", 2, forgetPlace,
+             [](App &app) { app.settings()->place()->search(QStringLiteral("lon")); }),
+        step("place-none", 2, forgetPlace),
+        step("reminders", 3, remindUntilFive),
+        step("done", 4),
+    };
+}
 
 } // namespace Velvetnook

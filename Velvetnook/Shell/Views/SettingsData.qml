@@ -16,6 +16,14 @@ Column {
         files.active = true;
     }
 
+    function showQuestion() {
+        if (page.question !== "" && !dialog.visible) {
+            dialog.open();
+        }
+    }
+
+    Component.onCompleted: Qt.callLater(showQuestion)
+
     SettingsGroup {
         title: qsTr("Backup")
         SettingsRow {
@@ -57,7 +65,7 @@ Column {
                 small: true
                 text: qsTr("Clear…")
                 enabled: !root.page.isBusy
-                onClicked: clearing.open()
+                onClicked: root.page.ask("clear")
             }
         }
         SettingsRow {
@@ -67,7 +75,7 @@ Column {
                 small: true
                 text: qsTr("Reset…")
                 enabled: !root.page.isBusy
-                onClicked: resetting.open()
+                onClicked: root.page.ask("reset")
             }
         }
     }
@@ -97,37 +105,19 @@ Column {
         }
     }
     AskDialog {
-        id: importing
+        id: dialog
 
-        title: root.page.importTitle
-        body: root.page.importBody
-        acceptText: qsTr("Replace")
+        title: root.page.questionTitle
+        body: root.page.questionBody
+        acceptText: root.page.acceptText
         dangerous: true
-        onAccepted: root.page.acceptImport()
-        onRejected: root.page.declineImport()
-    }
-    AskDialog {
-        id: clearing
-
-        title: qsTr("Clear the history?")
-        body: qsTr("Finished sessions are forgotten, and what was copied, completed and used. This cannot be taken back.")
-        acceptText: qsTr("Clear")
-        dangerous: true
-        onAccepted: root.page.clearHistory()
-    }
-    AskDialog {
-        id: resetting
-
-        title: qsTr("Reset everything?")
-        body: qsTr("Your counts, notes, timers and workspaces are removed. Settings, tools and their order stay. This cannot be taken back.")
-        acceptText: qsTr("Reset")
-        dangerous: true
-        onAccepted: root.page.resetAll()
+        onAccepted: root.page.accept()
+        onRejected: root.page.decline()
     }
     Connections {
         target: root.page
-        function onImportWanted() {
-            importing.open();
+        function onQuestionChanged() {
+            root.showQuestion();
         }
     }
     // Made when it is first wanted: a file dialog is not small.

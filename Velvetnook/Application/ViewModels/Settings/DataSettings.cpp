@@ -96,7 +96,60 @@ QUrl DataSettings::suggestedFile() const
     return QUrl::fromLocalFile(documents + u'/' + fromView(KestCore::kBackupName));
 }
 
-QString DataSettings::importTitle() const { return tr(KestCore::kReplaceTitle.data()); }
+QString DataSettings::questionTitle() const
+{
+    if (m_question == QLatin1String{"import"}) {
+        return tr(KestCore::kReplaceTitle.data());
+    }
+    return m_question == QLatin1String{"clear"} ? tr("Clear the history?")
+                                                : tr("Reset everything?");
+}
+
+QString DataSettings::questionBody() const
+{
+    if (m_question == QLatin1String{"import"}) {
+        return m_importBody;
+    }
+    return m_question == QLatin1String{"clear"}
+               ? tr("Finished sessions are forgotten, and what was copied, completed and "
+                    "used. This cannot be taken back.")
+               : tr("Your counts, notes, timers and workspaces are removed. Settings, tools "
+                    "and their order stay. This cannot be taken back.");
+}
+
+QString DataSettings::acceptText() const
+{
+    if (m_question == QLatin1String{"import"}) {
+        return tr("Replace");
+    }
+    return m_question == QLatin1String{"clear"} ? tr("Clear") : tr("Reset");
+}
+
+void DataSettings::ask(const QString &question)
+{
+    m_question = question;
+    emit questionChanged();
+}
+
+void DataSettings::accept()
+{
+    const QString question = std::exchange(m_question, {});
+    emit questionChanged();
+    if (question == QLatin1String{"import"}) {
+        importBackup();
+    } else if (question == QLatin1String{"clear"}) {
+        clearHistory();
+    } else if (question == QLatin1String{"reset"}) {
+        resetAll();
+    }
+}
+
+void DataSettings::decline()
+{
+    m_backup.reset();
+    ask({});
+    finish(tr("Nothing was changed."), false);
+}
 
 void DataSettings::begin()
 {
@@ -160,36 +213,32 @@ void DataSettings::openBackup(const QUrl &file)
                 finish(messageOf(result), true);
                 return;
             }
-            ask(reading);
+            askToImport(*reading);
         });
 }
 
-void DataSettings::ask(const std::shared_ptr<Reading> &reading)
+void DataSettings::askToImport(const Reading &reading)
 {
-    m_backup = reading->backup;
+    m_backup = reading.backup;
     const KestCore::Backup &backup = *m_backup;
     const auto number = [this](std::int64_t value) { return m_formatting.number(value); };
     m_importBody =
         tr(KestCore::kReplaceText.data()) + u'\n' +
         tr("Records: %1 here, %2 in the backup. Finished sessions: %3 here, %4 in the backup.")
-            .arg(number(reading->recordsHere), number(sum(backup.recordCounts())),
-                 number(reading->sessionsHere),
+            .arg(number(reading.recordsHere), number(sum(backup.recordCounts())),
+                 number(reading.sessionsHere),
                  number(static_cast<std::int64_t>(backup.state().devotional.records.size()))) +
         u'\n' +
         tr("The backup was made on %1 at %2.")
             .arg(m_formatting.date(backup.exportedAt()),
                  m_formatting.time(backup.exportedAt()));
     finish({}, false);
-    emit importWanted();
+    ask(QStringLiteral("import"));
 }
 
-void DataSettings::acceptImport()
+void DataSettings::importBackup()
 {
-    if (!m_backup) {
-        return;
-    }
     const auto backup = std::exchange(m_backup, nullptr);
-    m_importBody.clear();
     begin();
     m_model.perform(
         [backup](StateStore &store) -> Result<Committed> {
@@ -203,13 +252,6 @@ void DataSettings::acceptImport()
                           : messageOf(result),
                    !result.has_value());
         });
-}
-
-void DataSettings::declineImport()
-{
-    m_backup.reset();
-    m_importBody.clear();
-    finish(tr("Nothing was changed."), false);
 }
 
 void DataSettings::clearHistory()

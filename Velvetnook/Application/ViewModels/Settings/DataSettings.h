@@ -30,9 +30,11 @@ class DataSettings : public QObject
     // What came of the last thing that was done, and whether it failed.
     Q_PROPERTY(QString message READ message NOTIFY changed)
     Q_PROPERTY(bool isFailure READ isFailure NOTIFY changed)
-    // The question before an import; the body is empty while none stands.
-    Q_PROPERTY(QString importTitle READ importTitle CONSTANT)
-    Q_PROPERTY(QString importBody READ importBody NOTIFY changed)
+    // The question that stands: "import", "clear", "reset" or none.
+    Q_PROPERTY(QString question READ question NOTIFY questionChanged)
+    Q_PROPERTY(QString questionTitle READ questionTitle NOTIFY questionChanged)
+    Q_PROPERTY(QString questionBody READ questionBody NOTIFY questionChanged)
+    Q_PROPERTY(QString acceptText READ acceptText NOTIFY questionChanged)
 
 public:
     DataSettings(ApplicationModel &model, const Formatting &formatting,
@@ -46,33 +48,39 @@ public:
     bool isBusy() const { return m_isBusy; }
     QString message() const { return m_message; }
     bool isFailure() const { return m_isFailure; }
-    QString importTitle() const;
-    QString importBody() const { return m_importBody; }
+    QString question() const { return m_question; }
+    QString questionTitle() const;
+    QString questionBody() const;
+    QString acceptText() const;
 
     Q_INVOKABLE void exportTo(const QUrl &file);
-    // Reads and proves the file; importWanted() follows where it is sound.
+    // Reads and proves the file; where it is sound the question "import" follows.
     Q_INVOKABLE void openBackup(const QUrl &file);
-    Q_INVOKABLE void acceptImport();
-    Q_INVOKABLE void declineImport();
-    Q_INVOKABLE void clearHistory();
-    Q_INVOKABLE void resetAll();
+    // Asks "clear" or "reset".
+    Q_INVOKABLE void ask(const QString &question);
+    Q_INVOKABLE void accept();
+    Q_INVOKABLE void decline();
 
 signals:
     void changed();
-    void importWanted();
+    void questionChanged();
 
 private:
     struct Reading;
 
     void begin();
     void finish(const QString &message, bool isFailure);
-    void ask(const std::shared_ptr<Reading> &reading);
+    void askToImport(const Reading &reading);
+    void importBackup();
+    void clearHistory();
+    void resetAll();
 
     ApplicationModel &m_model;
     const Formatting &m_formatting;
     bool m_isBusy = false;
     bool m_isFailure = false;
     QString m_message;
+    QString m_question;
     QString m_importBody;
     std::shared_ptr<const KestCore::Backup> m_backup; // that the question is about
 };
