@@ -68,6 +68,14 @@ Words idsOf(const std::vector<KestCore::Phrase> &phrases)
     return ids;
 }
 
+Words toolIds()
+{
+    Words ids;
+    std::ranges::transform(KestCore::ToolRegistry::tools(), std::back_inserter(ids),
+                           &KestCore::ToolDescriptor::id);
+    return ids;
+}
+
 Words settingKeys()
 {
     Words keys;
@@ -130,6 +138,10 @@ Words argumentsFor(const CLI::App &owner, const Words &typed)
     if ((command == "connect" || command == "disconnect") && parent != nullptr &&
         parent->get_name() == "insights") {
         return textsOf<KestCore::InsightProvider>();
+    }
+    if ((command == "open" || command == "toggle") && parent != nullptr &&
+        parent->get_name() == "notch") {
+        return toolIds();
     }
     if (command == "history" && parent != nullptr && parent->get_name() == "monitor") {
         return textsOf<MonitorCore::MetricID>();

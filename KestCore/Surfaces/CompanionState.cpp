@@ -132,7 +132,7 @@ CompanionState defaultCompanionState(std::vector<std::string> faithHomeWidgets)
         {.id = "command",
          .target = "command",
          .keyCode = 49, // the space bar
-         .modifiers = {ShortcutModifier::control, ShortcutModifier::option}},
+         .modifiers = {ShortcutModifier::control, ShortcutModifier::shift}},
     };
     return state;
 }

@@ -27,7 +27,7 @@ QVariantMap keyHint(const QString &key, const QString &text)
 
 PaletteViewModel::PaletteViewModel(App &app, ApplicationModel &model,
                                    const Formatting &formatting)
-    : QObject{&app}, m_model{model}, m_formatting{formatting},
+    : QObject{&app}, m_app{app}, m_model{model}, m_formatting{formatting},
       m_search{std::make_unique<PaletteSearch>(model, formatting)},
       m_deeds{std::make_unique<PaletteDeeds>(app, model)}, m_rows{new PaletteRows{this}}
 {
@@ -40,6 +40,12 @@ QAbstractItemModel *PaletteViewModel::rows() { return m_rows; }
 bool PaletteViewModel::isNothingFound() const
 {
     return m_search->offers().empty() && !m_query.trimmed().isEmpty();
+}
+
+int PaletteViewModel::headCount() const
+{
+    return static_cast<int>(std::ranges::count_if(
+        m_rows->rows(), [](const PaletteRow &row) { return !row.head.isEmpty(); }));
 }
 
 QString PaletteViewModel::footer() const
@@ -233,12 +239,29 @@ void PaletteViewModel::showActions()
     show();
 }
 
-bool PaletteViewModel::back()
+void PaletteViewModel::leaveActions()
 {
     if (!m_subject.isEmpty()) {
         m_subject.clear();
         m_current = m_subjectRow;
         show();
+    }
+}
+
+void PaletteViewModel::openTab(int number)
+{
+    if (number > m_app.panel()->tabs().size()) {
+        return;
+    }
+    emit closeWanted();
+    m_app.panel()->openTab(number - 1);
+    emit m_app.panel()->openWanted(true);
+}
+
+bool PaletteViewModel::back()
+{
+    if (!m_subject.isEmpty()) {
+        leaveActions();
         return true;
     }
     const bool hadQuery = !m_query.isEmpty();

@@ -34,6 +34,7 @@ class PaletteViewModel : public QObject
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT)
     Q_PROPERTY(int current READ current WRITE setCurrent NOTIFY currentChanged)
     Q_PROPERTY(bool isNothingFound READ isNothingFound NOTIFY rowsChanged)
+    Q_PROPERTY(int headCount READ headCount NOTIFY rowsChanged) // of the rows
     Q_PROPERTY(QString footer READ footer NOTIFY rowsChanged)
     Q_PROPERTY(QVariantList keys READ keys NOTIFY rowsChanged) // [{key, text}]
     // What the rows are the actions of; empty while they are what was found.
@@ -52,6 +53,7 @@ public:
     QAbstractItemModel *rows();
     int current() const { return m_current; }
     bool isNothingFound() const;
+    int headCount() const;
     QString footer() const;
     QVariantList keys() const;
     QString subject() const { return m_subject; }
@@ -72,6 +74,9 @@ public:
     // The second thing that can be done with the row.
     Q_INVOKABLE void activateOther();
     Q_INVOKABLE void showActions();
+    Q_INVOKABLE void leaveActions();
+    // Opens the panel at its tab of this number.
+    Q_INVOKABLE void openTab(int number);
     // One step back: from the actions to what was found, from there to an empty line; false
     // when there is none left, and the palette is to close.
     Q_INVOKABLE bool back();
@@ -95,6 +100,7 @@ private:
     void run(const PaletteOffer &offer, std::size_t number);
     void learn(const PaletteOffer &offer);
 
+    App &m_app;
     ApplicationModel &m_model;
     const Formatting &m_formatting;
     std::unique_ptr<PaletteSearch> m_search;

@@ -1,0 +1,252 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Platform/PaletteHotkey.h"
+
+#include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/ViewModels/PaletteViewModel.h"
+#include "Velvetnook/Platform/ShortcutKeys.h"
+#include "Velvetnook/Platform/Xcb.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace Velvetnook
+{
+
+namespace
+{
+
+using KestCore::ShortcutBinding;
+using KestCore::ShortcutModifier;
+
+constexpr std::uint32_t kNumLock = 0xFF7F; // its keysym
+constexpr std::uint16_t kLocks = XCB_MOD_MASK_LOCK;
+constexpr std::uint16_t kSeen =
+    XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
+// A press so soon after the last is the key repeating itself.
+constexpr std::uint32_t kRepeatMs = 900;
+
+struct Keyboard {
+    std::uint8_t first{};
+    std::uint8_t width{};
+    std::vector<xcb_keysym_t> keysyms{};
+
+    std::uint8_t keycodeOf(std::uint32_t keysym) const
+    {
+        const auto found = std::ranges::find(keysyms, keysym);
+        return found == keysyms.end() || width == 0
+                   ? std::uint8_t{0}
+                   : static_cast<std::uint8_t>(first + (found - keysyms.begin()) / width);
+    }
+};
+
+Keyboard readKeyboard(xcb_connection_t *server)
+{
+    const xcb_setup_t *setup = xcb_get_setup(server);
+    const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
+    const auto reply = Xcb::reply(xcb_get_keyboard_mapping_reply, server,
+                                  xcb_get_keyboard_mapping(server, setup->min_keycode, count));
+    if (!reply) {
+        return {};
+    }
+    const xcb_keysym_t *begin = xcb_get_keyboard_mapping_keysyms(reply.get());
+    return {.first = setup->min_keycode,
+            .width = reply->keysyms_per_keycode,
+            .keysyms = {begin, begin + xcb_get_keyboard_mapping_keysyms_length(reply.get())}};
+}
+
+// The modifier that Num Lock sets, on most keyboards the second.
+std::uint16_t numLockMask(xcb_connection_t *server, const Keyboard &keyboard)
+{
+    const std::uint8_t key = keyboard.keycodeOf(kNumLock);
+    const auto reply =
+        Xcb::reply(xcb_get_modifier_mapping_reply, server, xcb_get_modifier_mapping(server));
+    if (!reply || key == 0) {
+        return XCB_MOD_MASK_2;
+    }
+    const xcb_keycode_t *codes = xcb_get_modifier_mapping_keycodes(reply.get());
+    const int width = reply->keycodes_per_modifier;
+    for (int index = 0; index < 8 * width; ++index) {
+        if (codes[index] == key) {
+            return static_cast<std::uint16_t>(1U << static_cast<unsigned>(index / width));
+        }
+    }
+    return XCB_MOD_MASK_2;
+}
+
+std::uint16_t masksOf(const ShortcutBinding &binding)
+{
+    constexpr std::array kMasks{std::pair{ShortcutModifier::control, XCB_MOD_MASK_CONTROL},
+                                std::pair{ShortcutModifier::option, XCB_MOD_MASK_1},
+                                std::pair{ShortcutModifier::command, XCB_MOD_MASK_4},
+                                std::pair{ShortcutModifier::shift, XCB_MOD_MASK_SHIFT}};
+    unsigned mask = 0;
+    for (const auto &[modifier, bit] : kMasks) {
+        mask |= binding.modifiers.contains(modifier) ? static_cast<unsigned>(bit) : 0U;
+    }
+    return static_cast<std::uint16_t>(mask);
+}
+
+} // namespace
+
+PaletteHotkey::PaletteHotkey(ApplicationModel &model, PaletteViewModel &palette,
+                             QObject *parent)
+    : QObject{parent}, m_model{model}, m_palette{palette}, m_server{Xcb::connection()}
+{
+    if (m_server != nullptr) {
+        m_root = xcb_setup_roots_iterator(xcb_get_setup(m_server)).data->root;
+        constexpr std::string_view kExtension = "XKEYBOARD";
+        const auto extension = Xcb::reply(
+            xcb_query_extension_reply, m_server,
+            xcb_query_extension(m_server, static_cast<std::uint16_t>(kExtension.size()),
+                                kExtension.data()));
+        m_keyboardEvents =
+            extension && extension->present != 0 ? extension->first_event : std::uint8_t{0};
+        QCoreApplication::instance()->installNativeEventFilter(this);
+    }
+    connect(&model, &ApplicationModel::companionChanged, this, [this] {
+        if (storedBinding() != m_binding) {
+            follow();
+        }
+    });
+    follow();
+}
+
+PaletteHotkey::~PaletteHotkey()
+{
+    if (m_server != nullptr) {
+        QCoreApplication::instance()->removeNativeEventFilter(this);
+        release();
+    }
+}
+
+std::optional<ShortcutBinding> PaletteHotkey::storedBinding() const
+{
+    const auto &shortcuts = m_model.companion().shortcuts;
+    const auto found = std::ranges::find(shortcuts, "command", &ShortcutBinding::target);
+    return found == shortcuts.end() ? std::nullopt : std::optional{*found};
+}
+
+void PaletteHotkey::follow()
+{
+    m_binding = storedBinding();
+    if (!m_binding) {
+        release();
+        return tell({}, tr("off: no key is set"));
+    }
+    const QString text = shortcutText(*m_binding);
+    const bool isWayland = qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String{"wayland"};
+    if (m_server == nullptr || isWayland) {
+        return tell(text, tr("degraded: this kind of session gives no program a key of its "
+                             "own. Bind %1 to “kest palette toggle” in the desktop's keyboard "
+                             "settings.")
+                              .arg(text));
+    }
+    release();
+    const auto grab = grabFor(*m_binding);
+    if (!grab) {
+        return tell(text, tr("degraded: this keyboard has no such key. Choose another."));
+    }
+    if (!take(*grab)) {
+        return tell(text, tr("degraded: another program has %1. Choose another key, or bind "
+                             "one to “kest palette toggle” in the desktop's keyboard settings.")
+                              .arg(text));
+    }
+    tell(text, QStringLiteral("full"));
+}
+
+void PaletteHotkey::tell(const QString &text, const QString &state)
+{
+    if (m_palette.hotkeyText() != text || m_palette.hotkeyState() != state) {
+        m_palette.setHotkey(text, state);
+    }
+}
+
+std::optional<PaletteHotkey::Grab> PaletteHotkey::grabFor(const ShortcutBinding &binding) const
+{
+    const auto key = shortcutKey(binding.keyCode);
+    const auto keycode = key ? readKeyboard(m_server).keycodeOf(key->keysym) : std::uint8_t{0};
+    return keycode == 0
+               ? std::nullopt
+               : std::optional{Grab{.keycode = keycode, .modifiers = masksOf(binding)}};
+}
+
+bool PaletteHotkey::take(const Grab &grab)
+{
+    const std::uint16_t numLock = numLockMask(m_server, readKeyboard(m_server));
+    m_locks = {0, kLocks, numLock, static_cast<std::uint16_t>(kLocks | numLock)};
+    m_grab = grab;
+    std::vector<xcb_void_cookie_t> asked;
+    for (const std::uint16_t locks : m_locks) {
+        asked.push_back(xcb_grab_key_checked(
+            m_server, 1, m_root, static_cast<std::uint16_t>(grab.modifiers | locks),
+            grab.keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC));
+    }
+    bool isGiven = true;
+    for (const xcb_void_cookie_t cookie : asked) {
+        const Xcb::Owned<xcb_generic_error_t> refusal{xcb_request_check(m_server, cookie)};
+        isGiven = isGiven && !refusal;
+    }
+    if (!isGiven) {
+        release();
+    }
+    return isGiven;
+}
+
+void PaletteHotkey::release()
+{
+    if (m_server == nullptr || !m_grab) {
+        return;
+    }
+    for (const std::uint16_t locks : m_locks) {
+        xcb_ungrab_key(m_server, m_grab->keycode, m_root,
+                       static_cast<std::uint16_t>(m_grab->modifiers | locks));
+    }
+    xcb_flush(m_server);
+    m_grab.reset();
+}
+
+bool PaletteHotkey::nativeEventFilter(const QByteArray &kind, void *message, qintptr *)
+{
+    if (kind != "xcb_generic_event_t") {
+        return false;
+    }
+    const auto *event = static_cast<const xcb_generic_event_t *>(message);
+    const auto type = static_cast<std::uint8_t>(event->response_type & 0x7FU);
+    if (type == XCB_KEY_PRESS) {
+        return press(*static_cast<const xcb_key_press_event_t *>(message));
+    }
+    if (type == XCB_KEY_RELEASE && m_grab &&
+        static_cast<const xcb_key_release_event_t *>(message)->detail == m_grab->keycode) {
+        m_isDown = false;
+    }
+    // Another layout may have the key elsewhere. Its first two events tell of one.
+    const bool isNewLayout =
+        m_keyboardEvents != 0 && type == m_keyboardEvents && event->pad0 <= 1;
+    if (type == XCB_MAPPING_NOTIFY || isNewLayout) {
+        QMetaObject::invokeMethod(this, &PaletteHotkey::follow, Qt::QueuedConnection);
+    }
+    return false;
+}
+
+bool PaletteHotkey::press(const xcb_key_press_event_t &event)
+{
+    if (!m_grab || event.detail != m_grab->keycode ||
+        (event.state & kSeen) != m_grab->modifiers) {
+        return false;
+    }
+    const bool isRepeat = m_isDown && event.time - m_lastPress < kRepeatMs;
+    m_isDown = true;
+    m_lastPress = event.time;
+    if (!isRepeat) {
+        emit pressed();
+    }
+    // Lets go on what was typed since, to where the keyboard is now.
+    xcb_ungrab_keyboard(m_server, event.time);
+    xcb_flush(m_server);
+    return true;
+}
+
+} // namespace Velvetnook

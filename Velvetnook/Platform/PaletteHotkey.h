@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "KestCore/Surfaces/CompanionState.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QObject>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+struct xcb_connection_t;
+struct xcb_key_press_event_t;
+
+namespace Velvetnook
+{
+
+class ApplicationModel;
+class PaletteViewModel;
+
+// The key that opens the palette wherever the user is: the shortcut of the companion whose
+// target is "command". Only an X server gives it; what is in the way, and the way round it,
+// is told to the palette's model.
+//
+// The server stops the keyboard the moment that the key is pressed. It goes on once the
+// palette has it, so that what is typed meanwhile, however soon, lands there.
+class PaletteHotkey : public QObject, public QAbstractNativeEventFilter
+{
+    Q_OBJECT
+
+public:
+    PaletteHotkey(ApplicationModel &model, PaletteViewModel &palette,
+                  QObject *parent = nullptr);
+    ~PaletteHotkey() override;
+    PaletteHotkey(const PaletteHotkey &) = delete;
+    PaletteHotkey &operator=(const PaletteHotkey &) = delete;
+
+    bool nativeEventFilter(const QByteArray &kind, void *message, qintptr *result) override;
+
+signals:
+    // Whoever shows the palette has done so, and has the keyboard, when this returns.
+    void pressed();
+
+private:
+    // What the server was asked for.
+    struct Grab {
+        std::uint8_t keycode{};
+        std::uint16_t modifiers{};
+
+        bool operator==(const Grab &) const = default;
+    };
+
+    std::optional<KestCore::ShortcutBinding> storedBinding() const;
+    void follow();
+    void release();
+    // Whether the server gave all of it.
+    bool take(const Grab &grab);
+    std::optional<Grab> grabFor(const KestCore::ShortcutBinding &binding) const;
+    bool press(const xcb_key_press_event_t &event);
+    void tell(const QString &text, const QString &state);
+
+    ApplicationModel &m_model;
+    PaletteViewModel &m_palette;
+    xcb_connection_t *m_server;
+    std::uint32_t m_root = 0;
+    std::uint8_t m_keyboardEvents = 0; // of the keyboard extension; 0: none
+    std::vector<std::uint16_t> m_locks;
+    std::optional<KestCore::ShortcutBinding> m_binding;
+    std::optional<Grab> m_grab;
+    bool m_isDown = false;
+    std::uint32_t m_lastPress = 0; // in the server's milliseconds
+};
+
+} // namespace Velvetnook
