@@ -10,6 +10,9 @@ namespace Velvetnook
 class App;
 class Theme;
 
+// Sets how text is drawn; before the QGuiApplication is made.
+void prepareText();
+
 // Makes the singletons App and Theme and the icons known to what `engine` loads.
 void prepareEngine(QQmlEngine &engine, App &app, Theme &theme);
 

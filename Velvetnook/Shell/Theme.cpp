@@ -9,10 +9,11 @@
 #include <QFile>
 #include <QFont>
 #include <QFontDatabase>
-#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <cmath>
 #include <cstdio>
 
 namespace Velvetnook
@@ -125,11 +126,10 @@ void Theme::fillColours(QQmlPropertyMap &into, const QString &theme, const QStri
     }
 }
 
-QColor Theme::accentOf(const QString &accent) const
+qreal Theme::outline()
 {
-    const QString theme = m_isDark ? QStringLiteral("dark") : QStringLiteral("light");
-    const QJsonObject tones = m_tokens[u"accent"].toObject()[accent].toObject();
-    return QColor{tones[theme].toObject()[u"accent"].toString()};
+    const qreal ratio = qApp->devicePixelRatio();
+    return std::round(1.5 * ratio) / ratio;
 }
 
 qreal Theme::strokeFor(int size)

@@ -28,6 +28,7 @@ class Theme : public QObject
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY changed)
     Q_PROPERTY(qreal phraseScale READ phraseScale NOTIFY changed)
     Q_PROPERTY(Velvetnook::ArabicInk *ink READ ink CONSTANT)
+    Q_PROPERTY(qreal outline READ outline CONSTANT) // a strong outline, in whole pixels
     Q_PROPERTY(QString arabicFamily READ arabicFamily CONSTANT)
 
 public:
@@ -46,6 +47,7 @@ public:
     ArabicInk *ink() { return &m_ink; }
     QString arabicFamily() const { return m_ink.family(); }
 
+    static qreal outline();
     // The stroke of an icon of that size, in units of its 24 grid.
     Q_INVOKABLE static qreal strokeFor(int size);
     // The colour of one of the accents in the present theme, chosen or not.

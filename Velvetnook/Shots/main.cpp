@@ -154,6 +154,7 @@ int main(int argc, char **argv)
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     setenv("TZ", "Europe/London", 1);
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    prepareText();
     const QGuiApplication application{argc, argv};
     const QDir folder{QString::fromLocal8Bit(argv[1])};
     folder.mkpath(QStringLiteral("."));

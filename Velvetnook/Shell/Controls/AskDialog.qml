@@ -70,7 +70,7 @@ FocusScope {
     }
     Rectangle {
         anchors.centerIn: parent
-        width: Math.min(372, parent.width - 40)
+        width: Math.min(Math.max(372, answers.wanted + 40), parent.width - 40)
         height: column.implicitHeight + 40
         radius: 20
         color: Theme.color.bg2
@@ -98,6 +98,11 @@ FocusScope {
             }
             Item { width: 1; height: 18 }
             Item {
+                id: answers
+
+                readonly property real wanted: choices.implicitWidth
+                                             + (root.dangerous ? danger.implicitWidth + 8 : 0)
+
                 width: parent.width
                 height: 36
 
@@ -112,6 +117,8 @@ FocusScope {
                     KeyNavigation.backtab: cancel
                 }
                 Row {
+                    id: choices
+
                     anchors.right: parent.right
                     spacing: 8
                     SecondaryButton {

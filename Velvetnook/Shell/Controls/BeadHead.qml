@@ -5,7 +5,7 @@ import Velvetnook.Application
 
 // The bead of the present count. It swells to its size as it is counted; the one of an open
 // count travels on its ring.
-Rectangle {
+Beads {
     id: root
 
     required property Item ring
@@ -20,8 +20,6 @@ Rectangle {
     y: ring.diameter / 2 - ring.radius * Math.cos(angle) - size
     width: 2 * size
     height: width
-    radius: size
-    antialiasing: true
     color: ring.ink
 
     Connections {

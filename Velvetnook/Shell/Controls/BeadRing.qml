@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
 import QtQuick
 import Velvetnook.Application
 
@@ -51,23 +50,15 @@ Item {
             }
         }
     }
-    Repeater {
-        model: root.beads
-        delegate: Rectangle {
-            required property int index
-
-            readonly property real angle: index * 2 * Math.PI / root.beads
-            readonly property bool isOn: index < root.on
-
-            x: root.diameter / 2 + root.radius * Math.sin(angle) - root.bead
-            y: root.diameter / 2 - root.radius * Math.cos(angle) - root.bead
-            width: 2 * root.bead
-            height: width
-            radius: root.bead
-            antialiasing: true
-            color: isOn ? root.ink : Theme.color.bg3
-            opacity: isOn ? 0.82 : 1
-        }
+    Beads {
+        anchors.fill: parent
+        visible: root.beads > 0
+        total: root.beads
+        lit: root.on
+        ringRadius: root.radius
+        beadRadius: root.bead
+        color: Qt.alpha(root.ink, 0.82)
+        restColor: Theme.color.bg3
     }
     BeadHead {
         ring: root

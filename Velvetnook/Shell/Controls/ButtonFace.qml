@@ -45,7 +45,10 @@ Item {
             }
             Loader {
                 active: root.busy
-                sourceComponent: Spinner {}
+                sourceComponent: Spinner {
+                    color: root.iconInk
+                    trackColor: Qt.alpha(root.iconInk, 0.25)
+                }
             }
         }
         Txt {

@@ -33,7 +33,7 @@ Item {
         color: root.selected ? Theme.color.soft
              : !root.interactive ? root.fill
              : root.pressed ? Theme.color.bg3 : root.lit ? Theme.color.bg2 : root.fill
-        border.width: root.selected ? 1.5 : 0
+        border.width: root.selected ? Theme.outline : 0
         border.color: Theme.color.accent
         Behavior on color { enabled: root.visible; HoverFade {} }
         FocusRing { shown: root.ringed; corner: root.corner }

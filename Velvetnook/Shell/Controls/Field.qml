@@ -55,7 +55,7 @@ FocusScope {
             height: root.fieldHeight
             radius: Theme.radius.field
             color: Theme.color.bg1
-            border.width: root.error !== "" || root.ringed ? 1.5 : 1
+            border.width: root.error !== "" || root.ringed ? Theme.outline : 1
             border.color: root.outline
 
             Icon {

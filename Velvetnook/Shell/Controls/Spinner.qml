@@ -9,14 +9,18 @@ Shape {
     id: root
 
     property real diameter: 16
+    property color color: Theme.color.accent
+    property color trackColor: Theme.color.bg3
 
     width: diameter
     height: diameter
+    layer.enabled: GraphicsInfo.api !== GraphicsInfo.Software
+    layer.samples: 4
     Accessible.role: Accessible.Indicator
     Accessible.name: qsTr("Working")
 
     ShapePath {
-        strokeColor: Theme.color.bg3
+        strokeColor: root.trackColor
         strokeWidth: 2
         fillColor: "transparent"
         PathAngleArc {
@@ -29,7 +33,7 @@ Shape {
         }
     }
     ShapePath {
-        strokeColor: Theme.color.accent
+        strokeColor: root.color
         strokeWidth: 2
         fillColor: "transparent"
         PathAngleArc {

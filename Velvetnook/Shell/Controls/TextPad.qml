@@ -25,7 +25,7 @@ FocusScope {
         anchors.fill: parent
         radius: Theme.radius.card
         color: root.framed ? Theme.color.bg1 : "transparent"
-        border.width: !root.framed ? 0 : root.ringed ? 1.5 : 1
+        border.width: !root.framed ? 0 : root.ringed ? Theme.outline : 1
         border.color: root.ringed ? Theme.color.accent : Theme.color.line
     }
     ScrollBody {

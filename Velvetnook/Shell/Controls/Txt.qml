@@ -15,6 +15,7 @@ Text {
     font.family: face.family
     font.pixelSize: pixelSize
     font.weight: face.weight
+    font.hintingPreference: Font.PreferNoHinting
     font.letterSpacing: face.letterSpacing * pixelSize / face.pixelSize
     lineHeight: Math.round(Theme.lineHeight[role] * pixelSize / face.pixelSize)
     lineHeightMode: Text.FixedHeight
