@@ -224,7 +224,19 @@ void CounterViewModel::undo() { step(KestCore::Undo{}); }
 
 void CounterViewModel::togglePause() { step(KestCore::TogglePause{}); }
 
-void CounterViewModel::finish() { step(KestCore::Finish{}); }
+void CounterViewModel::finish()
+{
+    const std::size_t before = m_model.state().devotional.records.size();
+    stepCounter(m_model, KestCore::Finish{}, [this, before](Result<bool> done) {
+        const auto &records = m_model.state().devotional.records;
+        if (!done) {
+            emit m_model.failed(QString::fromStdString(done.error().message));
+        } else if (records.size() > before) {
+            const std::int64_t count = records[records.size() - 1].count;
+            m_model.say(tr("%1 kept in the history.").arg(m_formatting.number(count)));
+        }
+    });
+}
 
 void CounterViewModel::reset(bool isConfirmed) { step(KestCore::ResetSession{isConfirmed}); }
 

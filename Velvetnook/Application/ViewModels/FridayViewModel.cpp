@@ -79,12 +79,6 @@ bool FridayViewModel::isFriday() const
     return m_model.calendar().at(m_model.now()).weekday == 5;
 }
 
-bool FridayViewModel::isInviting() const
-{
-    return isFriday() &&
-           m_model.setting("friday.lastShown") != dateText(m_model.now(), m_model.calendar());
-}
-
 QString FridayViewModel::footer() const
 {
     return m_model.isOn("friday.enabled") ? tr("Shown once each Friday, quietly")
@@ -98,8 +92,9 @@ std::optional<Base::Instant> FridayViewModel::dueAt(Base::Instant now) const
 
 void FridayViewModel::markShown()
 {
-    if (isInviting()) {
-        m_model.changeSetting("friday.lastShown", dateText(m_model.now(), m_model.calendar()));
+    const std::string today = dateText(m_model.now(), m_model.calendar());
+    if (isFriday() && m_model.setting("friday.lastShown") != today) {
+        m_model.changeSetting("friday.lastShown", today);
     }
 }
 

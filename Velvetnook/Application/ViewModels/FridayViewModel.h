@@ -26,8 +26,7 @@ class FridayViewModel : public QObject
     Q_PROPERTY(QString islamicDate READ islamicDate NOTIFY changed)
     Q_PROPERTY(QString dhuhr READ dhuhr NOTIFY changed) // empty where there is none to tell
     Q_PROPERTY(QString dhuhrNote READ dhuhrNote NOTIFY changed)
-    // Whether this is a Friday whose invitation still stands.
-    Q_PROPERTY(bool isInviting READ isInviting NOTIFY changed)
+    Q_PROPERTY(bool isFriday READ isFriday NOTIFY changed)
     Q_PROPERTY(QString footer READ footer NOTIFY changed)
 
 public:
@@ -41,7 +40,7 @@ public:
     QString islamicDate() const;
     QString dhuhr() const;
     QString dhuhrNote() const;
-    bool isInviting() const;
+    bool isFriday() const;
     QString footer() const;
 
     // When the invitation is to be shown, seen from `now`; see fridayDue.
@@ -55,8 +54,6 @@ signals:
     void changed();
 
 private:
-    bool isFriday() const;
-
     ApplicationModel &m_model;
     const Formatting &m_formatting;
 };

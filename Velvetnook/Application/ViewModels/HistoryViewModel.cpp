@@ -182,8 +182,7 @@ QVariantList HistoryViewModel::phrases() const
         const KestCore::Phrase &phrase = phraseOf(id);
         list.append(
             QVariantMap{{QStringLiteral("arabic"), QString::fromStdString(phrase.arabic)},
-                        {QStringLiteral("title"),
-                         m_formatting.isRightToLeft() ? QString{} : phraseTitle(phrase)},
+                        {QStringLiteral("title"), phraseTitle(phrase)},
                         {QStringLiteral("count"), m_formatting.number(total.count)},
                         {QStringLiteral("note"),
                          total.sessions == 1

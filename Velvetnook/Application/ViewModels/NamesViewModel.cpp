@@ -237,7 +237,11 @@ bool NamesViewModel::isCounted() const
 
 void NamesViewModel::openTool(const QString &id)
 {
-    showTab(id == QLatin1String{"tasbih"} ? Tab::phrases : Tab::names);
+    if (id == QLatin1String{"tasbih"}) {
+        showTab(Tab::phrases);
+    } else if (id == QLatin1String{"names"}) {
+        showTab(Tab::names);
+    }
 }
 
 void NamesViewModel::open(const QString &id)
@@ -252,6 +256,11 @@ void NamesViewModel::open(const QString &id)
         setQuery({});
         setCurrent(phraseOf(wanted));
     }
+}
+
+void NamesViewModel::openToday()
+{
+    open(QString::fromStdString(KestCore::nameOfTheDay(m_model.now(), m_model.calendar())));
 }
 
 void NamesViewModel::move(int rows)

@@ -81,6 +81,7 @@ public:
     Q_INVOKABLE void openTool(const QString &id);
     // To the card of one of them, whatever is searched for.
     Q_INVOKABLE void open(const QString &id);
+    Q_INVOKABLE void openToday(); // the Name of the day
     Q_INVOKABLE void move(int rows);
     // Phrases only: the Names are no favourites.
     Q_INVOKABLE void toggleFavourite();

@@ -36,7 +36,7 @@ QVariant PhraseList::data(const QModelIndex &index, int role) const
     case Arabic:
         return QString::fromStdString(phrase.arabic);
     case Title:
-        return m_formatting.isRightToLeft() ? QString{} : phraseTitle(phrase);
+        return phraseTitle(phrase);
     default:
         return {};
     }

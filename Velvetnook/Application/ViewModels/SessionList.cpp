@@ -38,7 +38,7 @@ QVariant SessionList::data(const QModelIndex &index, int role) const
     case Arabic:
         return QString::fromStdString(phraseOf(record.dhikrId).arabic);
     case Title:
-        return m_formatting.isRightToLeft() ? QString{} : phraseTitle(phraseOf(record.dhikrId));
+        return phraseTitle(phraseOf(record.dhikrId));
     case Count:
         return m_formatting.number(record.count);
     case Target:

@@ -1,6 +1,85 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
 import QtQuick
+import Velvetnook.Application
+import Velvetnook.Shell
 
+// What was finished: totals at the start, the sessions or their phrases at the end.
 Item {
+    id: root
+
+    property bool byPhrase: false
+
+    readonly property Item mainItem: sessions
+    readonly property string footerText: App.history.footer
+    readonly property string footerLink: App.history.isOff ? qsTr("Counter settings…") : ""
+    readonly property var footerKeys: [{key: "H", text: qsTr("back to the counter")}]
+
+    signal footerLinkClicked
+
+    onFooterLinkClicked: App.settings.openWanted("counter")
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_H || event.key === Qt.Key_Backspace) {
+            App.panel.openTool("dhikr");
+            event.accepted = true;
+        }
+    }
+
+    implicitWidth: 600
+    implicitHeight: 220
+
+    HistorySummary {
+        anchors.left: parent.left
+        width: 200
+        height: parent.height
+    }
+    Item {
+        anchors.right: parent.right
+        width: 376
+        height: parent.height
+        visible: !App.history.isEmpty
+
+        Row {
+            anchors.left: parent.left
+            spacing: 6
+
+            Chip {
+                small: true
+                text: qsTr("Sessions")
+                chosen: !root.byPhrase
+                onClicked: root.byPhrase = false
+            }
+            Chip {
+                small: true
+                text: qsTr("By phrase")
+                chosen: root.byPhrase
+                onClicked: root.byPhrase = true
+            }
+        }
+        HistorySessions {
+            id: sessions
+
+            visible: !root.byPhrase
+            y: 30
+            width: parent.width
+            height: parent.height - 30
+        }
+        HistoryPhrases {
+            visible: root.byPhrase
+            y: 34
+            width: parent.width
+            height: parent.height - 34
+        }
+    }
+    AvailabilityView {
+        visible: App.history.isEmpty
+        anchors.right: parent.right
+        width: 376
+        height: parent.height
+        availability: "empty"
+        iconName: "history"
+        message: qsTr("Nothing finished yet")
+        note: App.history.isOff ? qsTr("The history is off.")
+                                : qsTr("A session that you finish is kept here.")
+    }
 }
