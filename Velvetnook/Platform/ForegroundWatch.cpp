@@ -11,6 +11,14 @@
 namespace Velvetnook
 {
 
+namespace
+{
+
+constexpr std::uint32_t kEvents =
+    XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+
+} // namespace
+
 ForegroundWatch::ForegroundWatch(QObject *parent) : QObject{parent}
 {
     if (Xcb::connection() != nullptr) {
@@ -36,7 +44,7 @@ void ForegroundWatch::connectToServer()
     m_activeWindow = Xcb::atom(m_server.get(), "_NET_ACTIVE_WINDOW");
     m_windowState = Xcb::atom(m_server.get(), "_NET_WM_STATE");
     m_fullScreen = Xcb::atom(m_server.get(), "_NET_WM_STATE_FULLSCREEN");
-    follow(m_root);
+    follow(m_root, kEvents);
     m_notifier = new QSocketNotifier{xcb_get_file_descriptor(m_server.get()),
                                      QSocketNotifier::Read, this};
     connect(m_notifier, &QSocketNotifier::activated, this, &ForegroundWatch::readEvents);
@@ -49,10 +57,8 @@ void ForegroundWatch::setScreen(const QRect &screen)
     look();
 }
 
-void ForegroundWatch::follow(xcb_window_t window)
+void ForegroundWatch::follow(xcb_window_t window, std::uint32_t events)
 {
-    const std::uint32_t events =
-        XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(m_server.get(), window, XCB_CW_EVENT_MASK, &events);
     xcb_flush(m_server.get());
 }
@@ -109,14 +115,21 @@ void ForegroundWatch::look()
     }
     const auto active = Xcb::values(m_server.get(), m_root, m_activeWindow);
     const xcb_window_t front = active.empty() ? XCB_NONE : active.front();
-    if (front != m_front) {
+    const bool isOtherFront = front != m_front;
+    if (isOtherFront) {
+        if (m_front != XCB_NONE && m_front != m_covering) {
+            follow(m_front, 0);
+        }
         m_front = front;
         if (front != XCB_NONE) {
-            follow(front);
+            follow(front, kEvents);
         }
     }
     // A film goes on filling its screen while the user works on another one.
-    if (front != XCB_NONE && isOnScreen(front)) {
+    if (front != XCB_NONE && front != m_covering && isOnScreen(front)) {
+        if (m_covering != XCB_NONE) {
+            follow(m_covering, 0);
+        }
         m_covering = front;
     }
     const bool isFullScreen = m_covering != XCB_NONE && fillsScreen(m_covering);
@@ -131,6 +144,9 @@ void ForegroundWatch::look()
     m_application = std::move(application);
     if (isOther) {
         emit changed();
+    }
+    if (isOtherFront) {
+        emit restacked();
     }
 }
 

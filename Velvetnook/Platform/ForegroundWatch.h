@@ -35,12 +35,14 @@ public:
 
 signals:
     void changed();
+    // Another window came to the front.
+    void restacked();
 
 private:
     void connectToServer();
     void readEvents();
     void look();
-    void follow(xcb_window_t window);
+    void follow(xcb_window_t window, std::uint32_t events);
     bool fillsScreen(xcb_window_t window) const;
     bool isOnScreen(xcb_window_t window) const;
 

@@ -123,10 +123,14 @@ quint32 focusedWindow()
 void giveFocusTo(quint32 window)
 {
     xcb_connection_t *server = Xcb::connection();
-    if (server == nullptr || window == 0) {
+    if (server == nullptr) {
         return;
     }
-    xcb_set_input_focus(server, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+    const auto looks = Xcb::reply(xcb_get_window_attributes_reply, server,
+                                  xcb_get_window_attributes(server, window));
+    const bool isThere = looks && looks->map_state == XCB_MAP_STATE_VIEWABLE;
+    xcb_set_input_focus(server, XCB_INPUT_FOCUS_POINTER_ROOT,
+                        isThere ? window : XCB_INPUT_FOCUS_POINTER_ROOT, XCB_CURRENT_TIME);
     xcb_flush(server);
 }
 

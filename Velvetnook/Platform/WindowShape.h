@@ -30,7 +30,8 @@ void keepContentAtTopCentre(QWindow &window);
 
 void raiseAboveAll(QWindow &window);
 
-// The window that has the keyboard now, and giving it back; 0 for none.
+// The window that has the keyboard now, 0 for none; and giving it back, to whatever the
+// pointer is on where that window is gone.
 quint32 focusedWindow();
 void giveFocusTo(quint32 window);
 

@@ -88,6 +88,22 @@ QString PanelViewModel::title() const
     return m_tool == QLatin1String{kAllTools} ? tr("All tools") : toolTitle(chosenTab());
 }
 
+QString PanelViewModel::icon() const
+{
+    return described(chosenTab())[QStringLiteral("icon")].toString();
+}
+
+QString PanelViewModel::summary() const
+{
+    const KestCore::ToolDescriptor *tool = descriptorOf(chosenTab());
+    return tool == nullptr ? QString{} : QString::fromStdString(tool->summary);
+}
+
+bool PanelViewModel::isFrosted() const
+{
+    return m_model.setting("appearance.material") == "frosted";
+}
+
 QString PanelViewModel::viewName() const
 {
     return m_tool == QLatin1String{kAllTools} ? QStringLiteral("AllTools") : viewOf(m_tool);

@@ -27,10 +27,14 @@ class PanelViewModel : public QObject
     Q_PROPERTY(QString tool READ tool NOTIFY toolChanged)
     Q_PROPERTY(QString chosenTab READ chosenTab NOTIFY toolChanged)
     Q_PROPERTY(QString title READ title NOTIFY toolChanged)
+    Q_PROPERTY(QString icon READ icon NOTIFY toolChanged)
+    Q_PROPERTY(QString summary READ summary NOTIFY toolChanged)
     Q_PROPERTY(QString viewName READ viewName NOTIFY toolChanged) // empty: not built yet
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY toolChanged)
     // Where the content comes from when the view changes: 1 from the end, -1 from the start.
     Q_PROPERTY(int direction READ direction NOTIFY toolChanged)
+    Q_PROPERTY(
+        bool isFrosted READ isFrosted NOTIFY tabsChanged) // the ground lets a little through
     // Maps of id, title and icon; those of allTools also say summary and isBuilt.
     Q_PROPERTY(QVariantList tabs READ tabs NOTIFY tabsChanged)
     Q_PROPERTY(QVariantList allTools READ allTools NOTIFY tabsChanged)
@@ -48,7 +52,10 @@ public:
     QString tool() const { return m_tool; }
     QString chosenTab() const;
     QString title() const;
+    QString icon() const;
+    QString summary() const;
     QString viewName() const;
+    bool isFrosted() const;
     bool canGoBack() const { return chosenTab() != m_tool; }
     int direction() const { return m_direction; }
     QVariantList tabs() const;

@@ -75,6 +75,10 @@ StripViewModel::StripViewModel(ApplicationModel &model, const Formatting &format
     model.clock().add(
         this, [this](Base::Instant) { return m_changesAt; },
         [this](Base::Instant) { refresh(); });
+    // A count of just now may have come from the command line, before the start.
+    if (const auto &began = model.state().devotional.session.startedAt) {
+        m_sources.countedAt = Base::fromMilliseconds1970(*began);
+    }
     followRecords();
 }
 

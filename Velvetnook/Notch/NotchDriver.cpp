@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Notch/NotchDriver.h"
+
+#include "Base/Text.h"
+#include "Velvetnook/Application/App.h"
+#include "Velvetnook/Application/ApplicationModel.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Velvetnook
+{
+
+using KestCore::InteractionState;
+
+namespace
+{
+
+constexpr double kUsualOpenDelay = 0.18;
+
+std::optional<Base::Instant> pausedUntil(const ApplicationModel &model)
+{
+    const auto until = Base::numberFrom<double>(model.setting("notch.pausedUntil"));
+    return until ? std::optional{Base::fromMilliseconds1970(*until)} : std::nullopt;
+}
+
+} // namespace
+
+NotchDriver::NotchDriver(ApplicationModel &model, App &app, SteadyTime steady, QObject *parent)
+    : QObject{parent}, m_model{model}, m_app{app}, m_steady{std::move(steady)}
+{
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &NotchDriver::passTime);
+    connect(&model, &ApplicationModel::stateChanged, this, &NotchDriver::settle);
+    PanelViewModel *panel = app.panel();
+    connect(panel, &PanelViewModel::openWanted, this, &NotchDriver::open);
+    connect(panel, &PanelViewModel::closeWanted, this, &NotchDriver::close);
+    connect(panel, &PanelViewModel::toggleWanted, this, &NotchDriver::toggle);
+    connect(panel, &PanelViewModel::dialogDepthChanged, this, &NotchDriver::followDialogs);
+    model.clock().add(
+        this,
+        [this](Base::Instant now) {
+            const auto until = pausedUntil(m_model);
+            return until && *until > now ? until : std::nullopt;
+        },
+        [this](Base::Instant) { settle(); });
+    m_notch.reset(compactWhenIdle());
+    m_notch.pointer(false, false, m_steady(), openDelay());
+    settle();
+}
+
+QString NotchDriver::state() const
+{
+    const std::string_view name = Base::textOf(m_notch.state);
+    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+bool NotchDriver::isOpen() const
+{
+    return m_notch.state == InteractionState::expanded ||
+           m_notch.state == InteractionState::interacting ||
+           m_notch.state == InteractionState::closing;
+}
+
+bool NotchDriver::isSuppressed() const { return m_notch.state == InteractionState::suppressed; }
+
+bool NotchDriver::isResting() const
+{
+    return m_notch.state == InteractionState::hidden ||
+           m_notch.state == InteractionState::compact ||
+           m_notch.state == InteractionState::hoverOpening;
+}
+
+double NotchDriver::openDelay() const
+{
+    return Base::numberFrom<double>(m_model.setting("notch.openDelay"))
+        .value_or(kUsualOpenDelay);
+}
+
+bool NotchDriver::compactWhenIdle() const
+{
+    return m_model.setting("notch.compactWhenIdle") != "false";
+}
+
+bool NotchDriver::wantsSuppression() const
+{
+    const auto until = pausedUntil(m_model);
+    if (m_isFullScreen || (until && *until > m_model.now())) {
+        return true;
+    }
+    for (const auto piece : Base::split(m_model.setting("notch.exclusions"), ',')) {
+        const QString excluded =
+            QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size())).trimmed();
+        if (!excluded.isEmpty() && m_application.contains(excluded, Qt::CaseInsensitive)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void NotchDriver::pointer(bool isInside, bool isPressed)
+{
+    m_isInside = isInside;
+    m_isPressed = isPressed;
+    observe();
+}
+
+// While a dialog is open over the panel, or beside it, the pointer may be anywhere.
+void NotchDriver::observe()
+{
+    const bool isHeld = isOpen() && m_app.panel()->dialogDepth() > 0;
+    m_notch.pointer(m_isInside || isHeld, m_isPressed, m_steady(), openDelay());
+    settle();
+}
+
+void NotchDriver::followDialogs()
+{
+    if (isOpen()) {
+        observe();
+    }
+}
+
+void NotchDriver::open(bool isSticky)
+{
+    m_notch.open(isSticky || m_notch.keyboardSticky);
+    settle();
+    if (!m_notch.keyboardSticky) {
+        observe(); // closes by itself when the pointer is not here
+    }
+}
+
+void NotchDriver::close()
+{
+    if (isOpen()) {
+        m_notch.reset(compactWhenIdle());
+        settle();
+    }
+}
+
+void NotchDriver::toggle()
+{
+    if (isOpen()) {
+        close();
+    } else {
+        open(true);
+    }
+}
+
+void NotchDriver::makeSticky()
+{
+    if (isOpen() && !m_notch.keyboardSticky) {
+        m_notch.open(true);
+        settle();
+    }
+}
+
+void NotchDriver::release()
+{
+    if (isOpen() && m_notch.keyboardSticky && m_app.panel()->dialogDepth() == 0) {
+        m_notch.open(false);
+        observe();
+    }
+}
+
+void NotchDriver::setForeground(bool isFullScreen, const QStringList &application)
+{
+    m_isFullScreen = isFullScreen;
+    m_application = application;
+    settle();
+}
+
+void NotchDriver::prepare()
+{
+    if (!std::exchange(m_isPrepared, true)) {
+        emit changed();
+    }
+}
+
+void NotchDriver::passTime()
+{
+    if (m_notch.state == InteractionState::hoverOpening) {
+        observe();
+    } else {
+        m_notch.tick(compactWhenIdle(), m_steady());
+        settle();
+    }
+}
+
+// Brings the resting state in line with what is wanted of it. A panel that was opened by a
+// command stays open before a full screen too.
+void NotchDriver::settle()
+{
+    const bool isHoverOpen = isOpen() && !m_notch.keyboardSticky && !m_isPressed;
+    if (wantsSuppression()) {
+        if (isResting() || (isHoverOpen && m_isFullScreen)) {
+            m_notch.suppress();
+        }
+    } else if (isSuppressed()) {
+        m_notch.reset(compactWhenIdle());
+    } else if (m_notch.state ==
+                   (compactWhenIdle() ? InteractionState::hidden : InteractionState::compact) &&
+               !m_isInside) {
+        m_notch.reset(compactWhenIdle());
+    }
+    if (!m_isInside && isResting()) {
+        // What was closed under a pointer that is elsewhere may open again.
+        m_notch.pointer(false, m_isPressed, m_steady(), openDelay());
+    }
+    setTimer();
+    announce();
+}
+
+void NotchDriver::setTimer()
+{
+    if (!m_notch.deadline) {
+        m_timer.stop();
+        return;
+    }
+    const double wait = std::max(*m_notch.deadline - m_steady(), 0.0);
+    m_timer.start(static_cast<int>(std::ceil(wait * 1000)));
+}
+
+void NotchDriver::announce()
+{
+    const bool open = isOpen();
+    m_app.panel()->setOpen(open);
+    m_app.strip()->setVisible(m_notch.state == InteractionState::compact ||
+                              m_notch.state == InteractionState::hoverOpening);
+    emit changed();
+    if (std::exchange(m_wasOpen, open) != open) {
+        if (open) {
+            emit opened(m_notch.keyboardSticky);
+        } else {
+            emit closed();
+        }
+    }
+}
+
+} // namespace Velvetnook

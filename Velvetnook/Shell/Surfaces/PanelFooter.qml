@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+import QtQuick
+import QtQuick.Templates as T
+import Velvetnook.Application
+import Velvetnook.Shell
+
+// The state of the view at the start; at the end its keys or one link. A message takes the
+// place of both for a while, with what can be done about it.
+FocusScope {
+    id: root
+
+    property Item shown // the view
+
+    readonly property bool hasMessage: App.panel.message !== ""
+    readonly property string linkText: hasMessage ? App.panel.messageAction
+                                                  : shown?.footerLink ?? ""
+    readonly property bool canFocus: linkText !== ""
+    readonly property var keys: hasMessage ? [] : shown?.footerKeys ?? []
+    // Some views draw the end of their footer themselves.
+    readonly property var custom: hasMessage ? null : shown?.footerContent ?? null
+
+    Hairline { width: parent.width }
+    Loader {
+        id: own
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        active: root.custom !== null
+        sourceComponent: root.custom
+    }
+    Txt {
+        anchors.left: parent.left
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, parent.width - 14 - (link.visible ? link.width : 0)
+                        - (hints.visible ? hints.width : 0) - (own.active ? own.width : 0))
+        role: "note"
+        color: root.hasMessage ? Theme.color.text1 : Theme.color.text3
+        text: root.hasMessage ? App.panel.message : root.shown?.footerText ?? ""
+        Accessible.role: root.hasMessage ? Accessible.AlertMessage : Accessible.StaticText
+    }
+    KeyHints {
+        id: hints
+
+        visible: root.keys.length > 0 && !link.visible
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        keys: root.keys
+    }
+    T.AbstractButton {
+        id: link
+
+        visible: root.canFocus
+        focus: true
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        implicitWidth: words.implicitWidth
+        implicitHeight: 30
+        hoverEnabled: true
+        focusPolicy: Qt.TabFocus
+        text: root.linkText
+        Keys.onReturnPressed: click()
+        Keys.onEnterPressed: click()
+        Accessible.name: text
+        onClicked: {
+            if (root.hasMessage) {
+                App.panel.takeMessageAction();
+            } else {
+                root.shown.footerLinkClicked();
+            }
+        }
+        contentItem: Txt {
+            id: words
+
+            role: "note"
+            font.weight: Font.Medium
+            color: link.hovered ? Theme.color.accentHover : Theme.color.accent
+            text: link.text
+            Accessible.ignored: true
+        }
+        FocusRing {
+            shown: link.visualFocus
+            corner: Theme.radius.key
+        }
+    }
+}
