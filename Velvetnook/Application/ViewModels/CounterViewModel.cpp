@@ -253,9 +253,25 @@ void CounterViewModel::enterTarget(const QString &text)
             showTargetError(QString::fromStdString(done.error().message));
             return;
         }
-        showTargetError({});
-        emit targetAccepted();
+        setEnteringTarget(false);
     });
+}
+
+void CounterViewModel::setEnteringTarget(bool isEntering)
+{
+    showTargetError({});
+    if (m_isEnteringTarget != isEntering) {
+        m_isEnteringTarget = isEntering;
+        emit isEnteringTargetChanged();
+    }
+}
+
+void CounterViewModel::setAskingReset(bool isAsking)
+{
+    if (m_isAskingReset != isAsking) {
+        m_isAskingReset = isAsking;
+        emit isAskingResetChanged();
+    }
 }
 
 void CounterViewModel::selectNext(int places) { selectNextPhrase(m_model, places); }

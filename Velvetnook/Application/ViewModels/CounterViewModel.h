@@ -40,6 +40,11 @@ class CounterViewModel : public QObject
     Q_PROPERTY(QVariantList targets READ targets NOTIFY targetsChanged) // {value, label}
     Q_PROPERTY(int chosenTarget READ chosenTarget NOTIFY targetChanged) // a row of `targets`
     Q_PROPERTY(QString targetError READ targetError NOTIFY targetErrorChanged)
+    // What the view is in the middle of.
+    Q_PROPERTY(bool isEnteringTarget READ isEnteringTarget WRITE setEnteringTarget NOTIFY
+                   isEnteringTargetChanged)
+    Q_PROPERTY(
+        bool isAskingReset READ isAskingReset WRITE setAskingReset NOTIFY isAskingResetChanged)
     Q_PROPERTY(QString resetQuestion READ resetQuestion NOTIFY countChanged)
 
 public:
@@ -63,6 +68,10 @@ public:
     QVariantList targets() const;
     int chosenTarget() const;
     QString targetError() const { return m_targetError; }
+    bool isEnteringTarget() const { return m_isEnteringTarget; }
+    void setEnteringTarget(bool isEntering);
+    bool isAskingReset() const { return m_isAskingReset; }
+    void setAskingReset(bool isAsking);
     QString resetQuestion() const;
 
     Q_INVOKABLE void increment();
@@ -72,7 +81,7 @@ public:
     // An unconfirmed one is refused while something is counted.
     Q_INVOKABLE void reset(bool isConfirmed);
     Q_INVOKABLE void setTarget(qlonglong value); // 0: an open count
-    // What the user typed; `targetAccepted` follows, or `targetError` says why not.
+    // What the user typed: it becomes the target, or `targetError` says why not.
     Q_INVOKABLE void enterTarget(const QString &text);
     Q_INVOKABLE void clearTargetError() { showTargetError({}); }
     Q_INVOKABLE void selectNext(int places);
@@ -89,7 +98,8 @@ signals:
     void phraseChanged();
     void targetsChanged();
     void targetErrorChanged();
-    void targetAccepted();
+    void isEnteringTargetChanged();
+    void isAskingResetChanged();
     // Once a session; `withSound` when the user wants to hear it.
     void targetReached(bool withSound);
 
@@ -126,6 +136,8 @@ private:
     Shown m_shown;
     std::optional<Base::Instant> m_pausedAt; // known only for a pause that began here
     QString m_targetError;
+    bool m_isEnteringTarget = false;
+    bool m_isAskingReset = false;
 };
 
 } // namespace Velvetnook

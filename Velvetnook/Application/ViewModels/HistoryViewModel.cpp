@@ -114,6 +114,14 @@ void HistoryViewModel::setPeriod(const QString &period)
     }
 }
 
+void HistoryViewModel::setByPhrase(bool byPhrase)
+{
+    if (m_byPhrase != byPhrase) {
+        m_byPhrase = byPhrase;
+        emit byPhraseChanged();
+    }
+}
+
 QString HistoryViewModel::total() const
 {
     return m_formatting.number(m_totals.total.at(indexOf(m_period)).count);

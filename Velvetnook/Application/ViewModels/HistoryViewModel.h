@@ -19,6 +19,7 @@ class HistoryViewModel : public QObject
     Q_PROPERTY(QAbstractItemModel *sessions READ sessions CONSTANT)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY sessionsChanged)
     Q_PROPERTY(QString period READ period WRITE setPeriod NOTIFY changed) // today, week, …
+    Q_PROPERTY(bool byPhrase READ byPhrase WRITE setByPhrase NOTIFY byPhraseChanged)
     Q_PROPERTY(QString total READ total NOTIFY changed)
     Q_PROPERTY(QString totalNote READ totalNote NOTIFY changed)
     // {share, label, isToday}: 7 days with a letter each, or 30.
@@ -36,6 +37,8 @@ public:
     bool isEmpty() const { return m_records.empty(); }
     QString period() const;
     void setPeriod(const QString &period);
+    bool byPhrase() const { return m_byPhrase; }
+    void setByPhrase(bool byPhrase);
     QString total() const;
     QString totalNote() const;
     QVariantList days() const;
@@ -46,6 +49,7 @@ public:
 
 signals:
     void changed();
+    void byPhraseChanged();
     void sessionsChanged();
 
 private:
@@ -61,6 +65,7 @@ private:
     Base::SharedList<KestCore::SessionRecord> m_records; // that m_totals are of, or soon will
     HistoryTotals m_totals;
     HistoryPeriod m_period = HistoryPeriod::today;
+    bool m_byPhrase = false;
     bool m_isOff = false;
     QString m_digits;
     std::uint64_t m_generation = 0; // of the adding up that is under way

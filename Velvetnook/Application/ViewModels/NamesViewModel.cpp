@@ -237,10 +237,10 @@ bool NamesViewModel::isCounted() const
 
 void NamesViewModel::openTool(const QString &id)
 {
-    if (id == QLatin1String{"tasbih"}) {
-        showTab(Tab::phrases);
-    } else if (id == QLatin1String{"names"}) {
-        showTab(Tab::names);
+    const bool isPhrases = id == QLatin1String{"tasbih"};
+    if (id != m_tool && (isPhrases || id == QLatin1String{"names"})) {
+        m_tool = id;
+        showTab(isPhrases ? Tab::phrases : Tab::names);
     }
 }
 

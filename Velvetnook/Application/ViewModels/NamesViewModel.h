@@ -77,7 +77,7 @@ public:
     bool isPinned() const;
     bool isCounted() const;
 
-    // The tab that a tool of the panel opens: "names" or "tasbih".
+    // Goes to the tab of a tool of the panel, "names" or "tasbih", unless that is open already.
     Q_INVOKABLE void openTool(const QString &id);
     // To the card of one of them, whatever is searched for.
     Q_INVOKABLE void open(const QString &id);
@@ -109,6 +109,7 @@ private:
     const Formatting &m_formatting;
     PhraseList m_list;
     Tab m_tab = Tab::names;
+    QString m_tool;
     QString m_query;
     const KestCore::Phrase *m_current; // of the catalogue, which never goes
     QString m_digits;

@@ -10,20 +10,24 @@ import Velvetnook.Shell
 FocusScope {
     id: root
 
-    property bool isTyping: false
+    readonly property bool isTyping: App.counter.isEnteringTarget
 
     signal left // the focus is free
 
     function type() {
-        App.counter.clearTargetError();
-        field.text = "";
-        isTyping = true;
-        field.forceActiveFocus(Qt.OtherFocusReason);
+        App.counter.isEnteringTarget = true;
     }
     function leave() {
-        isTyping = false;
-        App.counter.clearTargetError();
-        left();
+        App.counter.isEnteringTarget = false;
+    }
+
+    onIsTypingChanged: {
+        if (isTyping) {
+            field.text = "";
+            field.forceActiveFocus(Qt.OtherFocusReason);
+        } else {
+            left();
+        }
     }
 
     implicitHeight: isTyping ? field.implicitHeight : 30
@@ -116,14 +120,6 @@ FocusScope {
             height: 34
             text: qsTr("Cancel")
             onClicked: root.leave()
-        }
-    }
-    Connections {
-        target: App.counter
-        function onTargetAccepted() {
-            if (root.isTyping) {
-                root.leave();
-            }
         }
     }
 }

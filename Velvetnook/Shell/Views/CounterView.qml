@@ -31,6 +31,11 @@ Item {
         if (App.counter.isEmpty) {
             App.counter.reset(false);
         } else {
+            App.counter.isAskingReset = true;
+        }
+    }
+    function showQuestion() {
+        if (App.counter.isAskingReset) {
             question.open();
         }
     }
@@ -113,7 +118,17 @@ Item {
         acceptText: qsTr("Reset")
         extraText: qsTr("Finish instead")
         cancelText: qsTr("Keep counting")
+        onVisibleChanged: {
+            if (!visible) {
+                App.counter.isAskingReset = false;
+            }
+        }
         onAccepted: App.counter.reset(true)
         onExtra: App.counter.finish()
     }
+    Connections {
+        target: App.counter
+        function onIsAskingResetChanged() { root.showQuestion(); }
+    }
+    Component.onCompleted: Qt.callLater(showQuestion)
 }

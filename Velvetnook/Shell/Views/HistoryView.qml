@@ -8,8 +8,6 @@ import Velvetnook.Shell
 Item {
     id: root
 
-    property bool byPhrase: false
-
     readonly property Item mainItem: sessions
     readonly property string footerText: App.history.footer
     readonly property string footerLink: App.history.isOff ? qsTr("Counter settings…") : ""
@@ -46,26 +44,26 @@ Item {
             Chip {
                 small: true
                 text: qsTr("Sessions")
-                chosen: !root.byPhrase
-                onClicked: root.byPhrase = false
+                chosen: !App.history.byPhrase
+                onClicked: App.history.byPhrase = false
             }
             Chip {
                 small: true
                 text: qsTr("By phrase")
-                chosen: root.byPhrase
-                onClicked: root.byPhrase = true
+                chosen: App.history.byPhrase
+                onClicked: App.history.byPhrase = true
             }
         }
         HistorySessions {
             id: sessions
 
-            visible: !root.byPhrase
+            visible: !App.history.byPhrase
             y: 30
             width: parent.width
             height: parent.height - 30
         }
         HistoryPhrases {
-            visible: root.byPhrase
+            visible: App.history.byPhrase
             y: 34
             width: parent.width
             height: parent.height - 34

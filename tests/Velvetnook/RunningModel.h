@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "KestCore/Store/StateStore.h"
+#include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Formatting.h"
+#include "tests/TemporaryFolder.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+// The application's model over a real store, at a time of the test's choosing, in London.
+class RunningModel
+{
+public:
+    using Prepare = std::function<void(KestCore::NativeState &)>;
+
+    // Friday 14 November 2025, 13:06.
+    static constexpr Base::Instant kStart{Base::Seconds{1'763'125'560.0}};
+
+    explicit RunningModel(const Prepare &prepare = {})
+    {
+        startQt();
+        auto store = KestCore::StateStore::open(m_folder.database()).value();
+        if (prepare) {
+            store
+                .change([&](KestCore::NativeState &state) -> Base::Result<void> {
+                    prepare(state);
+                    return {};
+                })
+                .value();
+        }
+        auto first = Velvetnook::committedAll(store.snapshot().value());
+        m_model.emplace(
+            std::make_unique<Velvetnook::StateKeeper>(m_folder.database(), std::move(store)),
+            std::move(first), [this] { return m_now; });
+        m_formatting.emplace(*m_model);
+    }
+
+    Velvetnook::ApplicationModel &model() { return *m_model; }
+    const Velvetnook::Formatting &formatting() const { return *m_formatting; }
+    const KestCore::NativeState &state() const { return m_model->state(); }
+
+    // Until every step that was asked for so far is answered.
+    void settle()
+    {
+        QEventLoop loop;
+        m_model->perform([](KestCore::StateStore &) { return Velvetnook::Committed{}; },
+                         [&loop](const Base::Result<void> &) { loop.quit(); });
+        loop.exec();
+    }
+
+    // Moves the clock and lets what is due happen.
+    void pass(Base::Seconds seconds)
+    {
+        m_now += seconds;
+        m_model->clock().tick();
+        settle();
+    }
+
+    void change(const Prepare &prepare)
+    {
+        m_model->changeState([prepare](KestCore::NativeState &state) -> Base::Result<void> {
+            prepare(state);
+            return {};
+        });
+        settle();
+    }
+
+    // What is on the disk, once this is gone.
+    std::filesystem::path file() const { return m_folder.database(); }
+    void close()
+    {
+        m_formatting.reset();
+        m_model.reset();
+    }
+
+private:
+    static void startQt()
+    {
+        static int count = 1;
+        static char name[] = "test";
+        static char *arguments[]{name, nullptr};
+        static const bool isInLondon = setenv("TZ", "Europe/London", 1) == 0;
+        static const QCoreApplication application{count, arguments};
+        ASSERT_TRUE(isInLondon);
+    }
+
+    TemporaryFolder m_folder;
+    Base::Instant m_now = kStart;
+    std::optional<Velvetnook::ApplicationModel> m_model;
+    std::optional<Velvetnook::Formatting> m_formatting;
+};
