@@ -40,9 +40,11 @@ public:
                                  QDBusConnection::ExportAllSignals);
         m_bus.registerService(QStringLiteral("org.freedesktop.Notifications"));
     }
+    ~FakeServer() override { PrivateBus::leave(m_bus); }
+    FakeServer(const FakeServer &) = delete;
+    FakeServer &operator=(const FakeServer &) = delete;
 
     void refuseAll() { m_refuses = true; }
-    void leave() { PrivateBus::leave(m_bus); }
     const std::vector<Received> &received() const { return m_received; }
     const std::vector<uint> &closed() const { return m_closed; }
 
@@ -138,18 +140,18 @@ TEST_F(NotificationsTest, SaysOnlyWhatTheServerUnderstands)
          }) {
         SCOPED_TRACE(name);
         m_answers.clear();
-        FakeServer server{m_bus.connect(), abilities};
+        auto server = std::make_unique<FakeServer>(m_bus.connect(), abilities);
         m_notifications.post(kReminder);
         ASSERT_TRUE(isAnswered(1));
-        ASSERT_EQ(server.received().size(), 1);
-        const Received &received = server.received().front();
+        ASSERT_EQ(server->received().size(), 1);
+        const Received received = server->received().front();
         EXPECT_EQ(received.title, title);
         EXPECT_EQ(received.body, body);
         EXPECT_EQ(received.actions, wanted);
         EXPECT_EQ(received.hints.contains(QStringLiteral("sound-name")), hasSoundName);
         EXPECT_EQ(received.hints.value(QStringLiteral("desktop-entry")),
                   QStringLiteral("app.kest.native"));
-        server.leave();
+        server.reset();
         ASSERT_TRUE(eventually([&] { return !m_notifications.state().isReady(); }));
     }
 }
@@ -224,7 +226,6 @@ TEST_F(NotificationsTest, ServersComeGoAndRefuse)
         ASSERT_TRUE(isAnswered(3));
         EXPECT_EQ(m_answers.back().second, Answer::refused);
         EXPECT_EQ(m_reason, QStringLiteral("not for you"));
-        server.leave();
     }
     EXPECT_TRUE(eventually([&] { return !m_notifications.state().isReady(); }));
     FakeServer next{m_bus.connect(), {QStringLiteral("body")}};

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -21,8 +23,9 @@ public:
         if (file.open(QIODevice::WriteOnly)) {
             file.write("<busconfig><type>session</type><listen>unix:dir=" +
                        m_folder.path().toUtf8() +
-                       "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
-                       "<allow own=\"*\"/></policy></busconfig>");
+                       "</listen><policy context=\"default\"><allow send_destination=\"*\" "
+                       "eavesdrop=\"true\"/><allow eavesdrop=\"true\"/><allow own=\"*\"/>"
+                       "</policy></busconfig>");
             file.close();
         }
         m_daemon.setStandardErrorFile(QProcess::nullDevice());

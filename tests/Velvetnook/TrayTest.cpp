@@ -31,6 +31,9 @@ public:
                              QDBusConnection::ExportAllContents);
         m_bus.registerService(QStringLiteral("org.kde.StatusNotifierWatcher"));
     }
+    ~FakeWatcher() override { PrivateBus::leave(m_bus); }
+    FakeWatcher(const FakeWatcher &) = delete;
+    FakeWatcher &operator=(const FakeWatcher &) = delete;
 
     bool hasHost() const { return m_hasHost; }
     void addHost()
@@ -38,7 +41,6 @@ public:
         m_hasHost = true;
         emit StatusNotifierHostRegistered();
     }
-    void leave() { PrivateBus::leave(m_bus); }
     const QStringList &items() const { return m_items; }
 
 public slots:
@@ -112,13 +114,13 @@ TEST_F(TrayTest, RegistersWheneverAWatcherAppearsAndSaysWhenThereIsNone)
     EXPECT_EQ(m_tray.state().message, QStringLiteral("There is no tray in this session."));
     for (const char *round : {"the first", "after a restart"}) {
         SCOPED_TRACE(round);
-        FakeWatcher watcher{m_bus.connect(), false};
+        auto watcher = std::make_unique<FakeWatcher>(m_bus.connect(), false);
         ASSERT_TRUE(eventually(
             [&] { return m_tray.state().availability == Availability::empty; }));
-        EXPECT_EQ(watcher.items().size(), 1);
-        watcher.addHost();
+        EXPECT_EQ(watcher->items().size(), 1);
+        watcher->addHost();
         ASSERT_TRUE(eventually([&] { return m_tray.state().isReady(); }));
-        watcher.leave();
+        watcher.reset();
         ASSERT_TRUE(eventually(
             [&] { return m_tray.state().availability == Availability::offline; }));
     }

@@ -69,6 +69,7 @@ Autostart::Standing AutostartFile::standing() const
     }
     std::istringstream lines{*text};
     for (std::string line; std::getline(lines, line);) {
+        std::erase(line, ' ');
         if (line == "Hidden=true" || line == "X-GNOME-Autostart-enabled=false") {
             return Standing::turnedOff;
         }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -21,8 +22,12 @@ template <class Reply, class Handler>
 void askBus(const QDBusConnection &bus, const QDBusMessage &call, QObject *owner,
             Handler handler)
 {
-    auto *watcher =
-        new QDBusPendingCallWatcher{bus.asyncCall(call, kBusPatienceMs), owner};
+    // Without a bus a pending call would never end.
+    const QDBusPendingCall pending =
+        bus.isConnected()
+            ? bus.asyncCall(call, kBusPatienceMs)
+            : QDBusPendingCall::fromError({QDBusError::Disconnected, QStringLiteral("no bus")});
+    auto *watcher = new QDBusPendingCallWatcher{pending, owner};
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, owner,
                      [handler = std::move(handler)](QDBusPendingCallWatcher *done) mutable {
                          const Reply reply = *done;
