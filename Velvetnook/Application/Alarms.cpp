@@ -51,6 +51,9 @@ void Alarms::act(const QString &notificationId, const QString &key)
         emit toolWanted(QStringLiteral("timers"));
     } else if (notificationId.startsWith(u"prayer-")) {
         emit toolWanted(QStringLiteral("prayer"));
+    } else if (key == u"begin") {
+        emit fridayBegun();
+        emit toolWanted(QStringLiteral("dhikr"));
     } else if (notificationId == u"kest-friday") {
         if (key != u"dismiss") {
             emit toolWanted(QStringLiteral("friday"));

@@ -44,6 +44,8 @@ signals:
     void notificationObsolete(const QString &notificationId);
     // The pinned phrase is in view already: the strip draws the eye to it.
     void emphasisWanted();
+    // The invitation of a Friday was taken.
+    void fridayBegun();
     void toolWanted(const QString &toolId);
     void nextReminderChanged();
     void previewReported(bool isAllowed);

@@ -128,6 +128,20 @@ void resetTimer(ApplicationModel &model, std::string id, ApplicationModel::Done 
         std::move(done));
 }
 
+void renameTimer(ApplicationModel &model, std::string id, std::string title,
+                 ApplicationModel::Done done)
+{
+    model.perform(
+        [id = std::move(id), title = std::move(title),
+         now = model.now()](StateStore &store) -> Result<Committed> {
+            KEST_TRY(Timer timer, timerById(store, id));
+            timer.record.title = title;
+            KEST_TRY(timer.record, KestCore::savedTimer(timer, now));
+            return saved(store, {.written = {std::move(timer.record)}, .removed = {}});
+        },
+        std::move(done));
+}
+
 void removeTimer(ApplicationModel &model, std::string id, std::shared_ptr<LocalRecord> removed,
                  ApplicationModel::Done done)
 {

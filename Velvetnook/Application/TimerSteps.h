@@ -29,6 +29,8 @@ void changeTimer(ApplicationModel &model, std::string id, PastEnd pastEnd, Timer
                  ApplicationModel::Done done = {});
 // Not begun: at its full length again.
 void resetTimer(ApplicationModel &model, std::string id, ApplicationModel::Done done = {});
+void renameTimer(ApplicationModel &model, std::string id, std::string title,
+                 ApplicationModel::Done done = {});
 // Removes it and puts what was removed into `removed`, for restoreTimer.
 void removeTimer(ApplicationModel &model, std::string id,
                  std::shared_ptr<KestCore::LocalRecord> removed, ApplicationModel::Done done);

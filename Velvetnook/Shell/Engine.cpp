@@ -4,7 +4,9 @@
 
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Shell/Beads.h"
+#include "Velvetnook/Shell/DayArc.h"
 #include "Velvetnook/Shell/IconImages.h"
+#include "Velvetnook/Shell/QiblaDial.h"
 #include "Velvetnook/Shell/ShadowImages.h"
 #include "Velvetnook/Shell/Theme.h"
 
@@ -29,6 +31,8 @@ void prepareEngine(QQmlEngine &engine, App &app, Theme &theme)
     registerForQml(app);
     qmlRegisterSingletonInstance("Velvetnook.Application", 1, 0, "Theme", &theme);
     qmlRegisterType<Beads>("Velvetnook.Application", 1, 0, "Beads");
+    qmlRegisterType<DayArc>("Velvetnook.Application", 1, 0, "DayArc");
+    qmlRegisterType<QiblaDial>("Velvetnook.Application", 1, 0, "QiblaDial");
     engine.addImageProvider(QStringLiteral("icon"), new IconImages);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowImages);
     engine.addImportPath(QStringLiteral("qrc:/"));

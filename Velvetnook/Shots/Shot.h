@@ -31,6 +31,7 @@ struct Shot {
     QString view{};    // for the panel the tool's id, for the settings the page
     std::function<void(ShotData &)> prepare{};
     std::function<void(App &)> arrange{}; // before it is drawn, as a user would have left it
+    Base::Seconds later{};                // how long after kShotTime
 };
 
 // One list for each area.

@@ -3,11 +3,10 @@
 #include "Velvetnook/Application/Alarms/FridayAlarm.h"
 
 #include "KestCore/Devotional/Content.h"
-#include "KestCore/Models/TimeOfDay.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/FridayPrompt.h"
 
-#include <chrono>
-#include <cmath>
+#include <algorithm>
 
 namespace Velvetnook
 {
@@ -16,17 +15,6 @@ namespace
 {
 
 constexpr Base::Seconds kRetry{60};
-constexpr int kFriday = 5;
-constexpr int kUsualMinute = 9 * 60;
-
-std::string dateOf(const KestCore::LocalTime &local)
-{
-    return QStringLiteral("%1-%2-%3")
-        .arg(local.year, 4, 10, QLatin1Char{'0'})
-        .arg(local.month, 2, 10, QLatin1Char{'0'})
-        .arg(local.day, 2, 10, QLatin1Char{'0'})
-        .toStdString();
-}
 
 } // namespace
 
@@ -43,28 +31,17 @@ FridayAlarm::FridayAlarm(ApplicationModel &model, QObject *parent)
 
 std::optional<Base::Instant> FridayAlarm::due(Base::Instant now) const
 {
-    const KestCore::LocalTime local = m_model.calendar().at(now);
-    const bool isOpen = m_model.isOn("friday.enabled") && local.weekday == kFriday &&
-                        m_model.setting("friday.lastShown") != dateOf(local);
-    if (!isOpen || m_isSaving) {
+    const auto at = fridayDue(now, m_model.state().settings, m_model.calendar());
+    if (!at || m_isSaving) {
         return std::nullopt;
     }
-    const int minute =
-        KestCore::minuteOfDay(m_model.setting("friday.time")).value_or(kUsualMinute);
-    const int past = local.hour * 60 + local.minute;
-    if (past >= minute) {
-        return m_retryAt.value_or(now);
-    }
-    // An hour that a clock change skips or repeats moves it by that hour at most.
-    const std::chrono::seconds left{(minute - past) * 60 - local.second};
-    const double fraction = Base::seconds1970(now) - std::floor(Base::seconds1970(now));
-    return now + Base::Seconds{left} - Base::Seconds{fraction};
+    return std::max(*at, m_retryAt.value_or(*at));
 }
 
 void FridayAlarm::invite(Base::Instant now)
 {
     m_isSaving = true;
-    const std::string today = dateOf(m_model.calendar().at(now));
+    const std::string today = dateText(now, m_model.calendar());
     m_model.changeState(
         [today](KestCore::NativeState &state) -> Result<void> {
             state.settings["friday.lastShown"] = today;

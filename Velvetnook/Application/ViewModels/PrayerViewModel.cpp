@@ -2,16 +2,273 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/ViewModels/PrayerViewModel.h"
 
+#include "PrayerCore/Qibla.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/PrayerTable.h"
+
+#include <QStringList>
+#include <QVariantMap>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Velvetnook
 {
 
+namespace
+{
+
+using KestCore::PrayerCalculator;
+using PrayerCore::Prayer;
+
+constexpr qint64 kMostMinutes = 90; // beyond, hours and minutes are shown
+
+} // namespace
+
 PrayerViewModel::PrayerViewModel(ApplicationModel &model, const Formatting &formatting,
                                  QObject *parent)
-    : QObject{parent}, m_model{model}, m_formatting{formatting}
+    : QObject{parent}, m_model{model}, m_formatting{formatting}, m_watch{model}
 {
+    followFocus();
+    const auto follow = [this] { refresh(); };
+    connect(&m_watch, &PrayerWatch::timeCame, this, follow);
+    connect(&m_watch, &PrayerWatch::inputsChanged, this, follow);
+    connect(&model, &ApplicationModel::stateChanged, this, follow);
+    connect(&model, &ApplicationModel::recordsChanged, this, follow);
+    connect(&model, &ApplicationModel::companionChanged, this, &PrayerViewModel::focusChanged);
+    connect(&model, &ApplicationModel::calendarChanged, this, follow);
+    model.clock().add(
+        this, [this](Base::Instant now) { return m_watched ? nextTick(now) : std::nullopt; },
+        [this](Base::Instant) { tick(); });
+}
+
+void PrayerViewModel::setWatched(bool watched)
+{
+    if (m_watched != watched) {
+        m_watched = watched;
+        emit watchedChanged();
+        refresh();
+        m_model.clock().reschedule();
+    }
+}
+
+void PrayerViewModel::refresh()
+{
+    m_moment.reset();
+    followFocus();
+    emit changed();
+    emit ticked();
+    emit arcChanged();
+    emit focusChanged();
+    if (m_page != u"day") {
+        emit pageChanged();
+    }
+}
+
+// Of a minute, or of a second in the last one: the sun goes on and the countdown down.
+void PrayerViewModel::tick()
+{
+    m_moment.reset();
+    const auto coming = next();
+    emit ticked();
+    if (!coming || (coming->at - m_model.now()).count() >= 60) {
+        emit arcChanged();
+    }
+}
+
+std::optional<Base::Instant> PrayerViewModel::nextTick(Base::Instant now) const
+{
+    const auto coming = m_watch.next(now);
+    if (!coming) {
+        return std::nullopt; // tomorrow asks again
+    }
+    // The instant at which the number that is rounded up becomes the next lower one.
+    const double left = (coming->at - now).count();
+    const double unit = left > 60 ? 60 : 1;
+    const double steps = std::ceil(left / unit) - 1;
+    return coming->at - Base::Seconds{std::max(steps, 0.0) * unit};
+}
+
+const PrayerViewModel::Moment &PrayerViewModel::moment() const
+{
+    const Base::Instant now = m_model.now();
+    const bool isStale = m_moment && !m_watched && now != m_moment->now;
+    if (m_moment && !isStale) {
+        return *m_moment;
+    }
+    m_moment = Moment{.now = now};
+    if (const auto &inputs = m_watch.inputs()) {
+        m_moment->day = PrayerCalculator::comingDays(*inputs, now, 1).front();
+        m_moment->next = m_watch.next(now);
+        if (m_moment->day.times) {
+            m_moment->path = sunPathOf(*m_moment->day.times, now);
+        }
+    }
+    return *m_moment;
+}
+
+QString PrayerViewModel::message() const
+{
+    const auto &inputs = m_watch.inputs();
+    if (inputs) {
+        return hasTimes() ? QString{}
+                          : tr("There are no times to calculate for this date here: the Sun "
+                               "does not rise or set as usual, or the place skipped the date. "
+                               "Follow your local authority.");
+    }
+    return m_watch.hasNoPlace()
+               ? tr("Add a location to see your next prayer. You can set it manually.")
+               : QString::fromStdString(inputs.error().message);
+}
+
+QString PrayerViewModel::note() const
+{
+    return tr("Calculated prayer time. Check your local timetable.");
+}
+
+QString PrayerViewModel::islamicDate() const
+{
+    const auto &inputs = m_watch.inputs();
+    return inputs ? PrayerTable{m_model, m_formatting, *inputs}.islamicText(today().date)
+                  : QString{};
+}
+
+QString PrayerViewModel::timeText(Base::Instant at) const
+{
+    const auto &inputs = m_watch.inputs();
+    return inputs ? m_formatting.timeIn(inputs->calendar, at) : m_formatting.time(at);
+}
+
+QString PrayerViewModel::nextLabel() const
+{
+    const auto coming = next();
+    // Sunrise is no prayer: it ends the time of one.
+    return coming && coming->prayer == Prayer::sunrise ? tr("Next") : tr("Next prayer");
+}
+
+QString PrayerViewModel::nextName() const
+{
+    const auto coming = next();
+    return coming ? prayerName(coming->prayer) : QString{};
+}
+
+QString PrayerViewModel::nextTime() const
+{
+    const auto coming = next();
+    return coming ? timeText(coming->at) : QString{};
+}
+
+QString PrayerViewModel::countdown() const
+{
+    const auto coming = next();
+    if (!coming) {
+        return {};
+    }
+    const double left = std::max((coming->at - moment().now).count(), 0.0);
+    if (left <= 60) {
+        return m_formatting.number(static_cast<qlonglong>(std::ceil(left)));
+    }
+    const auto minutes = static_cast<qint64>(std::ceil(left / 60));
+    return minutes <= kMostMinutes
+               ? m_formatting.number(minutes)
+               : m_formatting.digits(QStringLiteral("%1:%2")
+                                         .arg(minutes / 60)
+                                         .arg(minutes % 60, 2, 10, QLatin1Char{'0'}));
+}
+
+QString PrayerViewModel::countdownUnit() const
+{
+    const auto coming = next();
+    if (!coming) {
+        return {};
+    }
+    const double left = (coming->at - moment().now).count();
+    if (left <= 60) {
+        return tr("s", "seconds until a prayer");
+    }
+    return left <= kMostMinutes * 60.0 ? tr("min", "minutes until a prayer")
+                                       : tr("h", "hours until a prayer");
+}
+
+QString PrayerViewModel::spoken() const
+{
+    const auto coming = next();
+    return coming ? tr("%1 at %2, in %3")
+                        .arg(nextName(), nextTime(),
+                             m_formatting.remaining((coming->at - moment().now).count()))
+                  : message();
+}
+
+QString PrayerViewModel::toneOf(Prayer prayer) const
+{
+    const Moment &shown = moment();
+    const auto &times = shown.day.times;
+    const auto at = times ? PrayerCore::instantOf(*times, prayer) : std::nullopt;
+    if (!at) {
+        return QStringLiteral("past");
+    }
+    if (shown.next && shown.next->at == *at && shown.next->prayer == prayer) {
+        return QStringLiteral("next");
+    }
+    if (*at > shown.now) {
+        return QStringLiteral("coming");
+    }
+    const bool isCurrent =
+        PrayerCore::prayerInProgress(*times, shown.now) == prayer && prayer != Prayer::sunrise;
+    return isCurrent ? QStringLiteral("current") : QStringLiteral("past");
+}
+
+QVariantList PrayerViewModel::cells() const
+{
+    const auto &times = today().times;
+    QVariantList cells;
+    for (const auto &[prayer, text] : enumTexts(Base::Of<Prayer>{})) {
+        const auto at = times ? PrayerCore::instantOf(*times, prayer) : std::nullopt;
+        const QString time = at ? timeText(*at) : QStringLiteral("—");
+        cells.append(QVariantMap{{QStringLiteral("name"), prayerName(prayer)},
+                                 {QStringLiteral("time"), time},
+                                 {QStringLiteral("tone"), toneOf(prayer)},
+                                 {QStringLiteral("spoken"),
+                                  at ? QStringLiteral("%1 %2").arg(prayerName(prayer), time)
+                                     : tr("%1, no time today").arg(prayerName(prayer))}});
+    }
+    return cells;
+}
+
+QVariantList PrayerViewModel::arcMarks() const
+{
+    const SunPath &shown = path();
+    QVariantList marks;
+    for (const auto &[prayer, text] : enumTexts(Base::Of<Prayer>{})) {
+        const auto &at = shown.marks.at(static_cast<std::size_t>(prayer));
+        const QString tone = toneOf(prayer);
+        if (at) {
+            marks.append(
+                QVariantMap{{QStringLiteral("x"), at->x()},
+                            {QStringLiteral("y"), at->y()},
+                            {QStringLiteral("isPast"), tone == u"past" || tone == u"current"},
+                            {QStringLiteral("isNext"), tone == u"next"}});
+        }
+    }
+    return marks;
+}
+
+double PrayerViewModel::qibla() const
+{
+    const auto &inputs = m_watch.inputs();
+    const auto found = inputs ? PrayerCore::qibla(inputs->coordinates) : std::nullopt;
+    return found ? found->direction.degrees : 0;
+}
+
+QString PrayerViewModel::qiblaText() const
+{
+    return QStringLiteral("%1°").arg(m_formatting.decimal(qibla(), 1));
+}
+
+QString PrayerViewModel::qiblaSpoken() const
+{
+    return tr("Qibla %1 degrees from north").arg(m_formatting.decimal(qibla(), 1));
 }
 
 } // namespace Velvetnook
