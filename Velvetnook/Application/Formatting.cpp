@@ -20,6 +20,13 @@ QString fromView(std::string_view text)
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+// The separators of a number follow its digits, not the language around it.
+QLocale numbers(bool areArabic)
+{
+    return areArabic ? QLocale{QLocale::Arabic, QLocale::Egypt}
+                     : QLocale{QLocale::English, QLocale::UnitedKingdom};
+}
+
 } // namespace
 
 Formatting::Formatting(const ApplicationModel &model, QObject *parent)
@@ -43,10 +50,15 @@ QLocale Formatting::locale() const
                            : QLocale{QLocale::English, QLocale::UnitedKingdom};
 }
 
-QString Formatting::digits(QString text) const
+bool Formatting::usesArabicDigits() const
 {
     const std::string_view chosen = m_model.setting("appearance.digits");
-    const bool arabic = chosen == "arabic" || (chosen != "latin" && isRightToLeft());
+    return chosen == "arabic" || (chosen != "latin" && isRightToLeft());
+}
+
+QString Formatting::digits(QString text) const
+{
+    const bool arabic = usesArabicDigits();
     for (QChar &letter : text) {
         const bool isLatinDigit = letter >= u'0' && letter <= u'9';
         const bool isArabicDigit = letter >= u'٠' && letter <= u'٩';
@@ -59,11 +71,25 @@ QString Formatting::digits(QString text) const
     return text;
 }
 
-QString Formatting::number(qlonglong value) const { return digits(locale().toString(value)); }
+QString Formatting::number(qlonglong value) const
+{
+    return numbers(usesArabicDigits()).toString(value);
+}
 
 QString Formatting::decimal(double value, int decimals) const
 {
-    return digits(locale().toString(value, 'f', decimals));
+    return numbers(usesArabicDigits()).toString(value, 'f', decimals);
+}
+
+bool Formatting::isTwelveHours() const
+{
+    const std::string_view chosen = m_model.setting("appearance.clock");
+    if (chosen == "12" || chosen == "24") {
+        return chosen == "12";
+    }
+    static const bool kSession =
+        QLocale::system().timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
+    return kSession;
 }
 
 QString Formatting::time(Base::Instant instant) const
@@ -74,7 +100,7 @@ QString Formatting::time(Base::Instant instant) const
 QString Formatting::timeIn(const KestCore::Calendar &calendar, Base::Instant instant) const
 {
     const KestCore::LocalTime local = calendar.at(instant);
-    if (m_model.setting("appearance.clock") == "12") {
+    if (isTwelveHours()) {
         const QString half = local.hour < 12 ? tr("am") : tr("pm");
         return digits(QStringLiteral("%1:%2 %3")
                           .arg((local.hour + 11) % 12 + 1)
@@ -90,7 +116,9 @@ QString Formatting::date(Base::Instant instant) const
 {
     const KestCore::LocalTime local = m_model.calendar().at(instant);
     const QDate date{local.year, local.month, local.day};
-    return digits(locale().toString(date, QStringLiteral("dddd d MMMM")));
+    const QString order =
+        isRightToLeft() ? QStringLiteral("dddd، d MMMM") : QStringLiteral("dddd d MMMM");
+    return digits(locale().toString(date, order));
 }
 
 QString Formatting::islamicDate(const KestCore::IslamicDate &date) const

@@ -35,9 +35,11 @@ public:
     // The same text with the chosen digits: setting "appearance.digits" is "latin" or "arabic";
     // else as the language has them.
     QString digits(QString text) const;
+    bool usesArabicDigits() const;
 
-    // "13:48", or "1:48 pm" where setting "appearance.clock" is "12".
-    QString time(Base::Instant instant) const;
+    // Setting "appearance.clock": "24", "12", or else as the session has it.
+    bool isTwelveHours() const;
+    QString time(Base::Instant instant) const; // "13:48", "1:48 pm"
     QString timeIn(const KestCore::Calendar &calendar, Base::Instant instant) const;
     QString date(Base::Instant instant) const;                    // "Friday 14 November"
     QString islamicDate(const KestCore::IslamicDate &date) const; // "23 Jumada I 1447"

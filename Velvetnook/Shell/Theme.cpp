@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFont>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -21,6 +22,8 @@ namespace Velvetnook
 
 namespace
 {
+
+constexpr int kMeasuredSize = 100;
 
 QString presentFamily(const QString &family);
 
@@ -105,7 +108,13 @@ void Theme::fillFonts()
         if (font.weight() == QFont::Light) {
             font.setLetterSpacing(QFont::AbsoluteSpacing, -0.02 * pixelSize);
         }
+        font.setHintingPreference(QFont::PreferNoHinting);
         m_type.insert(it.key(), font);
+        QFont large{font};
+        large.setPixelSize(kMeasuredSize);
+        const QFontMetricsF metrics{large};
+        m_extents.insert(it.key(),
+                         {metrics.ascent() / kMeasuredSize, metrics.descent() / kMeasuredSize});
         m_lineHeight.insert(it.key(), role[u"lineHeight"].toInt());
     }
 }
@@ -144,6 +153,12 @@ qreal Theme::strokeFor(int size)
 }
 
 int Theme::shadowReach(const QString &step) { return ShadowImages::reach(step); }
+
+qreal Theme::baseline(const QString &role, qreal pixelSize, qreal lineHeight) const
+{
+    const auto [ascent, descent] = m_extents.value(role);
+    return (lineHeight + (ascent - descent) * pixelSize) / 2;
+}
 
 qreal Theme::cellWidth(const QString &role, const QString &letter, qreal pixelSize) const
 {

@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Shell/ArabicInk.h"
 
+#include <QHash>
 #include <QJsonObject>
 #include <QObject>
 #include <QQmlPropertyMap>
@@ -54,6 +55,8 @@ public:
     Q_INVOKABLE QColor accentOf(const QString &accent) const;
     // How far the shadow of a step reaches around its surface.
     Q_INVOKABLE static int shadowReach(const QString &step);
+    // Where the baseline is in a line of that height, with the letters in its middle.
+    Q_INVOKABLE qreal baseline(const QString &role, qreal pixelSize, qreal lineHeight) const;
     // The cell of a digit or colon in a number that changes; 0: the letter's own width.
     Q_INVOKABLE qreal cellWidth(const QString &role, const QString &letter,
                                 qreal pixelSize) const;
@@ -77,6 +80,7 @@ private:
     QQmlPropertyMap m_onStrip;
     QQmlPropertyMap m_type;
     QQmlPropertyMap m_lineHeight;
+    QHash<QString, QPair<qreal, qreal>> m_extents; // of each role in em: ascent, descent
     QQmlPropertyMap m_radius;
     QQmlPropertyMap m_motion;
     ArabicInk m_ink;

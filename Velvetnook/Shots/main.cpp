@@ -3,6 +3,7 @@
 #include "KestCore/Store/StateStore.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Languages.h"
 #include "Velvetnook/Shell/Engine.h"
 #include "Velvetnook/Shell/Theme.h"
 #include "Velvetnook/Shots/Shot.h"
@@ -16,7 +17,6 @@
 #include <QQuickWindow>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
@@ -94,13 +94,7 @@ bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
                            committedAll(std::move(*snapshot)), [&shot] { return kShotTime + shot.later; }};
     App app{model};
     Theme theme{model};
-    QTranslator translator;
-    if (app.format()->isRightToLeft() &&
-        translator.load(QStringLiteral(":/velvetnook/i18n/velvetnook_ar.qm"))) {
-        QGuiApplication::installTranslator(&translator);
-    }
-    QGuiApplication::setLayoutDirection(app.format()->isRightToLeft() ? Qt::RightToLeft
-                                                                      : Qt::LeftToRight);
+    const Languages languages{model, *app.format()};
     QQmlEngine engine;
     prepareEngine(engine, app, theme);
     if (shot.arrange) {

@@ -11,6 +11,7 @@ Item {
     property string role
     property real pixelSize
     property color color
+    property int weight
     property bool crossFade: false
 
     readonly property real wanted: Theme.cellWidth(role, letter, pixelSize)
@@ -34,6 +35,7 @@ Item {
         role: root.role
         pixelSize: root.pixelSize
         font.letterSpacing: 0
+        font.weight: root.weight
         color: root.color
         elide: Text.ElideNone
         Accessible.ignored: true
@@ -45,6 +47,7 @@ Item {
         role: root.role
         pixelSize: root.pixelSize
         font.letterSpacing: 0
+        font.weight: root.weight
         color: root.color
         opacity: 0
         visible: opacity > 0

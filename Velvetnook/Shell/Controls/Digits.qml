@@ -5,40 +5,45 @@ import QtQuick
 import Velvetnook.Application
 
 // A number that changes: every digit stands in a cell of the same width, so nothing jitters.
-Row {
+// Numbers run from left to right in every language.
+Item {
     id: root
 
     property string text
     property string role: "display"
     property real pixelSize: Theme.type[role].pixelSize
     property color color: Theme.color.text1
+    property int weight: Theme.type[role].weight
     property bool crossFade: false // for a count
 
-    baselineOffset: probe.baselineOffset
-    layoutDirection: Qt.LeftToRight
-    LayoutMirroring.enabled: false
-    LayoutMirroring.childrenInherit: true
+    readonly property real lineHeight:
+        Math.round(Theme.lineHeight[role] * pixelSize / Theme.type[role].pixelSize)
+
+    implicitWidth: Math.ceil(row.implicitWidth)
+    implicitHeight: lineHeight
+    baselineOffset: Theme.baseline(role, pixelSize, lineHeight)
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 
-    Txt {
-        id: probe
+    Row {
+        id: row
 
-        visible: false
-        role: root.role
-        pixelSize: root.pixelSize
-        text: "0"
-    }
-    Repeater {
-        model: root.text.length
-        delegate: DigitCell {
-            required property int index
+        layoutDirection: Qt.LeftToRight
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
 
-            letter: root.text.charAt(index)
-            role: root.role
-            pixelSize: root.pixelSize
-            color: root.color
-            crossFade: root.crossFade && root.visible
+        Repeater {
+            model: root.text.length
+            delegate: DigitCell {
+                required property int index
+
+                letter: root.text.charAt(index)
+                role: root.role
+                pixelSize: root.pixelSize
+                weight: root.weight
+                color: root.color
+                crossFade: root.crossFade && root.visible && !Theme.reducedMotion
+            }
         }
     }
 }

@@ -3,7 +3,7 @@
 import QtQuick
 import Velvetnook.Application
 
-// The picture of a key. Key names do not mirror.
+// The picture of a key.
 Rectangle {
     id: root
 
@@ -16,8 +16,6 @@ Rectangle {
     color: "transparent"
     border.width: 1
     border.color: Theme.color.line2
-    LayoutMirroring.enabled: false
-    LayoutMirroring.childrenInherit: true
     Accessible.ignored: true
 
     Txt {

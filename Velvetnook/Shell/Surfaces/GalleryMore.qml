@@ -57,7 +57,7 @@ Column {
         leftPadding: 20
         bottomPadding: 30
         Rectangle {
-            width: 372; height: 180; color: "transparent"; objectName: "surface"
+            width: 412; height: 180; color: "transparent"; objectName: "surface"
             AskDialog {
                 id: ask
                 title: "Start again from zero?"
