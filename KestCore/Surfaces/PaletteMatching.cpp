@@ -17,6 +17,28 @@ namespace detail
 namespace
 {
 
+// Each letter begins a word, as "rs" does in "resume stopwatch".
+std::optional<FuzzyMatch> initials(std::string_view title, std::string_view query)
+{
+    FuzzyMatch match{.positions = {}, .cost = 0};
+    std::size_t next = 0;
+    for (std::size_t at = 0; at < query.size();) {
+        const std::size_t size = codePointSize(query, at);
+        const std::string_view letter = query.substr(at, size);
+        while (next < title.size() &&
+               !(beginsWord(title, next) && title.substr(next).starts_with(letter))) {
+            ++next;
+        }
+        if (next >= title.size()) {
+            return std::nullopt;
+        }
+        match.positions.push_back(next);
+        next += size;
+        at += size;
+    }
+    return match.positions.size() > 1 ? std::optional{std::move(match)} : std::nullopt;
+}
+
 // Tries one beginning; the letters then come as early as they can.
 std::optional<FuzzyMatch> fuzzyFrom(std::string_view title, std::string_view query,
                                     std::size_t first)
@@ -38,9 +60,7 @@ std::optional<FuzzyMatch> fuzzyFrom(std::string_view title, std::string_view que
         at += size;
     }
     const std::size_t skipped = next - first - query.size();
-    const bool isInitials = std::ranges::all_of(
-        match.positions, [&](std::size_t at) { return beginsWord(title, at); });
-    if (!isInitials && (skipped > query.size() || pieces > match.positions.size() - 1)) {
+    if (skipped > query.size() || pieces > match.positions.size() - 1) {
         return std::nullopt;
     }
     match.cost = static_cast<std::uint32_t>(pieces * 64 + skipped);
@@ -60,15 +80,12 @@ std::size_t codePointSize(std::string_view text, std::size_t at)
 
 std::optional<FuzzyMatch> fuzzyMatch(std::string_view title, std::string_view query)
 {
-    std::optional<FuzzyMatch> best;
-    for (std::size_t at = 0; at < title.size(); ++at) {
+    std::optional<FuzzyMatch> best = initials(title, query);
+    for (std::size_t at = 0; !best && at < title.size(); ++at) {
         if (title[at] != query.front() || !beginsWord(title, at)) {
             continue;
         }
-        auto match = fuzzyFrom(title, query, at);
-        if (match && (!best || match->cost < best->cost)) {
-            best = std::move(match);
-        }
+        best = fuzzyFrom(title, query, at);
     }
     return best;
 }

@@ -64,6 +64,9 @@ PaletteWindow::PaletteWindow(QQmlEngine &engine, App &app)
 
 bool PaletteWindow::prepare()
 {
+    if (rootObject() != nullptr) {
+        return true;
+    }
     setSource(QUrl{QStringLiteral("qrc:/Velvetnook/Shell/Surfaces/PaletteStage.qml")});
     if (rootObject() == nullptr) {
         return false;
@@ -96,7 +99,7 @@ void PaletteWindow::place()
 
 void PaletteWindow::open()
 {
-    if (isVisible()) {
+    if (isVisible() || !prepare()) {
         return;
     }
     m_app.palette()->begin();

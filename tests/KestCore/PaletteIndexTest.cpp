@@ -67,7 +67,7 @@ TEST(PaletteIndex, RanksExactBeforePrefixBeforeWordBeforeLetters)
         {"dark", {"Appearance"}},
         {"ark", {}}, // a keyword counts from its beginning only
         {"prayr", {"Prayer"}},
-        {"rs", {"Resume Stopwatch"}},
+        {"gfs", {"Groceries for Sunday"}},
         {"zqx", {}},
         {"", {}},
         {" - ", {}},

@@ -63,7 +63,10 @@ Item {
             if (root.isCurrent) {
                 return Theme.color.soft2;
             }
-            return area.pressed ? Theme.color.bg3 : area.hovered ? Theme.color.bg2 : "transparent";
+            if (tap.pressed) {
+                return Theme.color.bg3;
+            }
+            return hover.hovered ? Theme.color.bg2 : "transparent";
         }
 
         HoverHandler { id: hover }
@@ -71,12 +74,6 @@ Item {
             id: tap
 
             onTapped: root.clicked()
-        }
-        QtObject {
-            id: area
-
-            readonly property bool hovered: hover.hovered
-            readonly property bool pressed: tap.pressed
         }
 
         RowLayout {

@@ -24,7 +24,10 @@ FocusScope {
         color: Theme.color.scrim
         opacity: surface.opacity
 
-        TapHandler { onTapped: root.dismissed() }
+        MouseArea {
+            anchors.fill: parent
+            onClicked: root.dismissed()
+        }
     }
     PaletteSurface {
         id: surface
@@ -37,8 +40,6 @@ FocusScope {
         focus: true
 
         property real rise: 0
-
-        TapHandler {} // what is tapped here does not reach the scrim
     }
     states: State {
         name: "open"

@@ -27,6 +27,7 @@ FocusScope {
     Accessible.role: Accessible.Dialog
     Accessible.name: qsTr("Command palette")
 
+    MouseArea { anchors.fill: parent } // what is clicked here does not reach the scrim
     Shadow { step: "floating" }
     Rectangle {
         anchors.fill: parent
