@@ -216,8 +216,7 @@ int main(int argc, char **argv)
     if (!window.prepare()) {
         return 1;
     }
-    PaletteHotkey hotkey{model, *app.palette()};
-    QObject::connect(&hotkey, &PaletteHotkey::pressed, &window, &PaletteWindow::toggle);
+    const PaletteHotkey hotkey{model, *app.palette()};
     settle(500);
     measureShowing(keys, app, window);
     return 0;

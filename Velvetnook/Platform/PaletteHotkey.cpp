@@ -241,7 +241,7 @@ bool PaletteHotkey::press(const xcb_key_press_event_t &event)
     m_isDown = true;
     m_lastPress = event.time;
     if (!isRepeat) {
-        emit pressed();
+        emit m_palette.toggleWanted();
     }
     // Lets go on what was typed since, to where the keyboard is now.
     xcb_ungrab_keyboard(m_server, event.time);

@@ -24,8 +24,9 @@ class PaletteViewModel;
 // target is "command". Only an X server gives it; what is in the way, and the way round it,
 // is told to the palette's model.
 //
-// The server stops the keyboard the moment that the key is pressed. It goes on once the
-// palette has it, so that what is typed meanwhile, however soon, lands there.
+// The server stops the keyboard the moment that the key is pressed. The palette is asked to
+// open, and has the keyboard when that returns; then it goes on. So what is typed meanwhile,
+// however soon, lands there.
 class PaletteHotkey : public QObject, public QAbstractNativeEventFilter
 {
     Q_OBJECT
@@ -38,10 +39,6 @@ public:
     PaletteHotkey &operator=(const PaletteHotkey &) = delete;
 
     bool nativeEventFilter(const QByteArray &kind, void *message, qintptr *result) override;
-
-signals:
-    // Whoever shows the palette has done so, and has the keyboard, when this returns.
-    void pressed();
 
 private:
     // What the server was asked for.

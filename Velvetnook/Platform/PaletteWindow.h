@@ -29,8 +29,10 @@ public slots:
     void close();
     void toggle();
 
-private:
+private slots:
     void place();
+
+private:
     void followFocus();
     void hideWindow();
 

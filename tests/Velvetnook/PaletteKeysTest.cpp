@@ -131,8 +131,6 @@ protected:
     void listen()
     {
         m_hotkey = std::make_unique<PaletteHotkey>(*m_model, *m_app->palette());
-        QObject::connect(m_hotkey.get(), &PaletteHotkey::pressed, m_window.get(),
-                         &PaletteWindow::toggle);
     }
     void pressHotkey()
     {
