@@ -1,3 +1,268 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-int main() { return 0; }
+#include "KestCore/Store/StateStore.h"
+#include "KestCore/Store/StoreLocation.h"
+#include "Velvetnook/Application/App.h"
+#include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/CommandServer.h"
+#include "Velvetnook/Notch/NotchDriver.h"
+#include "Velvetnook/Notch/NotchWindow.h"
+#include "Velvetnook/Notch/SurfaceWindow.h"
+#include "Velvetnook/Platform/PaletteWindow.h"
+#include "Velvetnook/Shell/Engine.h"
+#include "Velvetnook/Shell/Theme.h"
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTimer>
+
+#include <xcb/xcb.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace Velvetnook
+{
+
+namespace
+{
+
+bool isSet(const char *name)
+{
+    const char *value = std::getenv(name);
+    return value != nullptr && *value != '\0';
+}
+
+bool hasXServer()
+{
+    xcb_connection_t *server = xcb_connect(nullptr, nullptr);
+    const bool isThere = xcb_connection_has_error(server) == 0;
+    xcb_disconnect(server);
+    return isThere;
+}
+
+// Only an X server, also one inside a Wayland session, lets a window stand at the top edge
+// above the others. False when there is nothing to draw on.
+bool chooseDisplay()
+{
+    if (isSet("QT_QPA_PLATFORM")) {
+        return true; // the user knows better
+    }
+    if (isSet("DISPLAY") && hasXServer()) {
+        setenv("QT_QPA_PLATFORM", "xcb", 1);
+        return true;
+    }
+    return isSet("WAYLAND_DISPLAY");
+}
+
+// The surfaces are small and stand still nearly always. Drawing them takes the processor less
+// than starting a graphics driver would, which costs every start a quarter of a second and
+// more memory than the whole application.
+void chooseRenderer()
+{
+    if (!isSet("QT_QUICK_BACKEND") && !isSet("QSG_RHI_BACKEND")) {
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    }
+}
+
+double steadySeconds()
+{
+    return std::chrono::duration<double>{std::chrono::steady_clock::now().time_since_epoch()}
+        .count();
+}
+
+// The data could not be opened: says why, and changes nothing.
+int showFailure(const KestError &failure, const std::filesystem::path &file)
+{
+    std::fprintf(stderr, "velvetnook: %s\n", failure.message.c_str());
+    QQmlEngine engine;
+    QQuickView view{&engine, nullptr};
+    view.setTitle(QStringLiteral("Velvetnook"));
+    view.setInitialProperties(
+        {{QStringLiteral("message"), QString::fromStdString(failure.message)},
+         {QStringLiteral("place"), QString::fromStdString(file.string())}});
+    view.setSource(QUrl{QStringLiteral("qrc:/Velvetnook/Shell/Surfaces/FailureSurface.qml")});
+    if (view.rootObject() == nullptr) {
+        return 1;
+    }
+    QObject::connect(view.rootObject(), SIGNAL(closeWanted()), qGuiApp, SLOT(quit()));
+    view.show();
+    QGuiApplication::exec();
+    return 1;
+}
+
+// Everything that stands while the application runs. What can wait is made after the strip has
+// been drawn for the first time.
+class Running
+{
+public:
+    Running(const std::filesystem::path &file, KestCore::StateStore store,
+            KestCore::Snapshot first);
+
+    // Empty, or why nothing can be shown.
+    QString begin();
+
+private:
+    void beginTheRest();
+    void followLayout();
+    void listen();
+    void openSettings();
+    void openOnboarding();
+
+    ApplicationModel m_model;
+    App m_app;
+    Theme m_theme;
+    QQmlEngine m_engine;
+    NotchDriver m_driver;
+    CommandServer m_commands;
+    std::unique_ptr<NotchWindow> m_notch;
+    std::unique_ptr<PaletteWindow> m_palette;
+    std::unique_ptr<SurfaceWindow> m_settings;
+    std::unique_ptr<SurfaceWindow> m_onboarding;
+};
+
+Running::Running(const std::filesystem::path &file, KestCore::StateStore store,
+                 KestCore::Snapshot first)
+    : m_model{std::make_unique<StateKeeper>(file, std::move(store)),
+              committedAll(std::move(first)), Base::wallClock},
+      m_app{m_model}, m_theme{m_model}, m_driver{m_model, m_app, steadySeconds},
+      m_commands{m_model, file}
+{
+    prepareEngine(m_engine, m_app, m_theme);
+    followLayout();
+}
+
+void Running::followLayout()
+{
+    const auto follow = [this] {
+        QGuiApplication::setLayoutDirection(m_app.format()->isRightToLeft() ? Qt::RightToLeft
+                                                                            : Qt::LeftToRight);
+    };
+    follow();
+    QObject::connect(&m_model, &ApplicationModel::stateChanged, qGuiApp, follow);
+}
+
+QString Running::begin()
+{
+    m_notch = std::make_unique<NotchWindow>(m_engine, m_model, m_driver);
+    if (!m_notch->problem().isEmpty()) {
+        return m_notch->problem();
+    }
+    const auto rest = [this] { beginTheRest(); };
+    m_notch->begin();
+    if (m_notch->isVisible()) {
+        QObject::connect(
+            m_notch.get(), &QQuickWindow::frameSwapped, qGuiApp, rest,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    } else {
+        QTimer::singleShot(0, qGuiApp, rest); // kept away from the screen: no frame will come
+    }
+    return {};
+}
+
+void Running::beginTheRest()
+{
+    QObject::connect(m_app.panel(), &PanelViewModel::settingsWanted, m_app.settings(),
+                     [this] { m_app.settings()->open(); });
+    QObject::connect(m_app.settings(), &SettingsViewModel::openWanted, qGuiApp,
+                     [this] { openSettings(); });
+    QObject::connect(m_app.onboarding(), &OnboardingViewModel::openWanted, qGuiApp,
+                     [this] { openOnboarding(); });
+    listen();
+    m_app.onboarding()->openWhenNeeded();
+    // Made before they are wanted, while nothing else is to be done.
+    QTimer::singleShot(1000, qGuiApp, [this] { m_driver.prepare(); });
+    m_palette = std::make_unique<PaletteWindow>(m_engine, m_app);
+    QTimer::singleShot(1500, qGuiApp, [this] { m_palette->prepare(); });
+}
+
+// What kest asks of the surfaces while the application runs.
+void Running::listen()
+{
+    QObject::connect(&m_commands, &CommandServer::notchWanted, m_app.panel(),
+                     [panel = m_app.panel()](const QString &how, const QString &tool) {
+                         panel->openTool(tool);
+                         if (how == QLatin1String{"open"}) {
+                             emit panel->openWanted(true);
+                         } else if (how == QLatin1String{"close"}) {
+                             emit panel->closeWanted();
+                         } else {
+                             emit panel->toggleWanted();
+                         }
+                     });
+    QObject::connect(&m_commands, &CommandServer::paletteWanted, m_app.palette(),
+                     [palette = m_app.palette()](const QString &how) {
+                         if (how == QLatin1String{"open"}) {
+                             emit palette->openWanted();
+                         } else if (how == QLatin1String{"close"}) {
+                             emit palette->closeWanted();
+                         } else {
+                             emit palette->toggleWanted();
+                         }
+                     });
+    if (const auto listening = m_commands.listen(); !listening) {
+        m_model.say(QString::fromStdString(listening.error().message));
+    }
+}
+
+void Running::openSettings()
+{
+    if (!m_settings) {
+        m_settings = std::make_unique<SurfaceWindow>(m_engine, QStringLiteral("Settings"),
+                                                     QSize{760, 520});
+        m_settings->setTitle(QGuiApplication::translate("Windows", "Velvetnook Settings"));
+    }
+    m_settings->present();
+}
+
+void Running::openOnboarding()
+{
+    if (!m_onboarding) {
+        m_onboarding = std::make_unique<SurfaceWindow>(m_engine, QStringLiteral("Onboarding"));
+        m_onboarding->setTitle(QGuiApplication::translate("Windows", "Welcome to Velvetnook"));
+        QObject::connect(m_app.onboarding(), &OnboardingViewModel::closeWanted,
+                         m_onboarding.get(), &QWindow::close);
+    }
+    m_onboarding->present();
+}
+
+int run()
+{
+    const std::filesystem::path file = KestCore::dataDirectory() / KestCore::kDatabaseName;
+    auto store = KestCore::StateStore::open(file);
+    auto first = store ? store->snapshot() : std::unexpected(store.error());
+    if (!first) {
+        return showFailure(first.error(), file);
+    }
+    Running running{file, std::move(*store), std::move(*first)};
+    if (const QString problem = running.begin(); !problem.isEmpty()) {
+        std::fprintf(stderr, "velvetnook: %s\n", qPrintable(problem));
+        return 1;
+    }
+    return QGuiApplication::exec();
+}
+
+} // namespace
+
+} // namespace Velvetnook
+
+int main(int argc, char **argv)
+{
+    using namespace Velvetnook;
+    if (!chooseDisplay()) {
+        std::fputs("velvetnook: There is no display here. `kest` works in a terminal.\n",
+                   stderr);
+        return 1;
+    }
+    chooseRenderer();
+    prepareText();
+    QGuiApplication application{argc, argv};
+    QGuiApplication::setApplicationName(QStringLiteral("velvetnook"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(KEST_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("app.kest.native"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    return run();
+}
