@@ -21,6 +21,7 @@ FocusScope {
     signal extra
 
     property Item restoreFocus: null
+    property bool isAsking: false // the panel stays open meanwhile
 
     function surface() {
         let item = parent;
@@ -33,19 +34,32 @@ FocusScope {
         restoreFocus = Window.activeFocusItem;
         parent = surface();
         visible = true;
+        isAsking = true;
+        if (parent.dialogOpened) {
+            parent.dialogOpened();
+        }
         (dangerous ? cancel : accept).forceActiveFocus(Qt.PopupFocusReason);
     }
     function close() {
         visible = false;
+        leave();
         if (restoreFocus) {
             restoreFocus.forceActiveFocus(Qt.PopupFocusReason);
         }
         restoreFocus = null;
     }
+    function leave() {
+        if (isAsking && parent && parent.dialogClosed) {
+            parent.dialogClosed();
+        }
+        isAsking = false;
+    }
     function answer(way) {
         close();
         way();
     }
+
+    Component.onDestruction: leave() // its view may go while it asks
 
     anchors.fill: parent
     z: 100

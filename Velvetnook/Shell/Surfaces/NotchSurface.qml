@@ -101,7 +101,7 @@ Item {
         Item {
             anchors.fill: parent
             clip: root.isMoving
-            visible: root.contentOpacity > 0
+            visible: root.isOpen || root.contentOpacity > 0
             opacity: root.contentOpacity
 
             Loader {
@@ -112,10 +112,9 @@ Item {
                 height: 320
                 focus: true
                 active: root.driver.isPrepared || root.driver.state === "hoverOpening" || root.isOpen
-                source: "PanelSurface.qml"
-                onLoaded: {
-                    item.hasFrame = false;
-                    item.hasKeys = Qt.binding(() => root.isOpen);
+                sourceComponent: PanelSurface {
+                    hasFrame: false
+                    hasKeys: root.isOpen
                 }
             }
         }

@@ -14,10 +14,11 @@ Item {
     property real lightness: 1 // 0: as black as the strip
 
     function mixed(color) {
-        return Qt.rgba(color.r * lightness, color.g * lightness, color.b * lightness, 1);
+        return Qt.rgba(color.r * lightness, color.g * lightness, color.b * lightness,
+                       App.panel.isFrosted ? 1 - 0.06 * lightness : 1);
     }
-    readonly property color ground: App.panel.isFrosted ? Qt.alpha(mixed(Theme.color.bg0), 0.94)
-                                                        : mixed(Theme.color.bg0)
+
+    readonly property color ground: mixed(Theme.color.bg0)
 
     Shadow {
         visible: root.hasShadow
