@@ -1,67 +1,1848 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ar_EG">
+<TS version="2.1" language="ar">
+<context>
+    <name>AccentPicker</name>
+    <message>
+        <source>Accent</source>
+        <translation>لون التمييز</translation>
+    </message>
+</context>
+<context>
+    <name>AllToolsView</name>
+    <message>
+        <source>Favourites stay in the header. Choose them in the settings.</source>
+        <translation>تبقى المفضّلة في الترويسة. اخترها من الإعدادات.</translation>
+    </message>
+    <message>
+        <source>move</source>
+        <translation>تنقّل</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>All tools</source>
+        <translation>كل الأدوات</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>ليست في هذا الإصدار بعد</translation>
+    </message>
+</context>
 <context>
     <name>AskDialog</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>حسنًا</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>BackupFileDialog</name>
+    <message>
+        <source>Export a backup</source>
+        <translation>تصدير نسخة احتياطية</translation>
+    </message>
+    <message>
+        <source>Import a backup</source>
+        <translation>استيراد نسخة احتياطية</translation>
+    </message>
+    <message>
+        <source>Backups (*.json)</source>
+        <translation>النسخ الاحتياطية (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>كل الملفات (*)</translation>
+    </message>
+</context>
+<context>
+    <name>CounterActions</name>
+    <message>
+        <source>Undo the last count</source>
+        <translation>تراجع عن العدّة الأخيرة</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <comment>@action:button the session</comment>
+        <translation>استئناف</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <comment>@action:button the session</comment>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Start again from zero</source>
+        <translation>البدء من الصفر</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <comment>@action:button the session</comment>
+        <translation>إنهاء</translation>
+    </message>
+</context>
+<context>
+    <name>CounterPhrase</name>
+    <message>
+        <source>Phrase before</source>
+        <translation>الذِّكر السابق</translation>
+    </message>
+    <message>
+        <source>Next phrase</source>
+        <translation>الذِّكر التالي</translation>
+    </message>
+</context>
+<context>
+    <name>CounterTap</name>
+    <message>
+        <source>Count %1</source>
+        <comment>@action:button</comment>
+        <translation>عُدَّ %1</translation>
+    </message>
+</context>
+<context>
+    <name>CounterTargets</name>
+    <message>
+        <source>Targets</source>
+        <translation>الأهداف</translation>
+    </message>
+    <message>
+        <source>Target %1</source>
+        <translation>الهدف %1</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <comment>a count without a target</comment>
+        <translation>مفتوح</translation>
+    </message>
+    <message>
+        <source>Another target</source>
+        <translation>هدف آخر</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>الهدف</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <comment>@action:button a target</comment>
+        <translation>تعيين</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>CounterView</name>
+    <message>
+        <source>resume</source>
+        <translation>استئناف</translation>
+    </message>
+    <message>
+        <source>finish</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>count on</source>
+        <translation>متابعة العدّ</translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation>عدّ</translation>
+    </message>
+    <message>
+        <source>set a target</source>
+        <translation>تعيين هدف</translation>
+    </message>
+    <message>
+        <source>undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>pause</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>Start again from zero?</source>
+        <translation>هل تبدأ من الصفر؟</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>تصفير</translation>
+    </message>
+    <message>
+        <source>Finish instead</source>
+        <translation>إنهاء بدلًا من ذلك</translation>
+    </message>
+    <message>
+        <source>Keep counting</source>
+        <translation>متابعة العدّ</translation>
+    </message>
+</context>
+<context>
+    <name>DayPicker</name>
+    <message>
+        <source>Days</source>
+        <translation>الأيام</translation>
+    </message>
+</context>
+<context>
+    <name>ExclusionGroup</name>
+    <message>
+        <source>Keeping away</source>
+        <translation>الابتعاد</translation>
+    </message>
+    <message>
+        <source>Pause the strip</source>
+        <translation>إيقاف الشريط مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>استئناف</translation>
+    </message>
+    <message>
+        <source>Pause…</source>
+        <translation>إيقاف مؤقت…</translation>
+    </message>
+    <message>
+        <source>For half an hour</source>
+        <translation>لنصف ساعة</translation>
+    </message>
+    <message>
+        <source>For an hour</source>
+        <translation>لساعة</translation>
+    </message>
+    <message>
+        <source>Until tomorrow</source>
+        <translation>حتى الغد</translation>
+    </message>
+    <message>
+        <source>Not over these applications</source>
+        <translation>ليس فوق هذه التطبيقات</translation>
+    </message>
+    <message>
+        <source>By the name that their windows go by, such as vlc.</source>
+        <translation>بالاسم الذي تُعرف به نوافذها، مثل vlc.</translation>
+    </message>
+    <message>
+        <source>Add an application</source>
+        <translation>إضافة تطبيق</translation>
+    </message>
+    <message>
+        <source>Take out %1</source>
+        <translation>إزالة %1</translation>
+    </message>
+</context>
+<context>
+    <name>FridayView</name>
+    <message>
+        <source>Friday settings…</source>
+        <translation>إعدادات الجمعة…</translation>
+    </message>
+    <message>
+        <source>Begin counting</source>
+        <translation>ابدأ العدّ</translation>
+    </message>
+    <message>
+        <source>Not today</source>
+        <translation>ليس اليوم</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>Dhuhr</source>
+        <translation>الظهر</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryBars</name>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPhrases</name>
+    <message>
+        <source>Totals by phrase</source>
+        <translation>المجموع لكل ذِكر</translation>
+    </message>
+    <message>
+        <source>%1: %2 in %3</source>
+        <comment>total of a phrase</comment>
+        <translation>%1: %2 في %3</translation>
+    </message>
+    <message>
+        <source>Nothing finished in this time</source>
+        <translation>لا شيء مكتمل في هذه المدة</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryRow</name>
+    <message>
+        <source>%1, %2 at %3</source>
+        <comment>finished session</comment>
+        <translation>%1، %2 في %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source> / %1</source>
+        <comment>target behind a count</comment>
+        <translation> / %1</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySessions</name>
+    <message>
+        <source>Finished sessions</source>
+        <translation>الجلسات المنتهية</translation>
+    </message>
+</context>
+<context>
+    <name>HistorySummary</name>
+    <message>
+        <source>Back to the counter</source>
+        <translation>العودة إلى العدّاد</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>Time that is added up</source>
+        <translation>المدة المجموعة</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>7 d</source>
+        <comment>days</comment>
+        <translation>٧ أيام</translation>
+    </message>
+    <message>
+        <source>30 d</source>
+        <comment>days</comment>
+        <translation>٣٠ يومًا</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>الكل</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryView</name>
+    <message>
+        <source>Counter settings…</source>
+        <translation>إعدادات العدّاد…</translation>
+    </message>
+    <message>
+        <source>back to the counter</source>
+        <translation>العودة إلى العدّاد</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>الجلسات</translation>
+    </message>
+    <message>
+        <source>By phrase</source>
+        <translation>حسب الذِّكر</translation>
+    </message>
+    <message>
+        <source>Nothing finished yet</source>
+        <translation>لا شيء منتهٍ بعد</translation>
+    </message>
+    <message>
+        <source>The history is off.</source>
+        <translation>السجل متوقف.</translation>
+    </message>
+    <message>
+        <source>A session that you finish is kept here.</source>
+        <translation>كل جلسة تنهيها تُحفظ هنا.</translation>
+    </message>
+</context>
+<context>
+    <name>HomeCounterCard</name>
+    <message>
+        <source>Counter: %1, %2</source>
+        <translation>العدّاد: %1، %2</translation>
+    </message>
+    <message>
+        <source>Go on counting</source>
+        <translation>متابعة العدّ</translation>
+    </message>
+</context>
+<context>
+    <name>HomeMonitorCard</name>
+    <message>
+        <source>Monitor</source>
+        <translation>المراقب</translation>
+    </message>
+    <message>
+        <source>For now, “kest monitor” shows it in the terminal.</source>
+        <translation>يعرضه الآن الأمر «kest monitor» في الطرفية.</translation>
+    </message>
+</context>
+<context>
+    <name>HomeNameCard</name>
+    <message>
+        <source>Today’s Name: %1</source>
+        <translation>اسم اليوم: %1</translation>
+    </message>
+    <message>
+        <source>Today’s Name</source>
+        <translation>اسم اليوم</translation>
+    </message>
+</context>
+<context>
+    <name>HomePrayerCard</name>
+    <message>
+        <source>%1: %2, %3</source>
+        <comment>next prayer, time left, time</comment>
+        <translation>%1: %2، %3</translation>
+    </message>
+</context>
+<context>
+    <name>HomeTimerCard</name>
+    <message>
+        <source>Timer: %1 %2 %3</source>
+        <translation>المؤقّت: %1 %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>HomeWeatherCard</name>
+    <message>
+        <source>Weather</source>
+        <translation>الطقس</translation>
+    </message>
+    <message>
+        <source>For now, “kest weather” tells it in the terminal.</source>
+        <translation>يخبر به الآن الأمر «kest weather» في الطرفية.</translation>
+    </message>
+</context>
+<context>
+    <name>HotkeyGroup</name>
+    <message>
+        <source>Open the palette from anywhere</source>
+        <translation>فتح لوحة الأوامر من أي مكان</translation>
+    </message>
+</context>
+<context>
+    <name>NameCardFoot</name>
+    <message>
+        <source>The one before</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>Source: %1</source>
+        <translation>المصدر: %1</translation>
+    </message>
+    <message>
+        <source>The next one</source>
+        <translation>التالي</translation>
+    </message>
+</context>
+<context>
+    <name>NameCardHead</name>
+    <message>
+        <source>Name of the day</source>
+        <translation>اسم اليوم</translation>
+    </message>
+    <message>
+        <source>In the counter</source>
+        <translation>في العدّاد</translation>
+    </message>
+    <message>
+        <source>Count this</source>
+        <translation>عُدَّ هذا</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>إزالة من المفضّلة</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>إضافة إلى المفضّلة</translation>
+    </message>
+    <message>
+        <source>Unpin from the notch</source>
+        <translation>إلغاء التثبيت من الشريط</translation>
+    </message>
+    <message>
+        <source>Pin to the notch</source>
+        <translation>تثبيت في الشريط</translation>
+    </message>
+</context>
+<context>
+    <name>NamesTabs</name>
+    <message>
+        <source>Lists</source>
+        <translation>القوائم</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>الأسماء الحسنى</translation>
+    </message>
+    <message>
+        <source>Phrases</source>
+        <translation>الأذكار</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>المفضّلة</translation>
+    </message>
+</context>
+<context>
+    <name>NamesView</name>
+    <message>
+        <source>browse</source>
+        <translation>تصفّح</translation>
+    </message>
+    <message>
+        <source>pin to notch</source>
+        <translation>تثبيت في الشريط</translation>
+    </message>
+    <message>
+        <source>search</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation>عدّ</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>مفضّلة</translation>
+    </message>
+</context>
+<context>
+    <name>NoteEditor</name>
+    <message>
+        <source>Scratchpad</source>
+        <translation>المسوّدة</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>ملاحظة</translation>
+    </message>
+    <message>
+        <source>Whatever is on your mind</source>
+        <translation>ما يخطر ببالك</translation>
+    </message>
+    <message>
+        <source>Write something</source>
+        <translation>اكتب شيئًا</translation>
+    </message>
+</context>
+<context>
+    <name>NoteFoot</name>
+    <message>
+        <source>Copy the text</source>
+        <translation>نسخ النص</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>نُسخ</translation>
+    </message>
+    <message>
+        <source>Take from the top</source>
+        <translation>إنزال من الأعلى</translation>
+    </message>
+    <message>
+        <source>Keep at the top</source>
+        <translation>إبقاء في الأعلى</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+</context>
+<context>
+    <name>NoteListPane</name>
+    <message>
+        <source>Search notes</source>
+        <translation>البحث في الملاحظات</translation>
+    </message>
+    <message>
+        <source>New note</source>
+        <translation>ملاحظة جديدة</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>الملاحظات</translation>
+    </message>
+</context>
+<context>
+    <name>NotesView</name>
+    <message>
+        <source>new note</source>
+        <translation>ملاحظة جديدة</translation>
+    </message>
+    <message>
+        <source>find</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingDone</name>
+    <message>
+        <source>That is all</source>
+        <translation>هذا كل شيء</translation>
+    </message>
+    <message>
+        <source>Three ways in, and none of them asks for your attention.</source>
+        <translation>ثلاث طرق للدخول، ولا واحدة منها تشغلك.</translation>
+    </message>
+    <message>
+        <source>Rest on the strip</source>
+        <translation>قف على الشريط</translation>
+    </message>
+    <message>
+        <source>The pointer opens it, leaving closes it.</source>
+        <translation>يفتحه المؤشّر، ويغلقه الابتعاد.</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <translation>تمرير</translation>
+    </message>
+    <message>
+        <source>Search for anything</source>
+        <translation>ابحث عن أي شيء</translation>
+    </message>
+    <message>
+        <source>Tools, phrases, units, notes.</source>
+        <translation>الأدوات والأذكار والوحدات والملاحظات.</translation>
+    </message>
+    <message>
+        <source>Make it yours</source>
+        <translation>اجعله كما تحب</translation>
+    </message>
+    <message>
+        <source>Place, reminders and look wait in the settings.</source>
+        <translation>المكان والتذكيرات والمظهر في الإعدادات.</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingPhrase</name>
+    <message>
+        <source>Choose a phrase to begin with</source>
+        <translation>اختر ذِكرًا تبدأ به</translation>
+    </message>
+    <message>
+        <source>It rests in the strip. You can change it at any time.</source>
+        <translation>يبقى في الشريط، ويمكنك تغييره متى شئت.</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>الهدف</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingPicture</name>
+    <message>
+        <source>The strip at the top edge of a screen</source>
+        <translation>الشريط عند الحافة العليا للشاشة</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingPlace</name>
+    <message>
+        <source>Prayer times for where you are</source>
+        <translation>مواقيت الصلاة حيث أنت</translation>
+    </message>
+    <message>
+        <source>Worked out on this computer, without the network.</source>
+        <translation>تُحسب على هذا الحاسوب، بلا شبكة.</translation>
+    </message>
+    <message>
+        <source>Search for a city</source>
+        <translation>البحث عن مدينة</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>طريقة الحساب</translation>
+    </message>
+    <message>
+        <source>Asr</source>
+        <translation>العصر</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingReminders</name>
+    <message>
+        <source>A gentle reminder, if you like</source>
+        <translation>تذكير لطيف، إن أحببت</translation>
+    </message>
+    <message>
+        <source>It comes at your pace, inside your hours, and never insists.</source>
+        <translation>يأتي على مهلك وفي أوقاتك، ولا يُلحّ أبدًا.</translation>
+    </message>
+    <message>
+        <source>Gentle reminders</source>
+        <translation>تذكيرات لطيفة</translation>
+    </message>
+    <message>
+        <source>A notification with the pinned phrase.</source>
+        <translation>إشعار بالذِّكر المثبّت.</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>كل</translation>
+    </message>
+    <message>
+        <source>30 min</source>
+        <translation>٣٠ دقيقة</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>ساعة</translation>
+    </message>
+    <message>
+        <source>2 hours</source>
+        <translation>ساعتان</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>الأيام</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingSurface</name>
+    <message>
+        <source>Skip</source>
+        <translation>تخطّي</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>ليس الآن</translation>
+    </message>
+    <message>
+        <source>Welcome to Velvetnook</source>
+        <translation>أهلًا بك في Velvetnook</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>ابدأ</translation>
+    </message>
+    <message>
+        <source>Open Velvetnook</source>
+        <translation>فتح Velvetnook</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>متابعة</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingTimes</name>
+    <message>
+        <source>Your times stand here</source>
+        <translation>هنا تظهر مواقيتك</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingWelcome</name>
+    <message>
+        <source>A quiet place at the top of your screen</source>
+        <translation>مكان هادئ في أعلى شاشتك</translation>
+    </message>
+    <message>
+        <source>Rest the pointer on the strip and Velvetnook opens. Move away and it closes. Your counts and notes stay on this computer.</source>
+        <translation>ضع المؤشّر على الشريط فيُفتح Velvetnook، وأبعده فيُغلق. عدّاتك وملاحظاتك تبقى على هذا الحاسوب.</translation>
+    </message>
+</context>
+<context>
+    <name>Palette</name>
+    <message>
+        <source>Count one</source>
+        <translation>عُدَّ واحدة</translation>
+    </message>
+    <message>
+        <source>Undo the last count</source>
+        <translation>تراجع عن العدّة الأخيرة</translation>
+    </message>
+    <message>
+        <source>Finish the session</source>
+        <translation>إنهاء الجلسة</translation>
+    </message>
+    <message>
+        <source>Pause the counter</source>
+        <translation>إيقاف العدّاد مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Continue counting</source>
+        <translation>متابعة العدّ</translation>
+    </message>
+    <message>
+        <source>Pause reminders for an hour</source>
+        <translation>إيقاف التذكيرات ساعة</translation>
+    </message>
+    <message>
+        <source>Pause reminders until tomorrow</source>
+        <translation>إيقاف التذكيرات حتى الغد</translation>
+    </message>
+    <message>
+        <source>Resume reminders</source>
+        <translation>استئناف التذكيرات</translation>
+    </message>
+    <message>
+        <source>Start a focus timer</source>
+        <translation>بدء مؤقّت تركيز</translation>
+    </message>
+    <message>
+        <source>Start a stopwatch</source>
+        <translation>بدء ساعة إيقاف</translation>
+    </message>
+    <message>
+        <source>New note</source>
+        <translation>ملاحظة جديدة</translation>
+    </message>
+    <message>
+        <source>Forget what I choose here</source>
+        <translation>انسَ ما أختاره هنا</translation>
+    </message>
+    <message>
+        <source>Quit Velvetnook</source>
+        <translation>إنهاء Velvetnook</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Do it</source>
+        <translation>نفّذ</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Open Units</source>
+        <translation>فتح الوحدات</translation>
+    </message>
+    <message>
+        <source>Count this phrase</source>
+        <translation>عدّ هذا الذِّكر</translation>
+    </message>
+    <message>
+        <source>Read its meaning</source>
+        <translation>قراءة معناه</translation>
+    </message>
+    <message>
+        <source>Copy Arabic</source>
+        <translation>نسخ العربية</translation>
+    </message>
+    <message>
+        <source>Copy transliteration</source>
+        <translation>نسخ الكتابة اللاتينية</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>إزالة من المفضّلة</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>إضافة إلى المفضّلة</translation>
+    </message>
+    <message>
+        <source>Remove from the header</source>
+        <translation>إزالة من الترويسة</translation>
+    </message>
+    <message>
+        <source>Add to the header</source>
+        <translation>إضافة إلى الترويسة</translation>
+    </message>
+    <message>
+        <source>Open Timers</source>
+        <translation>فتح المؤقّتات</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>استئناف</translation>
+    </message>
+    <message>
+        <source>Copy its name</source>
+        <translation>نسخ اسمه</translation>
+    </message>
+    <message>
+        <source>Copy text</source>
+        <translation>نسخ النص</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>إلغاء التثبيت</translation>
+    </message>
+    <message>
+        <source>Pin to the top</source>
+        <translation>تثبيت في الأعلى</translation>
+    </message>
+    <message>
+        <source>Open in the browser</source>
+        <translation>فتح في المتصفّح</translation>
+    </message>
+    <message>
+        <source>No browser could be opened.</source>
+        <translation>تعذّر فتح متصفّح.</translation>
+    </message>
+    <message>
+        <source>Copy address</source>
+        <translation>نسخ العنوان</translation>
+    </message>
+    <message>
+        <source>Pin to the strip</source>
+        <translation>تثبيت في الشريط</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 بعد %2</translation>
+    </message>
+    <message>
+        <source>Pause %1</source>
+        <translation>إيقاف %1 مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Resume %1</source>
+        <translation>استئناف %1</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>متابعة</translation>
+    </message>
+    <message>
+        <source>Phrases</source>
+        <translation>الأذكار</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>الأسماء الحسنى</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>الأدوات</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>الوحدات</translation>
+    </message>
+    <message>
+        <source>Emoji</source>
+        <translation>الرموز التعبيرية</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>الملاحظات</translation>
+    </message>
+    <message>
+        <source>Bookmarks</source>
+        <translation>الإشارات المرجعية</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message numerus="yes">
+        <source>Start a timer of %n minute(s)</source>
+        <translation>
+            <numerusform>بدء مؤقّت من %n دقيقة</numerusform>
+            <numerusform>بدء مؤقّت من دقيقة</numerusform>
+            <numerusform>بدء مؤقّت من دقيقتين</numerusform>
+            <numerusform>بدء مؤقّت من %n دقائق</numerusform>
+            <numerusform>بدء مؤقّت من %n دقيقة</numerusform>
+            <numerusform>بدء مؤقّت من %n دقيقة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>بقي %1</translation>
+    </message>
+    <message>
+        <source>Timers · %1</source>
+        <translation>المؤقّتات · %1</translation>
+    </message>
+    <message>
+        <source>Timers · paused at %1</source>
+        <translation>المؤقّتات · متوقف عند %1</translation>
+    </message>
+    <message>
+        <source>Prayer · %1</source>
+        <translation>الصلاة · %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteLine</name>
+    <message>
+        <source>Search tools, phrases, units, emoji and notes</source>
+        <translation>ابحث في الأدوات والأذكار والوحدات والرموز والملاحظات</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteNothing</name>
+    <message>
+        <source>Nothing here by that name</source>
+        <translation>لا شيء هنا بهذا الاسم</translation>
+    </message>
+    <message>
+        <source>Try a tool, a phrase, “12 km in mi” or an emoji.</source>
+        <translation>جرّب أداة أو ذِكرًا أو «12 km in mi» أو رمزًا تعبيريًا.</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteSurface</name>
+    <message>
+        <source>Command palette</source>
+        <translation>لوحة الأوامر</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>النتائج</translation>
+    </message>
+</context>
+<context>
+    <name>PanelBody</name>
+    <message>
+        <source>%1 is not part of this version yet.</source>
+        <translation>«%1» ليست في هذا الإصدار بعد.</translation>
+    </message>
+    <message>
+        <source>All tools</source>
+        <translation>كل الأدوات</translation>
+    </message>
+    <message>
+        <source>This view could not be drawn.</source>
+        <translation>تعذّر رسم هذا العرض.</translation>
+    </message>
+    <message>
+        <source>The reason is in the application&apos;s messages.</source>
+        <translation>السبب في رسائل التطبيق.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelHeader</name>
+    <message>
+        <source>Tools</source>
+        <comment>@info:accessible tabs of the panel</comment>
+        <translation>الأدوات</translation>
+    </message>
+    <message>
+        <source>Ctrl+%1</source>
+        <translation>Ctrl+%1</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <comment>@action:button opens the palette</comment>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Ctrl+K</source>
+        <translation>Ctrl+K</translation>
+    </message>
+    <message>
+        <source>All tools</source>
+        <translation>كل الأدوات</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Ctrl+,</source>
+        <translation>Ctrl+,</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceGroup</name>
+    <message>
+        <source>Place</source>
+        <translation>المكان</translation>
+    </message>
+    <message>
+        <source>No place yet</source>
+        <translation>لا مكان بعد</translation>
+    </message>
+    <message>
+        <source>Choose a city, or set it by its numbers.</source>
+        <translation>اختر مدينة، أو حدّد المكان بالأرقام.</translation>
+    </message>
+    <message>
+        <source>By its numbers</source>
+        <translation>بالأرقام</translation>
+    </message>
+    <message>
+        <source>For a place that is not in the list.</source>
+        <translation>لمكان ليس في القائمة.</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>إخفاء</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>إظهار</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceNumbers</name>
+    <message>
+        <source>Latitude, north positive</source>
+        <translation>خط العرض، الشمال موجب</translation>
+    </message>
+    <message>
+        <source>Longitude, east positive</source>
+        <translation>خط الطول، الشرق موجب</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>المنطقة الزمنية</translation>
+    </message>
+    <message>
+        <source>Country, for the automatic method</source>
+        <translation>البلد، للطريقة التلقائية</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceResults</name>
+    <message>
+        <source>Cities</source>
+        <translation>المدن</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceSearch</name>
+    <message>
+        <source>Search for a city</source>
+        <translation>البحث عن مدينة</translation>
     </message>
 </context>
 <context>
     <name>PopupMenu</name>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>القائمة</translation>
+    </message>
+</context>
+<context>
+    <name>Prayer</name>
+    <message>
+        <source>Fajr</source>
+        <translation>الفجر</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>الشروق</translation>
+    </message>
+    <message>
+        <source>Dhuhr</source>
+        <translation>الظهر</translation>
+    </message>
+    <message>
+        <source>Asr</source>
+        <translation>العصر</translation>
+    </message>
+    <message>
+        <source>Maghrib</source>
+        <translation>المغرب</translation>
+    </message>
+    <message>
+        <source>Isha</source>
+        <translation>العشاء</translation>
+    </message>
+</context>
+<context>
+    <name>PrayerDay</name>
+    <message>
+        <source>Week and month</source>
+        <translation>الأسبوع والشهر</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north on a compass</comment>
+        <translation>ش</translation>
+    </message>
+    <message>
+        <source>Qibla</source>
+        <translation>القبلة</translation>
+    </message>
+</context>
+<context>
+    <name>PrayerFocusPage</name>
+    <message>
+        <source>Buffer</source>
+        <translation>المهلة</translation>
+    </message>
+    <message>
+        <source>Buffer before the prayer</source>
+        <translation>المهلة قبل الصلاة</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Use this deadline</source>
+        <translation>اعتماد هذا الموعد</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>بدء</translation>
+    </message>
+</context>
+<context>
+    <name>PrayerTablePage</name>
+    <message>
+        <source>Shown</source>
+        <translation>المعروض</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>يوم</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>أسبوع</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>شهر</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>الشهر السابق</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>الأسبوع السابق</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>الشهر التالي</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>الأسبوع التالي</translation>
+    </message>
+</context>
+<context>
+    <name>PrayerView</name>
+    <message>
+        <source>Prayer times</source>
+        <translation>مواقيت الصلاة</translation>
+    </message>
+    <message>
+        <source>Choose a place…</source>
+        <translation>اختيار مكان…</translation>
     </message>
 </context>
 <context>
     <name>Prayers</name>
     <message>
         <source>Fajr</source>
-        <translation type="unfinished"></translation>
+        <translation>الفجر</translation>
     </message>
     <message>
         <source>Sunrise</source>
-        <translation type="unfinished"></translation>
+        <translation>الشروق</translation>
     </message>
     <message>
         <source>Dhuhr</source>
-        <translation type="unfinished"></translation>
+        <translation>الظهر</translation>
     </message>
     <message>
         <source>Asr</source>
-        <translation type="unfinished"></translation>
+        <translation>العصر</translation>
     </message>
     <message>
         <source>Maghrib</source>
-        <translation type="unfinished"></translation>
+        <translation>المغرب</translation>
     </message>
     <message>
         <source>Isha</source>
-        <translation type="unfinished"></translation>
+        <translation>العشاء</translation>
+    </message>
+</context>
+<context>
+    <name>RecentConversions</name>
+    <message>
+        <source>Recent</source>
+        <translation>الأخيرة</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAbout</name>
+    <message>
+        <source>Velvetnook</source>
+        <translation>Velvetnook</translation>
+    </message>
+    <message>
+        <source>A quiet place at the top of your screen</source>
+        <translation>مكان هادئ في أعلى شاشتك</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>الإصدار %1</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>الرخصة</translation>
+    </message>
+    <message>
+        <source>© 2026 the Velvetnook developers</source>
+        <translation>© 2026 مطوّرو Velvetnook</translation>
+    </message>
+    <message>
+        <source>MIT</source>
+        <translation>MIT</translation>
+    </message>
+    <message>
+        <source>Privacy</source>
+        <translation>الخصوصية</translation>
+    </message>
+    <message>
+        <source>Counts, notes and places stay on this computer. Nothing is sent anywhere.</source>
+        <translation>العدّات والملاحظات والأماكن تبقى على هذا الحاسوب. لا يُرسل شيء إلى أي مكان.</translation>
+    </message>
+    <message>
+        <source>What this desktop offers</source>
+        <translation>ما يتيحه سطح المكتب هذا</translation>
+    </message>
+    <message>
+        <source>The same list that “kest doctor” prints.</source>
+        <translation>القائمة نفسها التي يطبعها الأمر «kest doctor».</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAppearance</name>
+    <message>
+        <source>Theme</source>
+        <translation>السمة</translation>
+    </message>
+    <message>
+        <source>The notch strip is always black, like the edge it hangs from.</source>
+        <translation>الشريط العلوي أسود دائمًا، كالحافة التي يتدلّى منها.</translation>
+    </message>
+    <message>
+        <source>Accent</source>
+        <translation>لون التمييز</translation>
+    </message>
+    <message>
+        <source>One colour, used only for what is alive or chosen.</source>
+        <translation>لون واحد، لما هو جارٍ أو مختار فقط.</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>السطح</translation>
+    </message>
+    <message>
+        <source>Frosted is slightly see-through; Solid is not.</source>
+        <translation>الزجاجي شفّاف قليلًا، والمصمت لا.</translation>
+    </message>
+    <message>
+        <source>Reduce motion</source>
+        <translation>تقليل الحركة</translation>
+    </message>
+    <message>
+        <source>Follows the system; switch on to be sure.</source>
+        <translation>يتبع النظام؛ شغّله للتأكّد.</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>القراءة</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>حجم النص</translation>
+    </message>
+    <message>
+        <source>For phrases and Names</source>
+        <translation>للأذكار والأسماء الحسنى</translation>
+    </message>
+    <message>
+        <source>Transliteration</source>
+        <translation>الكتابة اللاتينية</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>الترجمة</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsData</name>
+    <message>
+        <source>Backup</source>
+        <translation>النسخ الاحتياطي</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>التصدير</translation>
+    </message>
+    <message>
+        <source>Counts, notes, timers and settings in one file. The clipboard stays here.</source>
+        <translation>العدّات والملاحظات والمؤقّتات والإعدادات في ملف واحد. الحافظة تبقى هنا.</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>تصدير…</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>الاستيراد</translation>
+    </message>
+    <message>
+        <source>Puts a backup in the place of what is here.</source>
+        <translation>يضع نسخة احتياطية مكان ما هنا.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>استيراد…</translation>
+    </message>
+    <message>
+        <source>Data folder</source>
+        <translation>مجلد البيانات</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Forgetting</source>
+        <translation>النسيان</translation>
+    </message>
+    <message>
+        <source>Clear the history</source>
+        <translation>مسح السجل</translation>
+    </message>
+    <message>
+        <source>Finished sessions, and what was copied, completed and used.</source>
+        <translation>الجلسات المنتهية، وما نُسخ وأُكمل واستُعمل.</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>مسح…</translation>
+    </message>
+    <message>
+        <source>Reset everything</source>
+        <translation>تصفير كل شيء</translation>
+    </message>
+    <message>
+        <source>Counts, notes and workspaces. Settings and tools stay as they are.</source>
+        <translation>العدّات والملاحظات ومساحات العمل. الإعدادات والأدوات تبقى كما هي.</translation>
+    </message>
+    <message>
+        <source>Reset…</source>
+        <translation>تصفير…</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsGeneral</name>
+    <message>
+        <source>Open at login</source>
+        <translation>الفتح عند تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Velvetnook waits in the strip when your session begins.</source>
+        <translation>ينتظر Velvetnook في الشريط عند بدء جلستك.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>Digits</source>
+        <translation>الأرقام</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>الساعة</translation>
+    </message>
+    <message>
+        <source>Counting</source>
+        <translation>العدّ</translation>
+    </message>
+    <message>
+        <source>Keep a history</source>
+        <translation>الاحتفاظ بسجل</translation>
+    </message>
+    <message>
+        <source>Finished sessions, on this computer only.</source>
+        <translation>الجلسات المنتهية، على هذا الحاسوب فقط.</translation>
+    </message>
+    <message>
+        <source>Sound at the target</source>
+        <translation>صوت عند الهدف</translation>
+    </message>
+    <message>
+        <source>One soft tone when a count is complete.</source>
+        <translation>نغمة خافتة عند اكتمال العدّ.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNavigation</name>
+    <message>
+        <source>Pages</source>
+        <translation>الصفحات</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>البحث في الإعدادات</translation>
+    </message>
+    <message>
+        <source>No setting goes by these words</source>
+        <translation>لا إعداد بهذه الكلمات</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsNotch</name>
+    <message>
+        <source>Phrase in the strip</source>
+        <translation>الذِّكر في الشريط</translation>
+    </message>
+    <message>
+        <source>The strip shows what you pinned while nothing else is due.</source>
+        <translation>يعرض الشريط ما ثبّتّه ما لم يحن شيء آخر.</translation>
+    </message>
+    <message>
+        <source>What it rests on</source>
+        <translation>ما يستقرّ عليه</translation>
+    </message>
+    <message>
+        <source>Shown as</source>
+        <translation>طريقة العرض</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>العرض</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>الفتح</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>التأخير</translation>
+    </message>
+    <message>
+        <source>How long the pointer rests before the panel opens.</source>
+        <translation>مدة بقاء المؤشّر قبل أن تُفتح اللوحة.</translation>
+    </message>
+    <message>
+        <source>Hidden at rest</source>
+        <translation>مخفي عند السكون</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn until the pointer touches the screen’s edge.</source>
+        <translation>لا يُرسم شيء حتى يلمس المؤشّر حافة الشاشة.</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>الشاشة</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPrayer</name>
+    <message>
+        <source>Calculation</source>
+        <translation>الحساب</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>طريقة الحساب</translation>
+    </message>
+    <message>
+        <source>Asr</source>
+        <translation>العصر</translation>
+    </message>
+    <message>
+        <source>The school whose shadow length begins it.</source>
+        <translation>المذهب الذي يبدأ بطول الظل عنده.</translation>
+    </message>
+    <message>
+        <source>High latitude</source>
+        <translation>خطوط العرض العالية</translation>
+    </message>
+    <message>
+        <source>How much of a short night Fajr and Isha may take.</source>
+        <translation>كم يأخذ الفجر والعشاء من ليلة قصيرة.</translation>
+    </message>
+    <message>
+        <source>Adjustments</source>
+        <translation>التعديلات</translation>
+    </message>
+    <message>
+        <source>Minutes added to a time, to agree with your mosque.</source>
+        <translation>دقائق تُضاف إلى الوقت ليوافق مسجدك.</translation>
+    </message>
+    <message>
+        <source>Islamic date</source>
+        <translation>التاريخ الهجري</translation>
+    </message>
+    <message>
+        <source>Today: %1</source>
+        <translation>اليوم: %1</translation>
+    </message>
+    <message>
+        <source>Telling you</source>
+        <translation>التنبيه</translation>
+    </message>
+    <message>
+        <source>Notification at each prayer</source>
+        <translation>إشعار عند كل صلاة</translation>
+    </message>
+    <message>
+        <source>In the strip in the last hour</source>
+        <translation>في الشريط في الساعة الأخيرة</translation>
+    </message>
+    <message>
+        <source>The next prayer stands in the strip when it is near.</source>
+        <translation>تظهر الصلاة القادمة في الشريط عند اقترابها.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReminders</name>
+    <message>
+        <source>Gentle reminders</source>
+        <translation>تذكيرات لطيفة</translation>
+    </message>
+    <message>
+        <source>A notification with the pinned phrase, inside the hours you choose.</source>
+        <translation>إشعار بالذِّكر المثبّت، في الساعات التي تختارها.</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>كل</translation>
+    </message>
+    <message>
+        <source>1 to 1440 minutes</source>
+        <translation>من ١ إلى ١٤٤٠ دقيقة</translation>
+    </message>
+    <message>
+        <source>Minutes between reminders</source>
+        <translation>الدقائق بين التذكيرات</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>دقيقة</translation>
+    </message>
+    <message>
+        <source>Active hours</source>
+        <translation>ساعات النشاط</translation>
+    </message>
+    <message>
+        <source>Across midnight is fine: the evening’s day decides.</source>
+        <translation>يجوز أن تعبر منتصف الليل: العبرة بيوم المساء.</translation>
+    </message>
+    <message>
+        <source>Active from</source>
+        <translation>نشط من</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>إلى</translation>
+    </message>
+    <message>
+        <source>Active until</source>
+        <translation>نشط حتى</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>الأيام</translation>
+    </message>
+    <message>
+        <source>When the phrase is already on screen</source>
+        <translation>حين يكون الذِّكر على الشاشة</translation>
+    </message>
+    <message>
+        <source>Stay quiet</source>
+        <translation>ابقَ هادئًا</translation>
+    </message>
+    <message>
+        <source>Emphasise it</source>
+        <translation>أبرِزه</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>الصوت</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsShortcuts</name>
+    <message>
+        <source>Open the first tools</source>
+        <translation>فتح الأدوات الأولى</translation>
+    </message>
+    <message>
+        <source>Next and previous tool</source>
+        <translation>الأداة التالية والسابقة</translation>
+    </message>
+    <message>
+        <source>Search for anything</source>
+        <translation>ابحث عن أي شيء</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Header, body, footer</source>
+        <translation>الترويسة والمتن والتذييل</translation>
+    </message>
+    <message>
+        <source>Back, then close</source>
+        <translation>رجوع ثم إغلاق</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>عدّ</translation>
+    </message>
+    <message>
+        <source>Take one back</source>
+        <translation>تراجع عن واحدة</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>الهدف</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>البدء من جديد</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>In the panel</source>
+        <translation>في اللوحة</translation>
+    </message>
+    <message>
+        <source>In the counter</source>
+        <translation>في العدّاد</translation>
+    </message>
+    <message>
+        <source>Single letters work while no text is being typed.</source>
+        <translation>تعمل الحروف المفردة ما لم يكن نص يُكتب.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsSurface</name>
+    <message>
+        <source>Velvetnook Settings</source>
+        <translation>إعدادات Velvetnook</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTitleBar</name>
+    <message>
+        <source>Velvetnook Settings</source>
+        <translation>إعدادات Velvetnook</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTools</name>
+    <message>
+        <source>Drag a tool by its handle, or press Alt and an arrow on it.</source>
+        <translation>اسحب الأداة من مقبضها، أو اضغط Alt مع سهم عليها.</translation>
     </message>
 </context>
 <context>
     <name>Spinner</name>
     <message>
         <source>Working</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ العمل</translation>
+    </message>
+</context>
+<context>
+    <name>StepDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>الخطوة %1 من %2</translation>
     </message>
 </context>
 <context>
     <name>Stepper</name>
     <message>
         <source>Less</source>
-        <translation type="unfinished"></translation>
+        <translation>أقل</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>أكثر</translation>
     </message>
 </context>
 <context>
@@ -69,145 +1850,1884 @@
     <message>
         <source>now</source>
         <comment>the time of a prayer has come</comment>
-        <translation type="unfinished"></translation>
+        <translation>الآن</translation>
     </message>
     <message>
         <source>in %1</source>
         <comment>42 min</comment>
-        <translation type="unfinished"></translation>
+        <translation>بعد %1</translation>
+    </message>
+</context>
+<context>
+    <name>StripSurface</name>
+    <message>
+        <source>Velvetnook</source>
+        <translation>Velvetnook</translation>
+    </message>
+</context>
+<context>
+    <name>TimerFields</name>
+    <message>
+        <source>Length</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>الوقت المتبقّي</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+</context>
+<context>
+    <name>TimerFigure</name>
+    <message>
+        <source>Another timer</source>
+        <translation>مؤقّت آخر</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>تركيز</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>استراحة</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>مؤقّت</translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation>ساعة إيقاف</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>ماء</translation>
+    </message>
+    <message>
+        <source>−5 min</source>
+        <translation>−٥ د</translation>
+    </message>
+    <message>
+        <source>+5 min</source>
+        <translation>+٥ د</translation>
+    </message>
+</context>
+<context>
+    <name>TimerLine</name>
+    <message>
+        <source>Set…</source>
+        <translation>تعيين…</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>تصفير %1</translation>
+    </message>
+    <message>
+        <source>Pause %1</source>
+        <translation>إيقاف %1 مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Start %1</source>
+        <translation>بدء %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>بدء</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>تصفير</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <comment>the key</comment>
+        <translation>Del</translation>
+    </message>
+</context>
+<context>
+    <name>TimerList</name>
+    <message>
+        <source>Timers</source>
+        <translation>المؤقّتات</translation>
+    </message>
+</context>
+<context>
+    <name>TimersView</name>
+    <message>
+        <source>Timers</source>
+        <translation>المؤقّتات</translation>
+    </message>
+    <message>
+        <source>%1 removed.</source>
+        <translation>أُزيل %1.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Focus until prayer…</source>
+        <translation>تركيز حتى الصلاة…</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <comment>the key</comment>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>start or pause</source>
+        <translation>بدء أو إيقاف</translation>
+    </message>
+    <message>
+        <source>add 5 min</source>
+        <translation>إضافة ٥ د</translation>
+    </message>
+    <message>
+        <source>reset</source>
+        <translation>تصفير</translation>
+    </message>
+</context>
+<context>
+    <name>ToolRow</name>
+    <message>
+        <source>Move %1</source>
+        <translation>نقل %1</translation>
+    </message>
+    <message>
+        <source>Alt ↑ ↓</source>
+        <translation>Alt ↑ ↓</translation>
+    </message>
+    <message>
+        <source>Take %1 out of the header</source>
+        <translation>إخراج %1 من الترويسة</translation>
+    </message>
+    <message>
+        <source>Put %1 into the header</source>
+        <translation>وضع %1 في الترويسة</translation>
     </message>
 </context>
 <context>
     <name>Tools</name>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>الرئيسية</translation>
     </message>
     <message>
         <source>Counter</source>
-        <translation type="unfinished"></translation>
+        <translation>العدّاد</translation>
     </message>
     <message>
         <source>Prayer</source>
-        <translation type="unfinished"></translation>
+        <translation>الصلاة</translation>
     </message>
     <message>
         <source>Names</source>
-        <translation type="unfinished"></translation>
+        <translation>الأسماء الحسنى</translation>
     </message>
     <message>
         <source>Tasbih</source>
-        <translation type="unfinished"></translation>
+        <translation>التسبيح</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>الجمعة</translation>
     </message>
     <message>
         <source>Timers</source>
-        <translation type="unfinished"></translation>
+        <translation>المؤقّتات</translation>
     </message>
     <message>
         <source>Scratchpad</source>
-        <translation type="unfinished"></translation>
+        <translation>المسوّدة</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>الملاحظات</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>الحافظة</translation>
     </message>
     <message>
         <source>Shelf</source>
-        <translation type="unfinished"></translation>
+        <translation>الرفّ</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>الملفات</translation>
     </message>
     <message>
         <source>Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>الإشارات المرجعية</translation>
     </message>
     <message>
         <source>Emoji</source>
-        <translation type="unfinished"></translation>
+        <translation>الرموز التعبيرية</translation>
     </message>
     <message>
         <source>Units</source>
-        <translation type="unfinished"></translation>
+        <translation>الوحدات</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>التقويم</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>الطقس</translation>
     </message>
     <message>
         <source>Music</source>
-        <translation type="unfinished"></translation>
+        <translation>الموسيقى</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>الأصوات</translation>
     </message>
     <message>
         <source>Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>المراقب</translation>
     </message>
     <message>
         <source>Screen time</source>
-        <translation type="unfinished"></translation>
+        <translation>وقت الشاشة</translation>
     </message>
     <message>
         <source>Assistants</source>
-        <translation type="unfinished"></translation>
+        <translation>المساعدون</translation>
     </message>
     <message>
         <source>Revenue</source>
-        <translation type="unfinished"></translation>
+        <translation>الإيرادات</translation>
     </message>
     <message>
         <source>Analytics</source>
-        <translation type="unfinished"></translation>
+        <translation>التحليلات</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
+    </message>
+</context>
+<context>
+    <name>TryGroup</name>
+    <message>
+        <source>Try it</source>
+        <translation>تجربة</translation>
+    </message>
+    <message>
+        <source>Test notification</source>
+        <translation>إشعار تجريبي</translation>
+    </message>
+    <message>
+        <source>Send a preview</source>
+        <translation>إرسال معاينة</translation>
+    </message>
+    <message>
+        <source>Pause all reminders</source>
+        <translation>إيقاف كل التذكيرات مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Until tomorrow morning, one hour, or a time you set.</source>
+        <translation>حتى صباح الغد، أو ساعة، أو وقت تحدّده.</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>استئناف</translation>
+    </message>
+    <message>
+        <source>Pause…</source>
+        <translation>إيقاف مؤقت…</translation>
+    </message>
+    <message>
+        <source>For an hour</source>
+        <translation>لساعة</translation>
+    </message>
+    <message>
+        <source>Until tomorrow morning</source>
+        <translation>حتى صباح الغد</translation>
+    </message>
+    <message>
+        <source>Until a time…</source>
+        <translation>حتى وقت…</translation>
+    </message>
+    <message>
+        <source>Pause until</source>
+        <translation>إيقاف حتى</translation>
+    </message>
+    <message>
+        <source>The next time that the clock shows this, such as 16:30</source>
+        <translation>حين تبلغ الساعة هذا الوقت، مثل 16:30</translation>
+    </message>
+</context>
+<context>
+    <name>UnitBox</name>
+    <message>
+        <source>No result</source>
+        <translation>لا نتيجة</translation>
+    </message>
+</context>
+<context>
+    <name>UnitsView</name>
+    <message>
+        <source>Up to 12 significant digits</source>
+        <translation>حتى ١٢ رقمًا معنويًا</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>next field</source>
+        <translation>الحقل التالي</translation>
+    </message>
+    <message>
+        <source>swap</source>
+        <translation>تبديل</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>copy result</source>
+        <translation>نسخ النتيجة</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <translation>نُسخ %1</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>من</translation>
+    </message>
+    <message>
+        <source>Swap the units</source>
+        <translation>تبديل الوحدتين</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>إلى</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook</name>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>language arabic english digits clock start login history sound</source>
+        <translation>لغة عربية إنجليزية أرقام ساعة بدء دخول سجل صوت</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>المظهر</translation>
+    </message>
+    <message>
+        <source>theme dark light accent colour motion text size surface transliteration</source>
+        <translation>سمة داكن فاتح لون تمييز حركة نص حجم سطح لاتينية</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>الشريط العلوي</translation>
+    </message>
+    <message>
+        <source>strip panel delay hidden screen display applications pause pinned</source>
+        <translation>شريط لوحة تأخير مخفي شاشة عرض تطبيقات إيقاف مثبت</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>الاختصارات</translation>
+    </message>
+    <message>
+        <source>keys palette hotkey keyboard</source>
+        <translation>مفاتيح لوحة أوامر اختصار</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation>التذكيرات</translation>
+    </message>
+    <message>
+        <source>notification hours days interval pause test</source>
+        <translation>إشعار ساعات أيام فاصل إيقاف تجربة</translation>
+    </message>
+    <message>
+        <source>Prayer</source>
+        <translation>الصلاة</translation>
+    </message>
+    <message>
+        <source>place city location method asr latitude hijri adjust times</source>
+        <translation>مكان مدينة موقع طريقة عصر عرض هجري تعديل مواقيت</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>الأدوات</translation>
+    </message>
+    <message>
+        <source>order favourites tabs header</source>
+        <translation>ترتيب مفضلة ألسنة ترويسة</translation>
+    </message>
+    <message>
+        <source>Data &amp; backup</source>
+        <translation>البيانات والنسخ</translation>
+    </message>
+    <message>
+        <source>export import clear history reset folder file</source>
+        <translation>تصدير استيراد مسح سجل تصفير مجلد ملف</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>حول</translation>
+    </message>
+    <message>
+        <source>version licence capabilities</source>
+        <translation>إصدار رخصة قدرات</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>الجلسة</translation>
+    </message>
+    <message>
+        <source>Wayland without XWayland</source>
+        <translation>Wayland بلا XWayland</translation>
+    </message>
+    <message>
+        <source>There is no display.</source>
+        <translation>لا توجد شاشة.</translation>
+    </message>
+    <message>
+        <source>Install XWayland and log in again.</source>
+        <translation>ثبّت XWayland ثم سجّل الدخول من جديد.</translation>
+    </message>
+    <message>
+        <source>Log in to a desktop, or use kest in this terminal.</source>
+        <translation>سجّل الدخول إلى سطح مكتب، أو استعمل kest في هذه الطرفية.</translation>
+    </message>
+    <message>
+        <source>Wayland, reached through XWayland</source>
+        <translation>Wayland، عبر XWayland</translation>
+    </message>
+    <message>
+        <source>Choose an X11 session when you log in.</source>
+        <translation>اختر جلسة X11 عند تسجيل الدخول.</translation>
+    </message>
+    <message>
+        <source>X11</source>
+        <translation>X11</translation>
+    </message>
+    <message>
+        <source>Strip at the screen&apos;s edge</source>
+        <translation>الشريط عند حافة الشاشة</translation>
+    </message>
+    <message>
+        <source>Only an X server lets a program place its window.</source>
+        <translation>خادم X وحده يتيح للبرنامج وضع نافذته.</translation>
+    </message>
+    <message>
+        <source>Through XWayland other windows and full screens may cover it.</source>
+        <translation>عبر XWayland قد تغطّيه نوافذ أخرى وملء الشاشة.</translation>
+    </message>
+    <message>
+        <source>No window manager runs that keeps it above other windows.</source>
+        <translation>لا يعمل مدير نوافذ يُبقيه فوق النوافذ الأخرى.</translation>
+    </message>
+    <message>
+        <source>The window manager does not keep windows above others: %1</source>
+        <translation>مدير النوافذ لا يُبقي النوافذ فوق غيرها: %1</translation>
+    </message>
+    <message>
+        <source>Kept above other windows by %1</source>
+        <translation>يُبقيه %1 فوق النوافذ الأخرى</translation>
+    </message>
+    <message>
+        <source>Shadows and soft edges</source>
+        <translation>الظلال والحواف الناعمة</translation>
+    </message>
+    <message>
+        <source>The screen is composited.</source>
+        <translation>الشاشة مركّبة.</translation>
+    </message>
+    <message>
+        <source>The screen is not composited: edges are hard, shadows are left out.</source>
+        <translation>الشاشة غير مركّبة: الحواف حادّة والظلال متروكة.</translation>
+    </message>
+    <message>
+        <source>Turn on compositing, or start a compositor such as picom.</source>
+        <translation>شغّل التركيب، أو ابدأ مركّبًا مثل picom.</translation>
+    </message>
+    <message>
+        <source>Key for the palette</source>
+        <translation>مفتاح لوحة الأوامر</translation>
+    </message>
+    <message>
+        <source>Works in every window.</source>
+        <translation>يعمل في كل نافذة.</translation>
+    </message>
+    <message>
+        <source>On Wayland only X11 windows pass the key on.</source>
+        <translation>في Wayland لا تمرّر المفتاح إلا نوافذ X11.</translation>
+    </message>
+    <message>
+        <source>This session lets no program listen for a key.</source>
+        <translation>لا تتيح هذه الجلسة لبرنامج أن يصغي إلى مفتاح.</translation>
+    </message>
+    <message>
+        <source>In the desktop&apos;s keyboard settings, bind a key to: kest palette toggle</source>
+        <translation>في إعدادات لوحة المفاتيح اربط مفتاحًا بالأمر: kest palette toggle</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>الإشعارات</translation>
+    </message>
+    <message>
+        <source>Nothing in this session shows notifications.</source>
+        <translation>لا شيء في هذه الجلسة يعرض الإشعارات.</translation>
+    </message>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>لا يوجد ناقل للجلسة.</translation>
+    </message>
+    <message>
+        <source>Start a notification service, such as the desktop&apos;s own or dunst.</source>
+        <translation>شغّل خدمة إشعارات، كخدمة سطح المكتب أو dunst.</translation>
+    </message>
+    <message>
+        <source>They are shown without buttons.</source>
+        <translation>تُعرض بلا أزرار.</translation>
+    </message>
+    <message>
+        <source>Shown by the desktop</source>
+        <translation>يعرضها سطح المكتب</translation>
+    </message>
+    <message>
+        <source>Tray icon</source>
+        <translation>أيقونة الصينية</translation>
+    </message>
+    <message>
+        <source>No panel of this session shows tray icons.</source>
+        <translation>لا لوحة في هذه الجلسة تعرض أيقونات الصينية.</translation>
+    </message>
+    <message>
+        <source>There is no tray in this session.</source>
+        <translation>لا صينية في هذه الجلسة.</translation>
+    </message>
+    <message>
+        <source>Turn on the AppIndicator extension of GNOME Shell (gnome-shell-extension-appindicator).</source>
+        <translation>فعّل إضافة AppIndicator في GNOME Shell ‏(gnome-shell-extension-appindicator).</translation>
+    </message>
+    <message>
+        <source>Add a tray to the desktop&apos;s panel. The strip does all of it too.</source>
+        <translation>أضف صينية إلى لوحة سطح المكتب. والشريط يقوم بكل ذلك أيضًا.</translation>
+    </message>
+    <message>
+        <source>Keyring</source>
+        <translation>حلقة المفاتيح</translation>
+    </message>
+    <message>
+        <source>Secrets are kept in the desktop&apos;s keyring.</source>
+        <translation>تُحفظ الأسرار في حلقة مفاتيح سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>There is no keyring (Secret Service) here.</source>
+        <translation>لا حلقة مفاتيح (Secret Service) هنا.</translation>
+    </message>
+    <message>
+        <source>Install gnome-keyring or KeePassXC and unlock it.</source>
+        <translation>ثبّت gnome-keyring أو KeePassXC وافتح قفله.</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>الأصوات</translation>
+    </message>
+    <message>
+        <source>Played through the session&apos;s sound server</source>
+        <translation>يُشغَّل عبر خادم الصوت في الجلسة</translation>
+    </message>
+    <message>
+        <source>There is no sound server in this session.</source>
+        <translation>لا خادم صوت في هذه الجلسة.</translation>
+    </message>
+    <message>
+        <source>Start PipeWire or PulseAudio.</source>
+        <translation>شغّل PipeWire أو PulseAudio.</translation>
+    </message>
+    <message>
+        <source>Dark and light of the desktop</source>
+        <translation>داكن سطح المكتب وفاتحه</translation>
+    </message>
+    <message>
+        <source>Followed as it changes</source>
+        <translation>يُتبع كلما تغيّر</translation>
+    </message>
+    <message>
+        <source>This desktop does not tell how it looks.</source>
+        <translation>لا يخبر سطح المكتب هذا عن مظهره.</translation>
+    </message>
+    <message>
+        <source>Choose dark or light in the settings, or install xdg-desktop-portal.</source>
+        <translation>اختر الداكن أو الفاتح في الإعدادات، أو ثبّت xdg-desktop-portal.</translation>
+    </message>
+    <message>
+        <source>Sleep and waking</source>
+        <translation>النوم والاستيقاظ</translation>
+    </message>
+    <message>
+        <source>Told by the system</source>
+        <translation>يخبر به النظام</translation>
+    </message>
+    <message>
+        <source>Seen by the clock alone; the screen&apos;s lock is not known.</source>
+        <translation>يُعرف من الساعة وحدها؛ وقفل الشاشة غير معلوم.</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>كامل</translation>
+    </message>
+    <message>
+        <source>degraded</source>
+        <translation>منقوص</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>متوقف</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::AppearanceSettings</name>
+    <message>
+        <source>Dark</source>
+        <translation>داكن</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>فاتح</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>النظام</translation>
+    </message>
+    <message>
+        <source>Sage</source>
+        <translation>مريمية</translation>
+    </message>
+    <message>
+        <source>Sky</source>
+        <translation>سماوي</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>رملي</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <translation>وردي</translation>
+    </message>
+    <message>
+        <source>Iris</source>
+        <translation>سوسني</translation>
+    </message>
+    <message>
+        <source>Frosted</source>
+        <translation>زجاجي</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>مصمت</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>صغير</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>متوسط</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>كبير</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::BusNotifications</name>
+    <message>
+        <source>The notification service does not answer.</source>
+        <translation>خدمة الإشعارات لا تجيب.</translation>
+    </message>
+    <message>
+        <source>Nothing in this session shows notifications.</source>
+        <translation>لا شيء في هذه الجلسة يعرض الإشعارات.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::BusTray</name>
+    <message>
+        <source>No panel of this session shows tray icons.</source>
+        <translation>لا لوحة في هذه الجلسة تعرض أيقونات الصينية.</translation>
+    </message>
+    <message>
+        <source>The session&apos;s tray does not answer.</source>
+        <translation>صينية الجلسة لا تجيب.</translation>
+    </message>
+    <message>
+        <source>There is no tray in this session.</source>
+        <translation>لا صينية في هذه الجلسة.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::CounterViewModel</name>
+    <message>
+        <source>Paused</source>
+        <translation>متوقف مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Target reached</source>
+        <translation>بلغتَ الهدف</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>من %1</translation>
+    </message>
+    <message>
+        <source>open count</source>
+        <translation>عدّ مفتوح</translation>
+    </message>
+    <message>
+        <source>Started %1</source>
+        <translation>بدأ في %1</translation>
+    </message>
+    <message>
+        <source>Started %1, %2</source>
+        <translation>بدأ %1، %2</translation>
+    </message>
+    <message>
+        <source>Paused at %1 since %2</source>
+        <translation>متوقف عند %1 منذ %2</translation>
+    </message>
+    <message>
+        <source>Paused at %1</source>
+        <translation>متوقف عند %1</translation>
+    </message>
+    <message>
+        <source>%1 reached. Counting on keeps this session open.</source>
+        <translation>بلغتَ %1. متابعة العدّ تُبقي الجلسة مفتوحة.</translation>
+    </message>
+    <message>
+        <source>Open count · one turn of the ring is %1</source>
+        <translation>عدّ مفتوح · دورة الحلقة %1</translation>
+    </message>
+    <message>
+        <source>Not started yet</source>
+        <translation>لم يبدأ بعد</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>Your %1 counts will be gone; the history is off.</source>
+        <translation>ستذهب عدّاتك (%1)؛ فالسجل متوقف.</translation>
+    </message>
+    <message>
+        <source>Your one count will not be kept in the history. Finish keeps it.</source>
+        <translation>عدّتك الواحدة لن تُحفظ في السجل. الإنهاء يحفظها.</translation>
+    </message>
+    <message>
+        <source>Your %1 counts will not be kept in the history. Finish keeps them.</source>
+        <translation>عدّاتك (%1) لن تُحفظ في السجل. الإنهاء يحفظها.</translation>
+    </message>
+    <message>
+        <source>%1 kept in the history.</source>
+        <translation>حُفظ %1 في السجل.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::DataSettings</name>
+    <message>
+        <source>Clear the history?</source>
+        <translation>هل تمسح السجل؟</translation>
+    </message>
+    <message>
+        <source>Reset everything?</source>
+        <translation>هل تصفّر كل شيء؟</translation>
+    </message>
+    <message>
+        <source>Finished sessions are forgotten, and what was copied, completed and used. This cannot be taken back.</source>
+        <translation>تُنسى الجلسات المنتهية وما نُسخ وأُكمل واستُعمل. لا رجوع عن ذلك.</translation>
+    </message>
+    <message>
+        <source>Your counts, notes, timers and workspaces are removed. Settings, tools and their order stay. This cannot be taken back.</source>
+        <translation>تُزال عدّاتك وملاحظاتك ومؤقّتاتك ومساحات عملك. وتبقى الإعدادات والأدوات وترتيبها. لا رجوع عن ذلك.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>استبدال</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>تصفير</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>لم يتغيّر شيء.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n record(s) and the settings are in %1</source>
+        <translation>
+            <numerusform>الإعدادات في %1، ولا سجلات (%n)</numerusform>
+            <numerusform>سجل واحد والإعدادات في %1</numerusform>
+            <numerusform>سجلّان والإعدادات في %1</numerusform>
+            <numerusform>%n سجلات والإعدادات في %1</numerusform>
+            <numerusform>%n سجلًا والإعدادات في %1</numerusform>
+            <numerusform>%n سجل والإعدادات في %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1. It is larger than what an import accepts.</source>
+        <translation>%1. وهو أكبر مما يقبله الاستيراد.</translation>
+    </message>
+    <message>
+        <source>Records: %1 here, %2 in the backup. Finished sessions: %3 here, %4 in the backup.</source>
+        <translation>السجلات: %1 هنا، و%2 في النسخة. الجلسات المنتهية: %3 هنا، و%4 في النسخة.</translation>
+    </message>
+    <message>
+        <source>The backup was made on %1 at %2.</source>
+        <translation>أُنشئت النسخة في %1 عند %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n record(s) and the settings were imported.</source>
+        <translation>
+            <numerusform>استُوردت الإعدادات، ولا سجلات (%n).</numerusform>
+            <numerusform>استُورد سجل واحد والإعدادات.</numerusform>
+            <numerusform>استُورد سجلّان والإعدادات.</numerusform>
+            <numerusform>استُوردت %n سجلات والإعدادات.</numerusform>
+            <numerusform>استُورد %n سجلًا والإعدادات.</numerusform>
+            <numerusform>استُورد %n سجل والإعدادات.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The history is empty.</source>
+        <translation>السجل فارغ.</translation>
+    </message>
+    <message>
+        <source>Everything was reset.</source>
+        <translation>صُفّر كل شيء.</translation>
     </message>
 </context>
 <context>
     <name>Velvetnook::Formatting</name>
     <message>
-        <source>AM</source>
-        <translation type="unfinished"></translation>
+        <source>am</source>
+        <translation>ص</translation>
     </message>
     <message>
-        <source>PM</source>
-        <translation type="unfinished"></translation>
+        <source>pm</source>
+        <translation>م</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ث</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 د</translation>
     </message>
     <message>
         <source>%1 h %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 س %2 د</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::FridayAlarm</name>
+    <message>
+        <source>Friday</source>
+        <translation>الجمعة</translation>
+    </message>
+    <message>
+        <source>Begin counting</source>
+        <translation>ابدأ العدّ</translation>
+    </message>
+    <message>
+        <source>Not today</source>
+        <translation>ليس اليوم</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::FridayViewModel</name>
+    <message>
+        <source>No times on this date here.</source>
+        <translation>لا مواقيت لهذا التاريخ هنا.</translation>
+    </message>
+    <message>
+        <source>Your mosque may differ.</source>
+        <translation>قد يختلف مسجدك.</translation>
+    </message>
+    <message>
+        <source>Shown once each Friday, quietly</source>
+        <translation>تظهر مرة كل جمعة، بهدوء</translation>
+    </message>
+    <message>
+        <source>Not shown by itself on Fridays</source>
+        <translation>لا تظهر من نفسها أيام الجمعة</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::GeneralSettings</name>
+    <message>
+        <source>System</source>
+        <translation>النظام</translation>
+    </message>
+    <message>
+        <source>As the language</source>
+        <translation>حسب اللغة</translation>
+    </message>
+    <message>
+        <source>1:48 pm</source>
+        <translation>1:48 م</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::HistoryViewModel</name>
+    <message>
+        <source>today, in one session</source>
+        <translation>اليوم، في جلسة واحدة</translation>
+    </message>
+    <message>
+        <source>today, in %1 sessions</source>
+        <translation>اليوم، عدد الجلسات %1</translation>
+    </message>
+    <message>
+        <source>in 7 days, one session</source>
+        <translation>في ٧ أيام، جلسة واحدة</translation>
+    </message>
+    <message>
+        <source>in 7 days, %1 sessions</source>
+        <translation>في ٧ أيام، عدد الجلسات %1</translation>
+    </message>
+    <message>
+        <source>in 30 days, one session</source>
+        <translation>في ٣٠ يومًا، جلسة واحدة</translation>
+    </message>
+    <message>
+        <source>in 30 days, %1 sessions</source>
+        <translation>في ٣٠ يومًا، عدد الجلسات %1</translation>
+    </message>
+    <message>
+        <source>in all, one session</source>
+        <translation>في المجموع، جلسة واحدة</translation>
+    </message>
+    <message>
+        <source>in all, %1 sessions</source>
+        <translation>في المجموع، عدد الجلسات %1</translation>
+    </message>
+    <message>
+        <source>one session</source>
+        <translation>جلسة واحدة</translation>
+    </message>
+    <message>
+        <source>%1 sessions</source>
+        <translation>عدد الجلسات %1</translation>
+    </message>
+    <message>
+        <source>The history is off: what you finish now is not kept</source>
+        <translation>السجل متوقف: ما تنهيه الآن لا يُحفظ</translation>
+    </message>
+    <message>
+        <source>History is kept on this computer</source>
+        <translation>السجل محفوظ على هذا الحاسوب</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::HomeViewModel</name>
+    <message>
+        <source>Choose where you are</source>
+        <translation>اختر مكانك</translation>
+    </message>
+    <message>
+        <source>No times on this date here.</source>
+        <translation>لا مواقيت لهذا التاريخ هنا.</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>%1, open count</source>
+        <translation>%1، عدّ مفتوح</translation>
+    </message>
+    <message>
+        <source>%1 · paused</source>
+        <translation>%1 · متوقف</translation>
+    </message>
+    <message>
+        <source>%1 · since %2</source>
+        <translation>%1 · منذ %2</translation>
+    </message>
+    <message>
+        <source>Prayer</source>
+        <translation>الصلاة</translation>
+    </message>
+    <message>
+        <source>Fajr</source>
+        <translation>الفجر</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>الشروق</translation>
+    </message>
+    <message>
+        <source>Dhuhr</source>
+        <translation>الظهر</translation>
+    </message>
+    <message>
+        <source>Asr</source>
+        <translation>العصر</translation>
+    </message>
+    <message>
+        <source>Maghrib</source>
+        <translation>المغرب</translation>
+    </message>
+    <message>
+        <source>Isha</source>
+        <translation>العشاء</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>ث</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>د</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <translation>س</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>مؤقّت</translation>
+    </message>
+    <message>
+        <source>Nothing is running</source>
+        <translation>لا شيء يعمل</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>انتهى</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>متوقف</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::LocalDay</name>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>أمس</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::LoginPower</name>
+    <message>
+        <source>Whether the screen is locked is not known.</source>
+        <translation>لا يُعلم أمقفلة الشاشة أم لا.</translation>
+    </message>
+    <message>
+        <source>This system does not tell when it sleeps.</source>
+        <translation>لا يخبر هذا النظام متى ينام.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::NamesViewModel</name>
+    <message>
+        <source>Search %1 Names</source>
+        <translation>البحث في %1 اسمًا</translation>
+    </message>
+    <message>
+        <source>Search %1 phrases</source>
+        <translation>البحث في الأذكار (%1)</translation>
+    </message>
+    <message>
+        <source>Search favourites</source>
+        <translation>البحث في المفضّلة</translation>
+    </message>
+    <message>
+        <source>No favourites yet</source>
+        <translation>لا مفضّلة بعد</translation>
+    </message>
+    <message>
+        <source>Nothing has these words</source>
+        <translation>لا شيء بهذه الكلمات</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::NotchSettings</name>
+    <message>
+        <source>Mini</source>
+        <translation>صغير جدًا</translation>
+    </message>
+    <message>
+        <source>Compact</source>
+        <translation>مدمج</translation>
+    </message>
+    <message>
+        <source>Comfortable</source>
+        <translation>مريح</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>العربية</translation>
+    </message>
+    <message>
+        <source>Transliteration</source>
+        <translation>الكتابة اللاتينية</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>المعنى</translation>
+    </message>
+    <message>
+        <source>One phrase</source>
+        <translation>ذِكر واحد</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>المفضّلة</translation>
+    </message>
+    <message>
+        <source>Daily</source>
+        <translation>يومي</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 ث</translation>
+    </message>
+    <message>
+        <source>Main screen</source>
+        <translation>الشاشة الرئيسية</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>غير موصولة</translation>
+    </message>
+    <message>
+        <source>The strip keeps away for a while.</source>
+        <translation>يبتعد الشريط بعض الوقت.</translation>
+    </message>
+    <message>
+        <source>Paused until %1</source>
+        <translation>متوقف حتى %1</translation>
+    </message>
+    <message>
+        <source>Paused until tomorrow</source>
+        <translation>متوقف حتى الغد</translation>
+    </message>
+    <message>
+        <source>The name of one application, without a comma</source>
+        <translation>اسم تطبيق واحد، بلا فاصلة</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::NotesViewModel</name>
+    <message>
+        <source>Scratchpad</source>
+        <translation>المسوّدة</translation>
+    </message>
+    <message>
+        <source>Note removed</source>
+        <translation>أُزيلت الملاحظة</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>No note has these words</source>
+        <translation>لا ملاحظة بهذه الكلمات</translation>
+    </message>
+    <message>
+        <source>Notes stay on this computer</source>
+        <translation>الملاحظات تبقى على هذا الحاسوب</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) on this computer</source>
+        <translation>
+            <numerusform>لا ملاحظات على هذا الحاسوب</numerusform>
+            <numerusform>ملاحظة واحدة على هذا الحاسوب</numerusform>
+            <numerusform>ملاحظتان على هذا الحاسوب</numerusform>
+            <numerusform>%n ملاحظات على هذا الحاسوب</numerusform>
+            <numerusform>%n ملاحظة على هذا الحاسوب</numerusform>
+            <numerusform>%n ملاحظة على هذا الحاسوب</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>saving…</source>
+        <translation>جارٍ الحفظ…</translation>
+    </message>
+    <message>
+        <source>saved %1</source>
+        <translation>حُفظت في %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s)</source>
+        <translation>
+            <numerusform>لا كلمات</numerusform>
+            <numerusform>كلمة واحدة</numerusform>
+            <numerusform>كلمتان</numerusform>
+            <numerusform>%n كلمات</numerusform>
+            <numerusform>%n كلمة</numerusform>
+            <numerusform>%n كلمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::OnboardingViewModel</name>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PaletteHotkey</name>
+    <message>
+        <source>off: no key is set</source>
+        <translation>متوقف: لا مفتاح معيّن</translation>
+    </message>
+    <message>
+        <source>degraded: this kind of session gives no program a key of its own. Bind %1 to “kest palette toggle” in the desktop&apos;s keyboard settings.</source>
+        <translation>منقوص: هذا النوع من الجلسات لا يعطي البرامج مفتاحًا. اربط %1 بالأمر «kest palette toggle» في إعدادات لوحة المفاتيح.</translation>
+    </message>
+    <message>
+        <source>degraded: this keyboard has no such key. Choose another.</source>
+        <translation>منقوص: لا مفتاح كهذا في لوحة المفاتيح. اختر غيره.</translation>
+    </message>
+    <message>
+        <source>degraded: another program has %1. Choose another key, or bind one to “kest palette toggle” in the desktop&apos;s keyboard settings.</source>
+        <translation>منقوص: %1 عند برنامج آخر. اختر مفتاحًا غيره، أو اربط مفتاحًا بالأمر «kest palette toggle» في إعدادات لوحة المفاتيح.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PaletteViewModel</name>
+    <message>
+        <source>Up to 12 significant digits</source>
+        <translation>حتى ١٢ رقمًا معنويًا</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s)</source>
+        <translation>
+            <numerusform>لا نتائج</numerusform>
+            <numerusform>نتيجة واحدة</numerusform>
+            <numerusform>نتيجتان</numerusform>
+            <numerusform>%n نتائج</numerusform>
+            <numerusform>%n نتيجة</numerusform>
+            <numerusform>%n نتيجة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>choose</source>
+        <translation>اختيار</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>do it</source>
+        <translation>تنفيذ</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Ctrl Enter</source>
+        <translation>Ctrl Enter</translation>
+    </message>
+    <message>
+        <source>open Units</source>
+        <translation>فتح الوحدات</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>more actions</source>
+        <translation>إجراءات أخرى</translation>
+    </message>
+    <message>
+        <source>Ctrl %1</source>
+        <translation>Ctrl %1</translation>
     </message>
 </context>
 <context>
     <name>Velvetnook::PanelViewModel</name>
     <message>
         <source>All tools</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الأدوات</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PlaceSettings</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>%1° %2</source>
+        <comment>degrees and N, S, E or W</comment>
+        <translation>%1° %2</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>ش</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>ج</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>ق</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>غ</translation>
+    </message>
+    <message>
+        <source>No city is called “%1”</source>
+        <translation>لا مدينة باسم «%1»</translation>
+    </message>
+    <message>
+        <source>A number from −90 to 90</source>
+        <translation>رقم من −٩٠ إلى ٩٠</translation>
+    </message>
+    <message>
+        <source>A number from −180 to 180</source>
+        <translation>رقم من −١٨٠ إلى ١٨٠</translation>
+    </message>
+    <message>
+        <source>Two letters, such as GB</source>
+        <translation>حرفان، مثل GB</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PortalLook</name>
+    <message>
+        <source>This desktop does not tell how it looks.</source>
+        <translation>لا يخبر سطح المكتب هذا عن مظهره.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PrayerAlarm</name>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Calculated prayer time. Check your local timetable.</source>
+        <translation>وقت صلاة محسوب. راجع التقويم المحلي.</translation>
+    </message>
+    <message>
+        <source>Prayer times</source>
+        <translation>مواقيت الصلاة</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PrayerSettings</name>
+    <message>
+        <source>Fajr</source>
+        <translation>الفجر</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>الشروق</translation>
+    </message>
+    <message>
+        <source>Dhuhr</source>
+        <translation>الظهر</translation>
+    </message>
+    <message>
+        <source>Asr</source>
+        <translation>العصر</translation>
+    </message>
+    <message>
+        <source>Maghrib</source>
+        <translation>المغرب</translation>
+    </message>
+    <message>
+        <source>Isha</source>
+        <translation>العشاء</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>Muslim World League</source>
+        <translation>رابطة العالم الإسلامي</translation>
+    </message>
+    <message>
+        <source>Egyptian Authority</source>
+        <translation>الهيئة المصرية</translation>
+    </message>
+    <message>
+        <source>Karachi</source>
+        <translation>كراتشي</translation>
+    </message>
+    <message>
+        <source>Umm al-Qura</source>
+        <translation>أم القرى</translation>
+    </message>
+    <message>
+        <source>Dubai</source>
+        <translation>دبي</translation>
+    </message>
+    <message>
+        <source>Moonsighting Committee</source>
+        <translation>لجنة رؤية الهلال</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>أمريكا الشمالية</translation>
+    </message>
+    <message>
+        <source>Kuwait</source>
+        <translation>الكويت</translation>
+    </message>
+    <message>
+        <source>Qatar</source>
+        <translation>قطر</translation>
+    </message>
+    <message>
+        <source>Singapore</source>
+        <translation>سنغافورة</translation>
+    </message>
+    <message>
+        <source>Tehran</source>
+        <translation>طهران</translation>
+    </message>
+    <message>
+        <source>Turkey</source>
+        <translation>تركيا</translation>
+    </message>
+    <message>
+        <source>Whose conventions the times follow</source>
+        <translation>الجهة التي تتبع المواقيتُ حسابها</translation>
+    </message>
+    <message>
+        <source>From the country: %1</source>
+        <translation>حسب البلد: %1</translation>
+    </message>
+    <message>
+        <source>Shāfiʿī</source>
+        <translation>الشافعي</translation>
+    </message>
+    <message>
+        <source>Ḥanafī</source>
+        <translation>الحنفي</translation>
+    </message>
+    <message>
+        <source>Middle of the night</source>
+        <translation>منتصف الليل</translation>
+    </message>
+    <message>
+        <source>Seventh of the night</source>
+        <translation>سُبع الليل</translation>
+    </message>
+    <message>
+        <source>Twilight angle</source>
+        <translation>زاوية الشفق</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>%1 d</source>
+        <comment>days</comment>
+        <translation>%1 ي</translation>
+    </message>
+    <message>
+        <source>Add a location to see your next prayer. You can set it manually.</source>
+        <translation>أضف موقعًا لترى صلاتك القادمة. يمكنك تعيينه يدويًا.</translation>
+    </message>
+    <message>
+        <source>The Sun does not rise or set there today.</source>
+        <translation>لا تشرق الشمس ولا تغرب هناك اليوم.</translation>
+    </message>
+    <message>
+        <source>Calculated prayer time. Check your local timetable.</source>
+        <translation>وقت صلاة محسوب. راجع التقويم المحلي.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PrayerViewModel</name>
+    <message>
+        <source>Prayer settings changed. Your current deadline is unchanged.</source>
+        <translation>تغيّرت إعدادات الصلاة. موعدك الحالي لم يتغيّر.</translation>
+    </message>
+    <message>
+        <source>Focus until %1</source>
+        <translation>تركيز حتى %1</translation>
+    </message>
+    <message>
+        <source>Review revised deadline…</source>
+        <translation>مراجعة الموعد المعدّل…</translation>
+    </message>
+    <message>
+        <source>Focus until prayer…</source>
+        <translation>تركيز حتى الصلاة…</translation>
+    </message>
+    <message>
+        <source>Focus until prayer?</source>
+        <translation>تركيز حتى الصلاة؟</translation>
+    </message>
+    <message>
+        <source>Focus until %1, %2 minutes before %3. Later location or prayer changes will ask you to review the deadline.</source>
+        <translation>تركيز حتى %1، قبل %3 بمقدار %2 د. إذا تغيّر المكان أو إعدادات الصلاة بعد ذلك طُلبت منك مراجعة الموعد.</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>There are no times to calculate for this date here: the Sun does not rise or set as usual, or the place skipped the date. Follow your local authority.</source>
+        <translation>لا مواقيت تُحسب لهذا التاريخ هنا: الشمس لا تشرق أو لا تغرب كالمعتاد، أو أن المكان تخطّى التاريخ. اتبع جهتك المحلية.</translation>
+    </message>
+    <message>
+        <source>Add a location to see your next prayer. You can set it manually.</source>
+        <translation>أضف موقعًا لترى صلاتك القادمة. يمكنك تعيينه يدويًا.</translation>
+    </message>
+    <message>
+        <source>Calculated prayer time. Check your local timetable.</source>
+        <translation>وقت صلاة محسوب. راجع التقويم المحلي.</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>التالية</translation>
+    </message>
+    <message>
+        <source>Next prayer</source>
+        <translation>الصلاة القادمة</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <comment>seconds until a prayer</comment>
+        <translation>ث</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <comment>minutes until a prayer</comment>
+        <translation>د</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <comment>hours until a prayer</comment>
+        <translation>س</translation>
+    </message>
+    <message>
+        <source>%1 at %2, in %3</source>
+        <translation>%1 في %2، بعد %3</translation>
+    </message>
+    <message>
+        <source>%1, no time today</source>
+        <translation>%1، لا وقت اليوم</translation>
+    </message>
+    <message>
+        <source>Qibla %1 degrees from north</source>
+        <translation>القبلة %1 درجة من الشمال</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PulseSounds</name>
+    <message>
+        <source>There is no sound server in this session.</source>
+        <translation>لا خادم صوت في هذه الجلسة.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::ReminderAlarm</name>
+    <message>
+        <source>Count</source>
+        <translation>عدّ</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>لاحقًا</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::RemindersViewModel</name>
+    <message numerus="yes">
+        <source>%n minute(s)</source>
+        <translation>
+            <numerusform>%n دقيقة</numerusform>
+            <numerusform>دقيقة واحدة</numerusform>
+            <numerusform>دقيقتان</numerusform>
+            <numerusform>%n دقائق</numerusform>
+            <numerusform>%n دقيقة</numerusform>
+            <numerusform>%n دقيقة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reminders are off.</source>
+        <translation>التذكيرات متوقفة.</translation>
+    </message>
+    <message>
+        <source>No day is chosen, so no reminder comes.</source>
+        <translation>لم يُختر يوم، فلا يأتي تذكير.</translation>
+    </message>
+    <message>
+        <source>No reminder comes in the next days.</source>
+        <translation>لا تذكير في الأيام القادمة.</translation>
+    </message>
+    <message>
+        <source>Next reminder at %1</source>
+        <translation>التذكير القادم في %1</translation>
+    </message>
+    <message>
+        <source>Next reminder on %1 at %2</source>
+        <translation>التذكير القادم %1 في %2</translation>
+    </message>
+    <message>
+        <source>Paused until %1</source>
+        <translation>متوقف حتى %1</translation>
+    </message>
+    <message>
+        <source>Paused until %1 at %2</source>
+        <translation>متوقف حتى %1 في %2</translation>
+    </message>
+    <message>
+        <source>Notifications allowed.</source>
+        <translation>الإشعارات مسموحة.</translation>
+    </message>
+    <message>
+        <source>Notifications denied. Enable Velvetnook in System Settings → Notifications.</source>
+        <translation>الإشعارات مرفوضة. فعّل Velvetnook في إعدادات النظام ← الإشعارات.</translation>
+    </message>
+    <message>
+        <source>Choose between 1 and 1440 minutes.</source>
+        <translation>اختر بين ١ و١٤٤٠ دقيقة.</translation>
+    </message>
+    <message>
+        <source>Write a time such as 09:00.</source>
+        <translation>اكتب وقتًا مثل 09:00.</translation>
+    </message>
+    <message>
+        <source>There is no such day.</source>
+        <translation>لا يوم كهذا.</translation>
+    </message>
+    <message>
+        <source>There is no such choice.</source>
+        <translation>لا خيار كهذا.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::StoreLender</name>
+    <message>
+        <source>A kest command is using your data. What you do meanwhile is kept and saved when it ends.</source>
+        <translation>أمر kest يستعمل بياناتك. ما تفعله الآن يُحفظ حين ينتهي.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::TimerAlarm</name>
+    <message>
+        <source>Take a break</source>
+        <translation>خذ استراحة</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>البدء من جديد</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>استراحة</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::TimersViewModel</name>
+    <message>
+        <source>Running since %1</source>
+        <translation>يعمل منذ %1</translation>
+    </message>
+    <message>
+        <source>Paused at %1</source>
+        <translation>متوقف عند %1</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>لم يبدأ</translation>
+    </message>
+    <message>
+        <source>Finished at %1</source>
+        <translation>انتهى في %1</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>انتهى</translation>
+    </message>
+    <message>
+        <source>Drink water · in %1</source>
+        <translation>اشرب ماء · بعد %1</translation>
+    </message>
+    <message>
+        <source>%1 · running</source>
+        <translation>%1 · يعمل</translation>
+    </message>
+    <message>
+        <source>not started</source>
+        <translation>لم يبدأ</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>متوقف</translation>
+    </message>
+    <message>
+        <source>finished %1</source>
+        <translation>انتهى %1</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>انتهى</translation>
+    </message>
+    <message>
+        <source>since %1</source>
+        <translation>منذ %1</translation>
+    </message>
+    <message>
+        <source>ends %1</source>
+        <translation>ينتهي %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>استئناف</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>البدء من جديد</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>بدء</translation>
+    </message>
+    <message>
+        <source>Break %1</source>
+        <translation>استراحة %1</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation>استراحة</translation>
+    </message>
+    <message>
+        <source>Choose between 1 minute and 365 days.</source>
+        <translation>اختر بين دقيقة واحدة و٣٦٥ يومًا.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::ToolSettings</name>
+    <message>
+        <source>The header has room for eight. Take one out first.</source>
+        <translation>تتسع الترويسة لثمانية. أخرج واحدة أولًا.</translation>
+    </message>
+    <message>
+        <source>Starred tools have a tab in the panel’s header, up to eight.</source>
+        <translation>للأدوات ذات النجمة لسان في ترويسة اللوحة، حتى ثمانية.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::UnitsViewModel</name>
+    <message>
+        <source>Length</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>الكتلة</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>الحرارة</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>المساحة</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>الحجم</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>السرعة</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>البيانات</translation>
     </message>
 </context>
 </TS>

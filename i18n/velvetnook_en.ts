@@ -1,4 +1,68 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
+<context>
+    <name>Palette</name>
+    <message numerus="yes">
+        <source>Start a timer of %n minute(s)</source>
+        <translation>
+            <numerusform>Start a timer of %n minute</numerusform>
+            <numerusform>Start a timer of %n minutes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::DataSettings</name>
+    <message numerus="yes">
+        <source>%n record(s) and the settings are in %1</source>
+        <translation>
+            <numerusform>%n record and the settings are in %1</numerusform>
+            <numerusform>%n records and the settings are in %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n record(s) and the settings were imported.</source>
+        <translation>
+            <numerusform>%n record and the settings were imported.</numerusform>
+            <numerusform>%n records and the settings were imported.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::NotesViewModel</name>
+    <message numerus="yes">
+        <source>%n note(s) on this computer</source>
+        <translation>
+            <numerusform>%n note on this computer</numerusform>
+            <numerusform>%n notes on this computer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s)</source>
+        <translation>
+            <numerusform>%n word</numerusform>
+            <numerusform>%n words</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::PaletteViewModel</name>
+    <message numerus="yes">
+        <source>%n result(s)</source>
+        <translation>
+            <numerusform>%n result</numerusform>
+            <numerusform>%n results</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::RemindersViewModel</name>
+    <message numerus="yes">
+        <source>%n minute(s)</source>
+        <translation>
+            <numerusform>%n minute</numerusform>
+            <numerusform>%n minutes</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -31,11 +31,12 @@ QVariantList GeneralSettings::digitChoices() const
     return options(choices);
 }
 
-QString GeneralSettings::clock() const { return setting("appearance.clock", "24"); }
+QString GeneralSettings::clock() const { return setting("appearance.clock", "system"); }
 
 QVariantList GeneralSettings::clocks() const
 {
-    const Choice choices[]{{"24", formatting().digits(QStringLiteral("13:48"))},
+    const Choice choices[]{{"system", tr("System")},
+                           {"24", formatting().digits(QStringLiteral("13:48"))},
                            {"12", formatting().digits(tr("1:48 pm"))}};
     return options(choices);
 }
