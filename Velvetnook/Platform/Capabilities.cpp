@@ -81,8 +81,9 @@ Capability hotkey(const SessionFacts &facts)
 {
     Capability found{.id = QStringLiteral("hotkey"), .name = tr("Key for the palette")};
     if (facts.hasXServer && !isWayland(facts)) {
-        found.level = Level::full;
-        found.reason = tr("Works in every window.");
+        const bool isFree = facts.hotkeyProblem.isEmpty();
+        found.level = isFree ? Level::full : Level::degraded;
+        found.reason = isFree ? tr("Works in every window.") : facts.hotkeyProblem;
         return found;
     }
     found.level = facts.hasXServer ? Level::degraded : Level::off;

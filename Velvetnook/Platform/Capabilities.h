@@ -28,7 +28,8 @@ struct SessionFacts {
     bool hasSecrets{};
     bool hasSettingsPortal{};
     bool hasLogin{};
-    QString soundServer{}; // empty: none
+    QString soundServer{};   // empty: none
+    QString hotkeyProblem{}; // what the palette's key met; empty: nothing that is known
 
     bool operator==(const SessionFacts &) const = default;
 };

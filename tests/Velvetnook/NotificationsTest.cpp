@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "PrivateBus.h"
+#include "FakeNotificationServer.h"
 #include "Velvetnook/Platform/Linux/BusNotifications.h"
 
 #include <QSignalSpy>
@@ -16,72 +16,6 @@ namespace
 using KestCore::Availability;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-struct Received {
-    uint replaces{};
-    QString title{};
-    QString body{};
-    QStringList actions{};
-    QVariantMap hints{};
-};
-
-// The desktop's side, as far as the tests need it.
-class FakeServer : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
-
-public:
-    FakeServer(const QDBusConnection &bus, QStringList abilities)
-        : m_bus{bus}, m_abilities{std::move(abilities)}
-    {
-        m_bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
-                             QDBusConnection::ExportAllSlots |
-                                 QDBusConnection::ExportAllSignals);
-        m_bus.registerService(QStringLiteral("org.freedesktop.Notifications"));
-    }
-    ~FakeServer() override { PrivateBus::leave(m_bus); }
-    FakeServer(const FakeServer &) = delete;
-    FakeServer &operator=(const FakeServer &) = delete;
-
-    void refuseAll() { m_refuses = true; }
-    const std::vector<Received> &received() const { return m_received; }
-    const std::vector<uint> &closed() const { return m_closed; }
-
-public slots:
-    QStringList GetCapabilities() { return m_abilities; }
-
-    uint Notify(const QString &, uint replaces, const QString &, const QString &title,
-                const QString &body, const QStringList &actions, const QVariantMap &hints,
-                int, const QDBusMessage &message)
-    {
-        if (m_refuses) {
-            m_bus.send(message.createErrorReply(QDBusError::AccessDenied,
-                                                QStringLiteral("not for you")));
-            return 0;
-        }
-        m_received.push_back({.replaces = replaces,
-                              .title = title,
-                              .body = body,
-                              .actions = actions,
-                              .hints = hints});
-        return replaces == 0 ? ++m_last : replaces;
-    }
-
-    void CloseNotification(uint number) { m_closed.push_back(number); }
-
-signals:
-    void ActionInvoked(uint number, const QString &key);
-    void NotificationClosed(uint number, uint reason);
-
-private:
-    QDBusConnection m_bus;
-    QStringList m_abilities;
-    bool m_refuses = false;
-    uint m_last = 40;
-    std::vector<Received> m_received;
-    std::vector<uint> m_closed;
-};
 
 const QStringList kAll{QStringLiteral("body"), QStringLiteral("body-markup"),
                        QStringLiteral("actions"), QStringLiteral("sound")};
@@ -140,11 +74,11 @@ TEST_F(NotificationsTest, SaysOnlyWhatTheServerUnderstands)
          }) {
         SCOPED_TRACE(name);
         m_answers.clear();
-        auto server = std::make_unique<FakeServer>(m_bus.connect(), abilities);
+        auto server = std::make_unique<FakeNotificationServer>(m_bus.connect(), abilities);
         m_notifications.post(kReminder);
         ASSERT_TRUE(isAnswered(1));
         ASSERT_EQ(server->received().size(), 1);
-        const Received received = server->received().front();
+        const ReceivedNotification received = server->received().front();
         EXPECT_EQ(received.title, title);
         EXPECT_EQ(received.body, body);
         EXPECT_EQ(received.actions, wanted);
@@ -158,7 +92,7 @@ TEST_F(NotificationsTest, SaysOnlyWhatTheServerUnderstands)
 
 TEST_F(NotificationsTest, AnActionComesBackUnderTheIdOfItsRequest)
 {
-    FakeServer server{m_bus.connect(), kAll};
+    FakeNotificationServer server{m_bus.connect(), kAll};
     QSignalSpy invoked{&m_notifications, &Notifications::actionInvoked};
     m_notifications.post(kReminder);
     ASSERT_TRUE(isAnswered(1));
@@ -172,7 +106,7 @@ TEST_F(NotificationsTest, AnActionComesBackUnderTheIdOfItsRequest)
 
 TEST_F(NotificationsTest, OneWithTheSameIdTakesThePlaceOfTheOneThatIsShown)
 {
-    FakeServer server{m_bus.connect(), kAll};
+    FakeNotificationServer server{m_bus.connect(), kAll};
     auto second = kReminder;
     second.body = QStringLiteral("second");
     m_notifications.post(kReminder);
@@ -195,7 +129,7 @@ TEST_F(NotificationsTest, OneWithTheSameIdTakesThePlaceOfTheOneThatIsShown)
 
 TEST_F(NotificationsTest, AWithdrawnOneIsClosedEvenBeforeItHasANumber)
 {
-    FakeServer server{m_bus.connect(), kAll};
+    FakeNotificationServer server{m_bus.connect(), kAll};
     m_notifications.post(kReminder);
     ASSERT_TRUE(eventually([&] { return m_notifications.state().isReady(); }));
     m_notifications.withdraw(kReminder.id);
@@ -215,7 +149,7 @@ TEST_F(NotificationsTest, ServersComeGoAndRefuse)
     EXPECT_EQ(m_reason, m_notifications.state().message);
 
     {
-        FakeServer server{m_bus.connect(), kAll};
+        FakeNotificationServer server{m_bus.connect(), kAll};
         EXPECT_TRUE(eventually([&] { return m_notifications.state().isReady(); }));
         EXPECT_THAT(server.received(), IsEmpty()) << "what was missed does not come late";
         m_notifications.post(kReminder);
@@ -228,7 +162,7 @@ TEST_F(NotificationsTest, ServersComeGoAndRefuse)
         EXPECT_EQ(m_reason, QStringLiteral("not for you"));
     }
     EXPECT_TRUE(eventually([&] { return !m_notifications.state().isReady(); }));
-    FakeServer next{m_bus.connect(), {QStringLiteral("body")}};
+    FakeNotificationServer next{m_bus.connect(), {QStringLiteral("body")}};
     m_notifications.post(kReminder);
     ASSERT_TRUE(isAnswered(4));
     EXPECT_EQ(m_answers.back().second, Answer::shown);
@@ -249,5 +183,3 @@ TEST(Notifications, WithoutABusEachRequestIsAnswered)
 } // namespace
 
 } // namespace Velvetnook
-
-#include "NotificationsTest.moc"

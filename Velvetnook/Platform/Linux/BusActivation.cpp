@@ -76,6 +76,9 @@ BusActivation::Start BusActivation::claim(const Launch &launch)
     }
     if (reply.value() == QDBusConnectionInterface::ServiceRegistered) {
         m_isHolder = true;
+        if (!launch.action.isEmpty()) {
+            m_early.push_back(launch.action);
+        }
         return Start::first;
     }
     m_bus.unregisterObject(pathOf(m_name));
