@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Store/StateStore.h"
 #include "KestCore/Store/StoreLocation.h"
+#include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CommandServer.h"
+#include "Velvetnook/Application/Languages.h"
 #include "Velvetnook/Notch/NotchDriver.h"
 #include "Velvetnook/Notch/NotchWindow.h"
 #include "Velvetnook/Notch/SurfaceWindow.h"
+#include "Velvetnook/Platform/PaletteHotkey.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
 #include "Velvetnook/Shell/Engine.h"
 #include "Velvetnook/Shell/Theme.h"
@@ -107,19 +110,20 @@ public:
 
 private:
     void beginTheRest();
-    void followLayout();
     void listen();
     void openSettings();
     void openOnboarding();
 
     ApplicationModel m_model;
     App m_app;
+    Languages m_languages; // before the view models, which word themselves
     Theme m_theme;
     QQmlEngine m_engine;
     NotchDriver m_driver;
     CommandServer m_commands;
     std::unique_ptr<NotchWindow> m_notch;
     std::unique_ptr<PaletteWindow> m_palette;
+    std::unique_ptr<PaletteHotkey> m_hotkey;
     std::unique_ptr<SurfaceWindow> m_settings;
     std::unique_ptr<SurfaceWindow> m_onboarding;
 };
@@ -128,21 +132,11 @@ Running::Running(const std::filesystem::path &file, KestCore::StateStore store,
                  KestCore::Snapshot first)
     : m_model{std::make_unique<StateKeeper>(file, std::move(store)),
               committedAll(std::move(first)), Base::wallClock},
-      m_app{m_model}, m_theme{m_model}, m_driver{m_model, m_app, steadySeconds},
-      m_commands{m_model, file}
+      m_app{m_model}, m_languages{m_model, *m_app.format()}, m_theme{m_model},
+      m_driver{m_model, m_app, steadySeconds}, m_commands{m_model, file}
 {
     prepareEngine(m_engine, m_app, m_theme);
-    followLayout();
-}
-
-void Running::followLayout()
-{
-    const auto follow = [this] {
-        QGuiApplication::setLayoutDirection(m_app.format()->isRightToLeft() ? Qt::RightToLeft
-                                                                            : Qt::LeftToRight);
-    };
-    follow();
-    QObject::connect(&m_model, &ApplicationModel::stateChanged, qGuiApp, follow);
+    QObject::connect(&m_languages, &Languages::changed, &m_engine, &QQmlEngine::retranslate);
 }
 
 QString Running::begin()
@@ -172,10 +166,13 @@ void Running::beginTheRest()
     QObject::connect(m_app.onboarding(), &OnboardingViewModel::openWanted, qGuiApp,
                      [this] { openOnboarding(); });
     listen();
+    QObject::connect(&m_app.alarms(), &Alarms::emphasisWanted, m_app.strip(),
+                     &StripViewModel::emphasise);
     m_app.onboarding()->openWhenNeeded();
     // Made before they are wanted, while nothing else is to be done.
     QTimer::singleShot(1000, qGuiApp, [this] { m_driver.prepare(); });
     m_palette = std::make_unique<PaletteWindow>(m_engine, m_app);
+    m_hotkey = std::make_unique<PaletteHotkey>(m_model, *m_app.palette());
     QTimer::singleShot(1500, qGuiApp, [this] { m_palette->prepare(); });
 }
 
