@@ -8,6 +8,7 @@
 #include "tests/TemporaryFolder.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEventLoop>
 
 #include <functional>
@@ -35,11 +36,7 @@ public:
                 })
                 .value();
         }
-        auto first = Velvetnook::committedAll(store.snapshot().value());
-        m_model.emplace(
-            std::make_unique<Velvetnook::StateKeeper>(m_folder.database(), std::move(store)),
-            std::move(first), [this] { return m_now; });
-        m_formatting.emplace(*m_model);
+        open(std::move(store));
     }
 
     Velvetnook::ApplicationModel &model() { return *m_model; }
@@ -72,6 +69,29 @@ public:
         settle();
     }
 
+    // Lets the loop run until this holds; false where it never does.
+    template <class Condition>
+    static bool waitUntil(Condition condition)
+    {
+        constexpr int kPatienceMs = 30'000;
+        QElapsedTimer timer;
+        timer.start();
+        while (!condition() && timer.elapsed() < kPatienceMs) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+        return condition();
+    }
+
+    // As after an end of the program: what is not on the disk is gone.
+    void restart()
+    {
+        close();
+        open(KestCore::StateStore::open(m_folder.database()).value());
+    }
+
+    // A file beside the data.
+    std::string path(const char *name) const { return (m_folder.path() / name).string(); }
+
     // What is on the disk, once this is gone.
     std::filesystem::path file() const { return m_folder.database(); }
     void close()
@@ -81,6 +101,15 @@ public:
     }
 
 private:
+    void open(KestCore::StateStore store)
+    {
+        auto first = Velvetnook::committedAll(store.snapshot().value());
+        m_model.emplace(
+            std::make_unique<Velvetnook::StateKeeper>(m_folder.database(), std::move(store)),
+            std::move(first), [this] { return m_now; });
+        m_formatting.emplace(*m_model);
+    }
+
     static void startQt()
     {
         static int count = 1;

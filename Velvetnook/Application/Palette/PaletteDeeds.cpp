@@ -309,7 +309,7 @@ void PaletteDeeds::startTimer(std::string_view mode, double minutes)
     if (minutes > 0) {
         wanted.minutes = minutes;
     }
-    Velvetnook::startTimer(m_model, std::move(wanted));
+    Velvetnook::beginTimer(m_model, std::move(wanted));
 }
 
 void PaletteDeeds::stepTimer(const std::string &id, bool isRunning)

@@ -15,15 +15,17 @@ FocusScope {
     readonly property var footerKeys: [{key: "Ctrl N", text: qsTr("new note")},
                                        {key: "Ctrl F", text: qsTr("find")}]
 
-    implicitWidth: 600
-    implicitHeight: 220
-    onVisibleChanged: if (!visible) { model.leave(); }
-    Component.onDestruction: model.leave()
-    Component.onCompleted: {
+    function follow() {
         if (App.panel.tool === "scratchpad") {
             model.chooseScratchpad();
         }
     }
+
+    implicitWidth: 600
+    implicitHeight: 220
+    onVisibleChanged: if (!visible) { model.leave(); }
+    Component.onDestruction: model.leave()
+    Component.onCompleted: follow()
     Keys.onPressed: event => {
         const isCommand = event.modifiers & Qt.ControlModifier;
         if (isCommand && event.key === Qt.Key_N) {
@@ -55,6 +57,10 @@ FocusScope {
         anchors.leftMargin: 16
         anchors.right: parent.right
         height: parent.height
+    }
+    Connections {
+        target: App.panel
+        function onToolChanged() { root.follow(); }
     }
     Connections {
         target: root.model

@@ -45,6 +45,14 @@ void put(std::vector<std::string> &ids, const std::string &id, bool isIn)
     }
 }
 
+// The tabs of the header stand in the order of the tools.
+void arrangeFavourites(KestCore::NativeState &state)
+{
+    std::ranges::stable_sort(state.navigationFavorites, {}, [&](const std::string &id) {
+        return std::ranges::find(state.order, id) - state.order.begin();
+    });
+}
+
 } // namespace
 
 ToolSettings::ToolSettings(ApplicationModel &model, QObject *parent)
@@ -149,6 +157,7 @@ void ToolSettings::setFavourite(const QString &tool, bool on)
     }
     m_model.changeState([id, on](KestCore::NativeState &state) -> Result<void> {
         put(state.navigationFavorites, id, on);
+        arrangeFavourites(state);
         return {};
     });
 }
@@ -169,6 +178,7 @@ void ToolSettings::move(int from, int to)
             ++place;
         }
         state.order.insert(place, moved);
+        arrangeFavourites(state);
         return {};
     });
 }
