@@ -113,8 +113,8 @@ TEST_F(NotesViewModelTest, TypingIsSavedByItselfAfterAPause)
 {
     notes->chooseScratchpad();
     notes->edit("left alone");
-    EXPECT_TRUE(
-        RunningModel::waitUntil([&] { return !running.model().recordsOfKind("scratchpad").empty(); }));
+    EXPECT_TRUE(RunningModel::waitUntil(
+        [&] { return !running.model().recordsOfKind("scratchpad").empty(); }));
 }
 
 TEST_F(NotesViewModelTest, AnotherProgramsChangeNeverOverwritesWhatIsTyped)
