@@ -18,9 +18,14 @@ SettingsGroup {
         title: root.page.isSet ? root.page.title : qsTr("No place yet")
         note: root.page.isSet ? root.page.coordinates
                               : qsTr("Choose a city, or set it by its numbers.")
-        PlaceSearch { width: 250 }
+        PlaceSearch {
+            width: 250
+            results: cities
+        }
     }
     PlaceResults {
+        id: cities
+
         width: parent.width
         leftPadding: 6
         rightPadding: 6
