@@ -85,7 +85,7 @@ void PaletteWindow::place()
     const QRect area = in->geometry();
     const int top = topOn(*in);
     rootObject()->setProperty("isWholeScreen", m_isWholeScreen);
-    rootObject()->setProperty("top", m_isWholeScreen ? top : 0);
+    rootObject()->setProperty("surfaceTop", m_isWholeScreen ? top : 0);
     rootObject()->setProperty("maximumHeight", area.height() - top - kRadius);
     if (m_isWholeScreen) {
         setMask({});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAbstractItemModel>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
@@ -9,8 +10,6 @@
 #include <cstddef>
 #include <memory>
 #include <vector>
-
-class QAbstractItemModel;
 
 namespace Velvetnook
 {

@@ -58,7 +58,7 @@ FocusScope {
 
         anchors.left: glass.right
         anchors.leftMargin: 14
-        anchors.right: escape.left
+        anchors.right: escapeKey.left
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         focus: true
@@ -112,7 +112,7 @@ FocusScope {
         Accessible.ignored: true
     }
     KeyCap {
-        id: escape
+        id: escapeKey
 
         anchors.right: parent.right
         anchors.rightMargin: 20

@@ -10,7 +10,7 @@ FocusScope {
 
     property bool isWholeScreen: true
     property bool isOpen: false
-    property int top: 0
+    property int surfaceTop: 0
     property real maximumHeight: 640
     readonly property real surfaceHeight: surface.implicitHeight
 
@@ -33,7 +33,7 @@ FocusScope {
         id: surface
 
         anchors.horizontalCenter: parent.horizontalCenter
-        y: root.top + rise
+        y: root.surfaceTop + rise
         width: implicitWidth
         height: implicitHeight
         maximumHeight: root.maximumHeight
