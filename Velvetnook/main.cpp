@@ -10,8 +10,11 @@
 #include "Velvetnook/Notch/NotchDriver.h"
 #include "Velvetnook/Notch/NotchWindow.h"
 #include "Velvetnook/Notch/SurfaceWindow.h"
+#include "Velvetnook/Platform/Desktop.h"
+#include "Velvetnook/Platform/Linux/BusActivation.h"
 #include "Velvetnook/Platform/PaletteHotkey.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
+#include "Velvetnook/Platform/StartUp.h"
 #include "Velvetnook/Shell/Engine.h"
 #include "Velvetnook/Shell/Theme.h"
 
@@ -105,11 +108,11 @@ public:
     Running(const std::filesystem::path &file, KestCore::StateStore store,
             KestCore::Snapshot first);
 
-    // Empty, or why nothing can be shown.
-    QString begin();
+    // Empty, or why nothing can be shown. `activation` is what other starts speak to.
+    QString begin(BusActivation &activation);
 
 private:
-    void beginTheRest();
+    void beginTheRest(BusActivation &activation);
     void listen();
     void openSettings();
     void openOnboarding();
@@ -124,6 +127,7 @@ private:
     std::unique_ptr<NotchWindow> m_notch;
     std::unique_ptr<PaletteWindow> m_palette;
     std::unique_ptr<PaletteHotkey> m_hotkey;
+    Desktop m_desktop;
     std::unique_ptr<SurfaceWindow> m_settings;
     std::unique_ptr<SurfaceWindow> m_onboarding;
 };
@@ -133,19 +137,20 @@ Running::Running(const std::filesystem::path &file, KestCore::StateStore store,
     : m_model{std::make_unique<StateKeeper>(file, std::move(store)),
               committedAll(std::move(first)), Base::wallClock},
       m_app{m_model}, m_languages{m_model, *m_app.format()}, m_theme{m_model},
-      m_driver{m_model, m_app, steadySeconds}, m_commands{m_model, file}
+      m_driver{m_model, m_app, steadySeconds}, m_commands{m_model, file},
+      m_desktop{m_app, m_model}
 {
     prepareEngine(m_engine, m_app, m_theme);
     QObject::connect(&m_languages, &Languages::changed, &m_engine, &QQmlEngine::retranslate);
 }
 
-QString Running::begin()
+QString Running::begin(BusActivation &activation)
 {
     m_notch = std::make_unique<NotchWindow>(m_engine, m_model, m_driver);
     if (!m_notch->problem().isEmpty()) {
         return m_notch->problem();
     }
-    const auto rest = [this] { beginTheRest(); };
+    const auto rest = [this, &activation] { beginTheRest(activation); };
     m_notch->begin();
     if (m_notch->isVisible()) {
         QObject::connect(
@@ -157,7 +162,7 @@ QString Running::begin()
     return {};
 }
 
-void Running::beginTheRest()
+void Running::beginTheRest(BusActivation &activation)
 {
     QObject::connect(m_app.panel(), &PanelViewModel::settingsWanted, m_app.settings(),
                      [this] { m_app.settings()->open(); });
@@ -168,6 +173,14 @@ void Running::beginTheRest()
     listen();
     QObject::connect(&m_app.alarms(), &Alarms::emphasisWanted, m_app.strip(),
                      &StripViewModel::emphasise);
+    QObject::connect(&m_desktop, &Desktop::lookChanged, &m_theme,
+                     [this](bool isDark, bool reducesMotion, bool wantsContrast) {
+                         m_theme.setDesktop(isDark, reducesMotion);
+                         m_theme.setMoreContrast(wantsContrast);
+                     });
+    m_desktop.begin();
+    m_desktop.follow(activation);
+    activation.begin();
     m_app.onboarding()->openWhenNeeded();
     // Made before they are wanted, while nothing else is to be done.
     QTimer::singleShot(1000, qGuiApp, [this] { m_driver.prepare(); });
@@ -226,7 +239,7 @@ void Running::openOnboarding()
     m_onboarding->present();
 }
 
-int run()
+int run(BusActivation &activation)
 {
     const std::filesystem::path file = KestCore::dataDirectory() / KestCore::kDatabaseName;
     auto store = KestCore::StateStore::open(file);
@@ -235,7 +248,7 @@ int run()
         return showFailure(first.error(), file);
     }
     Running running{file, std::move(*store), std::move(*first)};
-    if (const QString problem = running.begin(); !problem.isEmpty()) {
+    if (const QString problem = running.begin(activation); !problem.isEmpty()) {
         std::fprintf(stderr, "velvetnook: %s\n", qPrintable(problem));
         return 1;
     }
@@ -249,6 +262,11 @@ int run()
 int main(int argc, char **argv)
 {
     using namespace Velvetnook;
+    const Launch launch =
+        Launch::from({argv + 1, argc > 0 ? static_cast<std::size_t>(argc - 1) : 0});
+    if (const auto status = answerWithoutWindow(launch, argc, argv)) {
+        return *status;
+    }
     if (!chooseDisplay()) {
         std::fputs("velvetnook: There is no display here. `kest` works in a terminal.\n",
                    stderr);
@@ -261,5 +279,9 @@ int main(int argc, char **argv)
     QGuiApplication::setApplicationVersion(QStringLiteral(KEST_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("app.kest.native"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    return run();
+    const auto activation = makeActivation();
+    if (const auto status = claim(*activation, launch)) {
+        return *status;
+    }
+    return run(*activation);
 }

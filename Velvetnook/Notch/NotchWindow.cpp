@@ -15,6 +15,7 @@
 #include <QScreen>
 
 #include <cmath>
+#include <utility>
 
 namespace Velvetnook
 {
@@ -34,8 +35,8 @@ NotchWindow::NotchWindow(QQmlEngine &engine, ApplicationModel &model, NotchDrive
     : m_model{model}, m_driver{driver}
 {
     setTitle(QStringLiteral("Velvetnook"));
-    setFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::BypassWindowManagerHint |
-             Qt::NoDropShadowWindowHint);
+    setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+             Qt::BypassWindowManagerHint | Qt::NoDropShadowWindowHint);
     setColor(Qt::transparent);
     m_hasCompositor = hasCompositor();
     QQmlComponent component{&engine,
@@ -67,6 +68,14 @@ void NotchWindow::watchDriver()
         }
     });
     connect(&m_driver, &NotchDriver::closed, this, &NotchWindow::giveKeyboardBack);
+    connect(this, &QWindow::activeChanged, this, [this] {
+        if (!isActive()) {
+            m_driver.release();
+            followForeground();
+        } else if (!m_driver.isOpen()) {
+            giveKeyboardBack(); // from the palette, which was opened in the panel
+        }
+    });
 }
 
 void NotchWindow::watchDesktop()
@@ -161,6 +170,10 @@ void NotchWindow::takeKeyboard()
 {
     if (!isActive()) {
         m_focusBefore = focusedWindow();
+        raiseAboveAll(*this);
+        // Qt asks in the name of the last event that it saw: for the server that may be long
+        // ago, and then it is not heard.
+        giveFocusTo(static_cast<quint32>(winId()));
         requestActivate();
     }
 }
@@ -168,9 +181,8 @@ void NotchWindow::takeKeyboard()
 void NotchWindow::giveKeyboardBack()
 {
     if (isActive()) {
-        giveFocusTo(m_focusBefore);
+        giveFocusTo(std::exchange(m_focusBefore, 0));
     }
-    m_focusBefore = 0;
 }
 
 void NotchWindow::readPointer(const QEvent &event)
@@ -226,9 +238,6 @@ bool NotchWindow::event(QEvent *event)
     readPointer(*event);
     if (event->type() == QEvent::KeyPress) {
         readKey();
-    } else if (event->type() == QEvent::WindowDeactivate) {
-        m_driver.release();
-        followForeground();
     }
     return isDone;
 }
