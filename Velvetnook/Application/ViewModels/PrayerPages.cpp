@@ -22,6 +22,11 @@ using KestCore::LocalDate;
 using KestCore::PrayerCalculator;
 using KestCore::PrayerFocusPlan;
 
+// The engine's refusal, which is shown translated.
+[[maybe_unused]] constexpr const char *kTooClose = QT_TRANSLATE_NOOP(
+    "Velvetnook::PrayerViewModel", "The next prayer is too close for this buffer. Try an "
+                                   "ordinary timer or reduce the buffer.");
+
 LocalDate turned(LocalDate from, bool byMonth, int distance)
 {
     if (byMonth) {

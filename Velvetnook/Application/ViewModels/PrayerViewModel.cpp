@@ -22,6 +22,11 @@ namespace
 using KestCore::PrayerCalculator;
 using PrayerCore::Prayer;
 
+// The engine's refusal, which is shown translated.
+[[maybe_unused]] constexpr const char *kNoInputs =
+    QT_TRANSLATE_NOOP("Velvetnook::PrayerViewModel",
+                      "Allow location access to calculate prayer times for where you are.");
+
 constexpr qint64 kMostMinutes = 90; // beyond, hours and minutes are shown
 
 } // namespace
@@ -119,7 +124,7 @@ QString PrayerViewModel::message() const
     }
     return m_watch.hasNoPlace()
                ? tr("Add a location to see your next prayer. You can set it manually.")
-               : QString::fromStdString(inputs.error().message);
+               : tr(inputs.error().message.c_str());
 }
 
 QString PrayerViewModel::note() const

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Velvetnook
 {
@@ -32,14 +33,24 @@ std::optional<TimerMode> modeOf(const std::string &text)
     return Base::fromText<TimerMode>(text);
 }
 
+// The texts of the engine that are shown translated.
+[[maybe_unused]] constexpr std::array kEngineTexts{
+    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Focus"),
+    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Timer"),
+    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Stopwatch"),
+    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Water"),
+    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "This item was removed."),
+    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel",
+                      "Total timer duration cannot exceed 365 days."),
+    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel",
+                      "A title is one line of at most 200 characters")};
+
 QString iconOf(const std::string &mode)
 {
     static constexpr std::array kIcons{"focus", "hourglass", "timers", "drop"};
     const TimerMode known = modeOf(mode).value_or(TimerMode::countdown);
     return QLatin1String{kIcons.at(static_cast<std::size_t>(known))};
 }
-
-bool isStopwatch(const TimerState &timer) { return !KestCore::countsDown(timer); }
 
 // Whether anything of it has run.
 bool hasBegun(const TimerState &timer)
@@ -235,10 +246,9 @@ void TimersViewModel::adjust(int minutes)
     const double seconds = minutes * kMinute;
     const Timer *timer = chosen();
     if (timer == nullptr) {
-        const QString mode = m_chosen.mid(kNew.size());
-        const QString error = setTime(
-            m_chosen,
-            QStringLiteral("%1 s").arg(minutesOf(mode.toStdString()) * kMinute + seconds));
+        const std::string mode = m_chosen.mid(kNew.size()).toStdString();
+        const double length = minutesOf(mode) * kMinute + seconds;
+        const QString error = setTime(m_chosen, QStringLiteral("%1 s").arg(length, 0, 'f', 0));
         if (!error.isEmpty()) {
             m_model.say(error);
         }
