@@ -162,7 +162,7 @@ QVariantList UnitsViewModel::units() const
 QString UnitsViewModel::shown(std::string_view number) const
 {
     QString text = m_formatting.digits(fromView(number));
-    if (m_formatting.digits(QStringLiteral("0")) != u'0') {
+    if (m_formatting.usesArabicDigits()) {
         text.replace(u'.', u'٫');
     }
     return text;

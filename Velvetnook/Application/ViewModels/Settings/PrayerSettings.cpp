@@ -7,6 +7,8 @@
 #include "KestCore/Prayer/PrayerCalculator.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/LocalDay.h"
+#include "Velvetnook/Application/PrayerWatch.h"
 
 #include <QVariantMap>
 
@@ -20,25 +22,6 @@ namespace
 {
 
 using PrayerCore::Prayer;
-
-QString nameOf(Prayer prayer)
-{
-    switch (prayer) {
-    case Prayer::fajr:
-        return PrayerSettings::tr("Fajr");
-    case Prayer::sunrise:
-        return PrayerSettings::tr("Sunrise");
-    case Prayer::dhuhr:
-        return PrayerSettings::tr("Dhuhr");
-    case Prayer::asr:
-        return PrayerSettings::tr("Asr");
-    case Prayer::maghrib:
-        return PrayerSettings::tr("Maghrib");
-    case Prayer::isha:
-        return PrayerSettings::tr("Isha");
-    }
-    return {};
-}
 
 // Sunrise has no adjustment of the user's.
 constexpr Prayer kAdjusted[]{Prayer::fajr, Prayer::dhuhr, Prayer::asr, Prayer::maghrib,
@@ -143,7 +126,7 @@ QVariantList PrayerSettings::adjusted() const
     QVariantList list;
     for (const Prayer prayer : kAdjusted) {
         list.push_back(QVariantMap{{QStringLiteral("value"), fromView(Base::textOf(prayer))},
-                                   {QStringLiteral("label"), nameOf(prayer)}});
+                                   {QStringLiteral("label"), prayerName(prayer)}});
     }
     return list;
 }
@@ -184,13 +167,7 @@ QString PrayerSettings::hijriOffsetText() const
     return tr("%1 d", "days").arg(signedText(hijriOffset()));
 }
 
-QString PrayerSettings::hijriDate() const
-{
-    const KestCore::LocalTime today = model().calendar().at(model().now());
-    const std::chrono::sys_days date = std::chrono::year{today.year} / today.month / today.day;
-    return formatting().islamicDate(
-        KestCore::PrayerCalculator::islamicDate(date + std::chrono::days{hijriOffset()}));
-}
+QString PrayerSettings::hijriDate() const { return islamicDateText(model(), formatting()); }
 
 bool PrayerSettings::notifies() const { return isOn("prayer.notifications", false); }
 bool PrayerSettings::showsInStrip() const { return isOn("prayer.strip", false); }
@@ -210,7 +187,7 @@ QVariantList PrayerSettings::times() const
     for (const Prayer prayer : kShown) {
         const auto at = PrayerCore::instantOf(*days.front().times, prayer);
         list.push_back(
-            QVariantMap{{QStringLiteral("name"), nameOf(prayer)},
+            QVariantMap{{QStringLiteral("name"), prayerName(prayer)},
                         {QStringLiteral("time"),
                          at ? formatting().timeIn(inputs->calendar, *at) : QStringLiteral("—")},
                         {QStringLiteral("isNext"), next && at && next->at == *at}});

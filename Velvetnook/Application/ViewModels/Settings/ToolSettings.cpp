@@ -4,6 +4,7 @@
 
 #include "KestCore/Registry/ToolRegistry.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/ToolTitles.h"
 
 #include <QCoreApplication>
 
@@ -102,9 +103,9 @@ QVariant ToolSettings::data(const QModelIndex &index, int role) const
     case toolId:
         return QString::fromStdString(id);
     case title:
-        return QCoreApplication::translate("Tools", tool.title.c_str());
+        return toolTitle(QString::fromStdString(id));
     case summary:
-        return QCoreApplication::translate("Tools", tool.summary.c_str());
+        return QCoreApplication::translate("ToolSummaries", tool.summary.c_str());
     case icon:
         return QString::fromStdString(tool.icon);
     case enabled:
