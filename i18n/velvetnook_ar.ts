@@ -249,6 +249,21 @@
     </message>
 </context>
 <context>
+    <name>FailureSurface</name>
+    <message>
+        <source>Velvetnook cannot open its data</source>
+        <translation>لا يستطيع Velvetnook فتح بياناته</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1</source>
+        <translation>لم يتغيّر شيء: %1</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+</context>
+<context>
     <name>FridayView</name>
     <message>
         <source>Friday settings…</source>
@@ -2232,78 +2247,6 @@
 <context>
     <name>Velvetnook</name>
     <message>
-        <source>General</source>
-        <translation>عام</translation>
-    </message>
-    <message>
-        <source>language arabic english digits clock start login history sound</source>
-        <translation>لغة عربية إنجليزية أرقام ساعة بدء دخول سجل صوت</translation>
-    </message>
-    <message>
-        <source>Appearance</source>
-        <translation>المظهر</translation>
-    </message>
-    <message>
-        <source>theme dark light accent colour motion text size surface transliteration</source>
-        <translation>سمة داكن فاتح لون تمييز حركة نص حجم سطح لاتينية</translation>
-    </message>
-    <message>
-        <source>Notch</source>
-        <translation>الشريط العلوي</translation>
-    </message>
-    <message>
-        <source>strip panel delay hidden screen display applications pause pinned</source>
-        <translation>شريط لوحة تأخير مخفي شاشة عرض تطبيقات إيقاف مثبت</translation>
-    </message>
-    <message>
-        <source>Shortcuts</source>
-        <translation>الاختصارات</translation>
-    </message>
-    <message>
-        <source>keys palette hotkey keyboard</source>
-        <translation>مفاتيح لوحة أوامر اختصار</translation>
-    </message>
-    <message>
-        <source>Reminders</source>
-        <translation>التذكيرات</translation>
-    </message>
-    <message>
-        <source>notification hours days interval pause test</source>
-        <translation>إشعار ساعات أيام فاصل إيقاف تجربة</translation>
-    </message>
-    <message>
-        <source>Prayer</source>
-        <translation>الصلاة</translation>
-    </message>
-    <message>
-        <source>place city location method asr latitude hijri adjust times</source>
-        <translation>مكان مدينة موقع طريقة عصر عرض هجري تعديل مواقيت</translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation>الأدوات</translation>
-    </message>
-    <message>
-        <source>order favourites tabs header</source>
-        <translation>ترتيب مفضلة ألسنة ترويسة</translation>
-    </message>
-    <message>
-        <source>Data &amp; backup</source>
-        <translation>البيانات والنسخ</translation>
-    </message>
-    <message>
-        <source>export import clear history reset folder file</source>
-        <translation>تصدير استيراد مسح سجل تصفير مجلد ملف</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>حول</translation>
-    </message>
-    <message>
-        <source>version licence capabilities</source>
-        <translation>إصدار رخصة قدرات</translation>
-    </message>
-    <message>
         <source>Session</source>
         <translation>الجلسة</translation>
     </message>
@@ -3584,6 +3527,73 @@
     </message>
 </context>
 <context>
+    <name>Velvetnook::SettingsViewModel</name>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>language arabic english digits clock start login history sound</source>
+        <translation>لغة عربية إنجليزية أرقام ساعة بدء دخول سجل صوت</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>المظهر</translation>
+    </message>
+    <message>
+        <source>theme dark light accent colour motion text size surface transliteration</source>
+        <translation>سمة داكن فاتح لون تمييز حركة نص حجم سطح لاتينية</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>الشريط العلوي</translation>
+    </message>
+    <message>
+        <source>strip panel delay hidden screen display applications pause pinned</source>
+        <translation>شريط لوحة تأخير مخفي شاشة عرض تطبيقات إيقاف مثبت</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>الاختصارات</translation>
+    </message>
+    <message>
+        <source>keys palette hotkey keyboard</source>
+        <translation>مفاتيح لوحة أوامر اختصار</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation>التذكيرات</translation>
+    </message>
+    <message>
+        <source>notification hours days interval pause test</source>
+        <translation>إشعار ساعات أيام فاصل إيقاف تجربة</translation>
+    </message>
+    <message>
+        <source>Prayer</source>
+        <translation>الصلاة</translation>
+    </message>
+    <message>
+        <source>place city location method asr latitude hijri adjust times</source>
+        <translation>مكان مدينة موقع طريقة عصر عرض هجري تعديل مواقيت</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>الأدوات</translation>
+    </message>
+    <message>
+        <source>Data &amp; backup</source>
+        <translation>البيانات والنسخ</translation>
+    </message>
+    <message>
+        <source>export import clear history reset folder file</source>
+        <translation>تصدير استيراد مسح سجل تصفير مجلد ملف</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>حول</translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook::StoreLender</name>
     <message>
         <source>A kest command is using your data. What you do meanwhile is kept and saved when it ends.</source>
@@ -3728,6 +3738,28 @@
     <message>
         <source>Data</source>
         <translation>البيانات</translation>
+    </message>
+</context>
+<context>
+    <name>View</name>
+    <message>
+        <source>order favourites tabs header</source>
+        <translation>ترتيب مفضلة ألسنة ترويسة</translation>
+    </message>
+    <message>
+        <source>version licence capabilities</source>
+        <translation>إصدار رخصة قدرات</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>Velvetnook Settings</source>
+        <translation>إعدادات Velvetnook</translation>
+    </message>
+    <message>
+        <source>Welcome to Velvetnook</source>
+        <translation>أهلًا بك في Velvetnook</translation>
     </message>
 </context>
 </TS>

@@ -14,7 +14,7 @@ using Level = Capability::Level;
 
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("Velvetnook::Capabilities", text);
+    return QCoreApplication::translate("Velvetnook", text);
 }
 
 bool isWayland(const SessionFacts &facts) { return facts.sessionType == u"wayland"; }

@@ -13,6 +13,10 @@
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QQuickTextDocument>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
 
 #include <cmath>
 #include <cstdio>
@@ -158,6 +162,23 @@ qreal Theme::baseline(const QString &role, qreal pixelSize, qreal lineHeight) co
 {
     const auto [ascent, descent] = m_extents.value(role);
     return (lineHeight + (ascent - descent) * pixelSize) / 2;
+}
+
+void Theme::spaceLines(QQuickTextDocument *document, qreal extra)
+{
+    QTextDocument *text = document->textDocument();
+    const QTextBlockFormat first = text->begin().blockFormat();
+    if (first.lineHeightType() == QTextBlockFormat::LineDistanceHeight) {
+        return;
+    }
+    // Not a step that the user could take back.
+    text->setUndoRedoEnabled(false);
+    QTextCursor all{text};
+    all.select(QTextCursor::Document);
+    QTextBlockFormat spaced;
+    spaced.setLineHeight(extra, QTextBlockFormat::LineDistanceHeight);
+    all.mergeBlockFormat(spaced);
+    text->setUndoRedoEnabled(true);
 }
 
 qreal Theme::cellWidth(const QString &role, const QString &letter, qreal pixelSize) const

@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QQmlPropertyMap>
 
+class QQuickTextDocument;
+
 namespace Velvetnook
 {
 
@@ -57,6 +59,8 @@ public:
     Q_INVOKABLE static int shadowReach(const QString &step);
     // Where the baseline is in a line of that height, with the letters in its middle.
     Q_INVOKABLE qreal baseline(const QString &role, qreal pixelSize, qreal lineHeight) const;
+    // Gives the lines of a document more air. To be called again when its text was replaced.
+    Q_INVOKABLE static void spaceLines(QQuickTextDocument *document, qreal extra);
     // The cell of a digit or colon in a number that changes; 0: the letter's own width.
     Q_INVOKABLE qreal cellWidth(const QString &role, const QString &letter,
                                 qreal pixelSize) const;

@@ -27,23 +27,28 @@ using Pages = std::vector<Page>;
 
 Pages allPages()
 {
-    const auto tr = [](const char *text) { return SettingsViewModel::tr(text); };
     return {
-        {"general", "settings", 0, tr("General"),
-         tr("language arabic english digits clock start login history sound")},
-        {"appearance", "palette", 0, tr("Appearance"),
-         tr("theme dark light accent colour motion text size surface transliteration")},
-        {"notch", "notch", 0, tr("Notch"),
-         tr("strip panel delay hidden screen display applications pause pinned")},
-        {"shortcuts", "keyboard", 0, tr("Shortcuts"), tr("keys palette hotkey keyboard")},
-        {"reminders", "bell", 1, tr("Reminders"),
-         tr("notification hours days interval pause test")},
-        {"prayer", "prayer", 1, tr("Prayer"),
-         tr("place city location method asr latitude hijri adjust times")},
-        {"tools", "grid", 2, tr("Tools"), tr("order favourites tabs header")},
-        {"data", "database", 3, tr("Data & backup"),
-         tr("export import clear history reset folder file")},
-        {"about", "info", 3, tr("About"), tr("version licence capabilities")},
+        {"general", "settings", 0, SettingsViewModel::tr("General"),
+         SettingsViewModel::tr(
+             "language arabic english digits clock start login history sound")},
+        {"appearance", "palette", 0, SettingsViewModel::tr("Appearance"),
+         SettingsViewModel::tr(
+             "theme dark light accent colour motion text size surface transliteration")},
+        {"notch", "notch", 0, SettingsViewModel::tr("Notch"),
+         SettingsViewModel::tr(
+             "strip panel delay hidden screen display applications pause pinned")},
+        {"shortcuts", "keyboard", 0, SettingsViewModel::tr("Shortcuts"),
+         SettingsViewModel::tr("keys palette hotkey keyboard")},
+        {"reminders", "bell", 1, SettingsViewModel::tr("Reminders"),
+         SettingsViewModel::tr("notification hours days interval pause test")},
+        {"prayer", "prayer", 1, SettingsViewModel::tr("Prayer"),
+         SettingsViewModel::tr("place city location method asr latitude hijri adjust times")},
+        {"tools", "grid", 2, SettingsViewModel::tr("Tools"),
+         View::tr("order favourites tabs header")},
+        {"data", "database", 3, SettingsViewModel::tr("Data & backup"),
+         SettingsViewModel::tr("export import clear history reset folder file")},
+        {"about", "info", 3, SettingsViewModel::tr("About"),
+         View::tr("version licence capabilities")},
     };
 }
 

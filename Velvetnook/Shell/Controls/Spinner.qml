@@ -46,7 +46,8 @@ Shape {
         }
     }
     RotationAnimation on rotation {
-        running: root.visible && !Theme.reducedMotion
+        running: root.visible && root.Window.visibility !== Window.Hidden
+                 && !Theme.reducedMotion
         from: 0
         to: 360
         duration: 900

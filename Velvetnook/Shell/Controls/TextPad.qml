@@ -64,7 +64,9 @@ FocusScope {
             selectedTextColor: Theme.color.text1
             Accessible.name: root.name
             onCursorRectangleChanged: follow()
+            Component.onCompleted: Theme.spaceLines(textDocument, 6)
             onTextChanged: {
+                Theme.spaceLines(textDocument, 6);
                 if (activeFocus) {
                     root.edited(text);
                 }
