@@ -2454,6 +2454,46 @@
         <source>off</source>
         <translation>متوقف</translation>
     </message>
+    <message>
+        <source>Count %1 (%2)</source>
+        <translation>عُدَّ %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Count %1 (%2 of %3)</source>
+        <translation>عُدَّ %1 (%2 من %3)</translation>
+    </message>
+    <message>
+        <source>Choose a place for prayer times</source>
+        <translation>اختر مكانًا لمواقيت الصلاة</translation>
+    </message>
+    <message>
+        <source>No prayer times today</source>
+        <translation>لا مواقيت اليوم</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 في %2</translation>
+    </message>
+    <message>
+        <source>Open Velvetnook</source>
+        <translation>فتح Velvetnook</translation>
+    </message>
+    <message>
+        <source>Resume reminders</source>
+        <translation>استئناف التذكيرات</translation>
+    </message>
+    <message>
+        <source>Pause reminders for an hour</source>
+        <translation>إيقاف التذكيرات ساعة</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>الإعدادات…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>إنهاء</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::AppearanceSettings</name>
@@ -3239,30 +3279,6 @@
 <context>
     <name>Velvetnook::PrayerSettings</name>
     <message>
-        <source>Fajr</source>
-        <translation>الفجر</translation>
-    </message>
-    <message>
-        <source>Sunrise</source>
-        <translation>الشروق</translation>
-    </message>
-    <message>
-        <source>Dhuhr</source>
-        <translation>الظهر</translation>
-    </message>
-    <message>
-        <source>Asr</source>
-        <translation>العصر</translation>
-    </message>
-    <message>
-        <source>Maghrib</source>
-        <translation>المغرب</translation>
-    </message>
-    <message>
-        <source>Isha</source>
-        <translation>العشاء</translation>
-    </message>
-    <message>
         <source>Automatic</source>
         <translation>تلقائي</translation>
     </message>
@@ -3367,6 +3383,10 @@
 <context>
     <name>Velvetnook::PrayerViewModel</name>
     <message>
+        <source>The next prayer is too close for this buffer. Try an ordinary timer or reduce the buffer.</source>
+        <translation>الصلاة القادمة أقرب من هذه المهلة. جرّب مؤقّتًا عاديًا أو قلّل المهلة.</translation>
+    </message>
+    <message>
         <source>Prayer settings changed. Your current deadline is unchanged.</source>
         <translation>تغيّرت إعدادات الصلاة. موعدك الحالي لم يتغيّر.</translation>
     </message>
@@ -3393,6 +3413,10 @@
     <message>
         <source>%1 min</source>
         <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>Allow location access to calculate prayer times for where you are.</source>
+        <translation>اسمح بالوصول إلى الموقع لحساب مواقيت الصلاة حيث أنت.</translation>
     </message>
     <message>
         <source>There are no times to calculate for this date here: the Sun does not rise or set as usual, or the place skipped the date. Follow your local authority.</source>
@@ -3688,6 +3712,34 @@
     <message>
         <source>Break %1</source>
         <translation>استراحة %1</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>تركيز</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>مؤقّت</translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation>ساعة إيقاف</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>ماء</translation>
+    </message>
+    <message>
+        <source>This item was removed.</source>
+        <translation>أُزيل هذا العنصر.</translation>
+    </message>
+    <message>
+        <source>Total timer duration cannot exceed 365 days.</source>
+        <translation>لا تتجاوز مدة المؤقّت كلها ٣٦٥ يومًا.</translation>
+    </message>
+    <message>
+        <source>A title is one line of at most 200 characters</source>
+        <translation>العنوان سطر واحد من ٢٠٠ حرف على الأكثر</translation>
     </message>
     <message>
         <source>Break</source>

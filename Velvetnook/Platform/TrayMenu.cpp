@@ -15,7 +15,7 @@ namespace Velvetnook
 namespace
 {
 
-QString tr(const char *text) { return QCoreApplication::translate("TrayMenu", text); }
+QString tr(const char *text) { return QCoreApplication::translate("Velvetnook", text); }
 
 QString countLine(const KestCore::NativeState &state, const Formatting &formatting)
 {

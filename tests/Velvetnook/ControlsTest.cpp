@@ -8,7 +8,10 @@
 namespace
 {
 
-QVariant last(const QSignalSpy &spy) { return spy.isEmpty() ? QVariant{} : spy.last().value(0); }
+QVariant last(const QSignalSpy &spy)
+{
+    return spy.isEmpty() ? QVariant{} : spy.last().value(0);
+}
 
 QQuickItem *child(QQuickItem *item, const char *name)
 {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "RunningModel.h"
 #include "Velvetnook/Application/Languages.h"
+
+#include "RunningModel.h"
 
 #include <QSignalSpy>
 

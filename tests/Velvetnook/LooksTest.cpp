@@ -52,8 +52,8 @@ QRect freeInk(const QString &text, double pixelSize)
 
 std::vector<QString> allArabic()
 {
-    std::vector<QString> texts{QStringLiteral("سُبْحَانَ ٱللَّٰهِ"),
-                               QStringLiteral("لَا إِلَٰهَ إِلَّا ٱللَّٰهُ"), QStringLiteral("إٍلٓىٰ")};
+    std::vector<QString> texts{QStringLiteral("سُبْحَانَ ٱللَّٰهِ"), QStringLiteral("لَا إِلَٰهَ إِلَّا ٱللَّٰهُ"),
+                               QStringLiteral("إٍلٓىٰ")};
     const KestCore::Content &content = KestCore::contentCatalogue();
     for (const auto &phrases : {content.dhikr, content.names}) {
         for (const KestCore::Phrase &phrase : phrases) {
@@ -102,8 +102,8 @@ TEST_P(ArabicText, KeepsAllOfItsInkInItsBox)
             const QRectF box = boxOf(*item).adjusted(-1, -1, 1, 1);
             EXPECT_TRUE(box.contains(QRectF{drawn}))
                 << "ink " << drawn.x() << ' ' << drawn.y() << ' ' << drawn.width() << ' '
-                << drawn.height() << ", box " << box.x() << ' ' << box.y() << ' '
-                << box.width() << ' ' << box.height();
+                << drawn.height() << ", box " << box.x() << ' ' << box.y() << ' ' << box.width()
+                << ' ' << box.height();
         }
     }
 }

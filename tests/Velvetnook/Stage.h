@@ -57,9 +57,9 @@ public:
     }
     void click(const QQuickItem *item)
     {
-        QTest::mouseClick(&m_window, Qt::LeftButton, Qt::NoModifier,
-                          item->mapToScene(QPointF{item->width() / 2, item->height() / 2})
-                              .toPoint());
+        QTest::mouseClick(
+            &m_window, Qt::LeftButton, Qt::NoModifier,
+            item->mapToScene(QPointF{item->width() / 2, item->height() / 2}).toPoint());
     }
 
     QQuickWindow &window() { return m_window; }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
 #include <QCoreApplication>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -105,8 +106,9 @@ TEST(Texts, AreAllTranslatedWithTheirPlaceholders)
             kSources + QStringLiteral("/i18n/velvetnook_%1.ts").arg(QLatin1String{language}));
         EXPECT_GE(messages.size(), least);
         for (const Message &message : messages) {
-            SCOPED_TRACE(qPrintable(QStringLiteral("%1, %2: %3").arg(
-                QLatin1String{language}, message.context, message.source)));
+            SCOPED_TRACE(
+                qPrintable(QStringLiteral("%1, %2: %3")
+                               .arg(QLatin1String{language}, message.context, message.source)));
             EXPECT_FALSE(message.isUnfinished);
             EXPECT_EQ(message.forms.size(), message.isPlural ? pluralForms : 1);
             for (const QString &form : message.forms) {
@@ -121,14 +123,17 @@ TEST(Texts, OfTheSourcesAreAllInTheFiles)
 {
     const QTemporaryDir folder;
     for (const char *language : {"ar", "en"}) {
-        const QString name =
-            QStringLiteral("velvetnook_%1.ts").arg(QLatin1String{language});
+        const QString name = QStringLiteral("velvetnook_%1.ts").arg(QLatin1String{language});
         const QString copy = folder.filePath(name);
         ASSERT_TRUE(QFile::copy(kSources + QStringLiteral("/i18n/") + name, copy));
-        QStringList arguments{QStringLiteral("-no-obsolete"), QStringLiteral("-locations"),
-                              QStringLiteral("none"), QStringLiteral("-I"),
-                              QStringLiteral("."), QStringLiteral("Velvetnook"),
-                              QStringLiteral("-ts"), copy};
+        QStringList arguments{QStringLiteral("-no-obsolete"),
+                              QStringLiteral("-locations"),
+                              QStringLiteral("none"),
+                              QStringLiteral("-I"),
+                              QStringLiteral("."),
+                              QStringLiteral("Velvetnook"),
+                              QStringLiteral("-ts"),
+                              copy};
         if (language == std::string_view{"en"}) {
             arguments.prepend(QStringLiteral("-pluralonly"));
         }
@@ -144,6 +149,33 @@ TEST(Texts, OfTheSourcesAreAllInTheFiles)
     }
 }
 
+// A function beside the classes that looks its words up must do so where lupdate files them.
+TEST(Texts, AreLookedUpInContextsThatThereAre)
+{
+    QStringList contexts;
+    for (const Message &message :
+         readMessages(kSources + QStringLiteral("/i18n/velvetnook_ar.ts"))) {
+        contexts.append(message.context);
+    }
+    static const QRegularExpression kLookUp{QStringLiteral("translate\\(\\s*\"([A-Za-z:]+)\"")};
+    int found = 0;
+    QDirIterator files{kSources + QStringLiteral("/Velvetnook"),
+                       {QStringLiteral("*.cpp")},
+                       QDir::Files,
+                       QDirIterator::Subdirectories};
+    while (files.hasNext()) {
+        QFile file{files.next()};
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const auto text = QString::fromUtf8(file.readAll());
+        for (auto it = kLookUp.globalMatch(text); it.hasNext(); ++found) {
+            const QString context = it.next().captured(1);
+            EXPECT_TRUE(contexts.contains(context))
+                << qPrintable(file.fileName()) << ": " << qPrintable(context);
+        }
+    }
+    EXPECT_GT(found, 3);
+}
+
 // What the program carries is the compiled form of these files, under the names that the code
 // asks for.
 TEST(Texts, AreFoundUnderTheirContextsAtRunTime)
@@ -157,9 +189,8 @@ TEST(Texts, AreFoundUnderTheirContextsAtRunTime)
         for (const Message &message : messages) {
             const QByteArray context = message.context.toUtf8();
             const QByteArray comment = message.comment.toUtf8();
-            EXPECT_TRUE(message.forms.contains(
-                translator.translate(context, message.source.toUtf8(), comment,
-                                     message.isPlural ? 1 : -1)))
+            EXPECT_TRUE(message.forms.contains(translator.translate(
+                context, message.source.toUtf8(), comment, message.isPlural ? 1 : -1)))
                 << context.constData() << ": " << qPrintable(message.source);
         }
     }
