@@ -25,9 +25,9 @@ class Activation : public QObject
 public:
     enum class Start : std::uint8_t {
         first,
-        second,      // there is another, and it was asked
-        unanswered,  // there is another, and it does not answer
-        undecided    // there is no bus: the lock of the store decides
+        second,     // there is another, and it was asked
+        unanswered, // there is another, and it does not answer
+        undecided   // there is no bus: the lock of the store decides
     };
 
     using QObject::QObject;

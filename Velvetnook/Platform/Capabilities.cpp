@@ -23,8 +23,8 @@ Capability sessionType(const SessionFacts &facts)
 {
     Capability found{.id = QStringLiteral("session"), .name = tr("Session")};
     if (!facts.hasXServer) {
-        found.reason = isWayland(facts) ? tr("Wayland without XWayland")
-                                        : tr("There is no display.");
+        found.reason =
+            isWayland(facts) ? tr("Wayland without XWayland") : tr("There is no display.");
         found.wayOut = isWayland(facts)
                            ? tr("Install XWayland and log in again.")
                            : tr("Log in to a desktop, or use kest in this terminal.");
@@ -69,7 +69,8 @@ Capability compositing(const SessionFacts &facts)
         found.reason = tr("The screen is composited.");
     } else if (facts.hasXServer) {
         found.level = Level::degraded;
-        found.reason = tr("The screen is not composited: edges are hard, shadows are left out.");
+        found.reason =
+            tr("The screen is not composited: edges are hard, shadows are left out.");
         found.wayOut = tr("Turn on compositing, or start a compositor such as picom.");
     } else {
         found.reason = tr("There is no display.");
@@ -87,9 +88,8 @@ Capability hotkey(const SessionFacts &facts)
         return found;
     }
     found.level = facts.hasXServer ? Level::degraded : Level::off;
-    found.reason = facts.hasXServer
-                       ? tr("On Wayland only X11 windows pass the key on.")
-                       : tr("This session lets no program listen for a key.");
+    found.reason = facts.hasXServer ? tr("On Wayland only X11 windows pass the key on.")
+                                    : tr("This session lets no program listen for a key.");
     found.wayOut = tr("In the desktop's keyboard settings, bind a key to: kest palette toggle");
     return found;
 }
@@ -98,9 +98,8 @@ Capability notifications(const SessionFacts &facts)
 {
     Capability found{.id = QStringLiteral("notifications"), .name = tr("Notifications")};
     if (!facts.hasNotifications) {
-        found.reason = facts.hasSessionBus
-                           ? tr("Nothing in this session shows notifications.")
-                           : tr("There is no session bus.");
+        found.reason = facts.hasSessionBus ? tr("Nothing in this session shows notifications.")
+                                           : tr("There is no session bus.");
         found.wayOut = tr("Start a notification service, such as the desktop's own or dunst.");
     } else if (!facts.notificationAbilities.isEmpty() &&
                !facts.notificationAbilities.contains(u"actions")) {
@@ -164,7 +163,8 @@ Capability look(const SessionFacts &facts)
         found.reason = tr("Followed as it changes");
     } else {
         found.reason = tr("This desktop does not tell how it looks.");
-        found.wayOut = tr("Choose dark or light in the settings, or install xdg-desktop-portal.");
+        found.wayOut =
+            tr("Choose dark or light in the settings, or install xdg-desktop-portal.");
     }
     return found;
 }
@@ -174,8 +174,9 @@ Capability sleep(const SessionFacts &facts)
     Capability found{.id = QStringLiteral("sleep"), .name = tr("Sleep and waking")};
     // The clock itself sees a suspend, so nothing is ever missed.
     found.level = facts.hasLogin ? Level::full : Level::degraded;
-    found.reason = facts.hasLogin ? tr("Told by the system")
-                                  : tr("Seen by the clock alone; the screen's lock is not known.");
+    found.reason = facts.hasLogin
+                       ? tr("Told by the system")
+                       : tr("Seen by the clock alone; the screen's lock is not known.");
     return found;
 }
 
@@ -196,8 +197,8 @@ QString textOf(Capability::Level level)
 
 std::vector<Capability> capabilitiesOf(const SessionFacts &facts)
 {
-    return {sessionType(facts), edgePanel(facts), compositing(facts), hotkey(facts),
-            notifications(facts), tray(facts),    secrets(facts),     sound(facts),
+    return {sessionType(facts),   edgePanel(facts), compositing(facts), hotkey(facts),
+            notifications(facts), tray(facts),      secrets(facts),     sound(facts),
             look(facts),          sleep(facts)};
 }
 

@@ -187,7 +187,8 @@ void Desktop::followLook()
 void Desktop::followAutostart()
 {
     m_launchAtLogin = m_model.setting(kLaunchAtLogin);
-    if (m_launchAtLogin == "true" && m_autostart->standing() == Autostart::Standing::turnedOff) {
+    if (m_launchAtLogin == "true" &&
+        m_autostart->standing() == Autostart::Standing::turnedOff) {
         m_launchAtLogin = "false";
         m_model.changeSetting(kLaunchAtLogin, m_launchAtLogin);
     } else if (m_launchAtLogin == "true") {

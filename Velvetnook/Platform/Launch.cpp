@@ -28,8 +28,8 @@ Launch Launch::from(std::span<const char *const> arguments)
             launch.action = QString::fromLocal8Bit(arguments[++index]);
             if (!isDesktopAction(launch.action)) {
                 return {.wish = Wish::misuse,
-                        .problem = QStringLiteral("There is no action \"%1\"")
-                                       .arg(launch.action)};
+                        .problem =
+                            QStringLiteral("There is no action \"%1\"").arg(launch.action)};
             }
         } else {
             return {.wish = Wish::misuse,

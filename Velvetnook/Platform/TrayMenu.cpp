@@ -49,8 +49,8 @@ QString nextPrayerLine(const ApplicationModel &model, const Formatting &formatti
     if (!next) {
         return tr("No prayer times today");
     }
-    return tr("%1 at %2").arg(prayerName(next->prayer),
-                              formatting.timeIn(inputs->calendar, next->at));
+    return tr("%1 at %2")
+        .arg(prayerName(next->prayer), formatting.timeIn(inputs->calendar, next->at));
 }
 
 std::vector<TrayItem> trayMenu(const ApplicationModel &model, const Formatting &formatting,

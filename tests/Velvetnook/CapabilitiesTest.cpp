@@ -52,7 +52,8 @@ TEST(Capabilities, EachLackIsSeenWhereItCountsAndNowhereElse)
     };
     for (const auto &[id, level, spoil] : {
              Case{"edge", Level::degraded, [](auto &facts) { facts.keepsAbove = false; }},
-             Case{"compositing", Level::degraded, [](auto &facts) { facts.composites = false; }},
+             Case{"compositing", Level::degraded,
+                  [](auto &facts) { facts.composites = false; }},
              Case{"notifications", Level::off,
                   [](auto &facts) { facts.hasNotifications = false; }},
              Case{"notifications", Level::degraded,

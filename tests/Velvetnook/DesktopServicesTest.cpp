@@ -52,8 +52,7 @@ TEST(Activation, ASecondStartBringsTheFirstForwardAndNothingIsLostOnTheWay)
     EXPECT_EQ(first.token(), QStringLiteral("a-token"));
     EXPECT_TRUE(wanted.isEmpty()) << "the first is still starting";
     first.begin();
-    EXPECT_EQ(second.claim({.action = QStringLiteral("palette")}),
-              Activation::Start::second);
+    EXPECT_EQ(second.claim({.action = QStringLiteral("palette")}), Activation::Start::second);
     EXPECT_EQ(actionsOf(wanted),
               (std::vector<QString>{QStringLiteral("open"), QStringLiteral("palette")}));
 }
@@ -294,7 +293,10 @@ public:
     }
 
 public slots:
-    QDBusObjectPath GetSessionByPID(uint) { return QDBusObjectPath{QStringLiteral("/session")}; }
+    QDBusObjectPath GetSessionByPID(uint)
+    {
+        return QDBusObjectPath{QStringLiteral("/session")};
+    }
 
 signals:
     void PrepareForSleep(bool isGoingToSleep);
@@ -327,8 +329,8 @@ TEST(Power, WithoutASystemBusSaysSo)
 {
     LoginPower power{noBus()};
     power.begin();
-    EXPECT_TRUE(eventually(
-        [&] { return power.state().availability == Availability::offline; }));
+    EXPECT_TRUE(
+        eventually([&] { return power.state().availability == Availability::offline; }));
 }
 
 TEST(Sounds, WithoutAServerOneIsGivenUpAndTheNextMayTry)
@@ -365,8 +367,8 @@ TEST(Sounds, OursAreReadAndNothingElseIs)
         for (const int damaged : {0, 8, 20, 22, 34, 36}) {
             QByteArray other = bytes;
             other[damaged] = 9;
-            EXPECT_FALSE(readWave(
-                {reinterpret_cast<const std::uint8_t *>(other.constData()), size}))
+            EXPECT_FALSE(
+                readWave({reinterpret_cast<const std::uint8_t *>(other.constData()), size}))
                 << damaged;
         }
     }

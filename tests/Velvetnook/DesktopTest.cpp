@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Velvetnook/Platform/Desktop.h"
+
 #include "FakeNotificationServer.h"
 #include "RunningModel.h"
 #include "Velvetnook/Application/Alarms.h"
@@ -7,7 +9,6 @@
 #include "Velvetnook/Application/PrayerWatch.h"
 #include "Velvetnook/Platform/Autostart.h"
 #include "Velvetnook/Platform/CapabilityList.h"
-#include "Velvetnook/Platform/Desktop.h"
 #include "Velvetnook/Platform/TrayMenu.h"
 
 #include <QSignalSpy>
@@ -65,10 +66,7 @@ protected:
         m_running.settle();
         return std::string{m_running.model().setting("general.launchAtLogin")};
     }
-    std::string status() const
-    {
-        return m_running.state().devotional.notificationStatus;
-    }
+    std::string status() const { return m_running.state().devotional.notificationStatus; }
 
     PrivateBus m_bus;
     RunningModel m_running;
@@ -108,8 +106,8 @@ TEST_F(DesktopTest, AClickOnANotificationOpensWhatItIsAbout)
     begin();
     FakeNotificationServer server{m_bus.connect(), kAll};
     QSignalSpy opened{m_app.panel(), &PanelViewModel::openWanted};
-    emit m_app.alarms().notificationWanted({.id = QStringLiteral("prayer-asr"),
-                                            .title = QStringLiteral("Asr")});
+    emit m_app.alarms().notificationWanted(
+        {.id = QStringLiteral("prayer-asr"), .title = QStringLiteral("Asr")});
     ASSERT_TRUE(eventually([&] { return !server.received().empty(); }));
     settle(m_bus.connect());
     emit server.ActionInvoked(41, QStringLiteral("default"));
@@ -164,8 +162,7 @@ TEST_F(DesktopTest, TheMenuCountsPausesAndSaysWhatIsTrue)
     PrayerWatch prayers{m_running.model()};
     const auto labels = [&] {
         std::vector<std::string> found;
-        for (const TrayItem &item :
-             trayMenu(m_running.model(), *m_app.format(), prayers)) {
+        for (const TrayItem &item : trayMenu(m_running.model(), *m_app.format(), prayers)) {
             found.push_back(item.label.toStdString());
         }
         return found;
@@ -176,10 +173,9 @@ TEST_F(DesktopTest, TheMenuCountsPausesAndSaysWhatIsTrue)
     };
     act("count");
     EXPECT_EQ(m_running.state().devotional.session.count, 21);
-    EXPECT_THAT(labels(),
-                ElementsAre("Open Velvetnook", "Count Subḥāna llāh (21 of 33)", "",
-                            "Asr at 13:48", "Pause reminders for an hour", "", "Settings…",
-                            "Quit"));
+    EXPECT_THAT(labels(), ElementsAre("Open Velvetnook", "Count Subḥāna llāh (21 of 33)", "",
+                                      "Asr at 13:48", "Pause reminders for an hour", "",
+                                      "Settings…", "Quit"));
     act("pause-reminders");
     EXPECT_EQ(labels().at(4), "Resume reminders");
     m_running.pass(Base::Seconds{3601});

@@ -47,8 +47,8 @@ public slots:
     QStringList GetCapabilities() { return m_abilities; }
 
     uint Notify(const QString &, uint replaces, const QString &, const QString &title,
-                const QString &body, const QStringList &actions, const QVariantMap &hints,
-                int, const QDBusMessage &message)
+                const QString &body, const QStringList &actions, const QVariantMap &hints, int,
+                const QDBusMessage &message)
     {
         if (m_refuses) {
             m_bus.send(message.createErrorReply(QDBusError::AccessDenied,

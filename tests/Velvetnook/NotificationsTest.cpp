@@ -19,12 +19,12 @@ using testing::IsEmpty;
 
 const QStringList kAll{QStringLiteral("body"), QStringLiteral("body-markup"),
                        QStringLiteral("actions"), QStringLiteral("sound")};
-const NotificationRequest kReminder{.id = QStringLiteral("kest-remembrance"),
-                                    .title = QStringLiteral("A little remembrance"),
-                                    .body = QStringLiteral("One & <two>\nthree"),
-                                    .actions = {{QStringLiteral("count"),
-                                                 QStringLiteral("Count")}},
-                                    .withSound = true};
+const NotificationRequest kReminder{
+    .id = QStringLiteral("kest-remembrance"),
+    .title = QStringLiteral("A little remembrance"),
+    .body = QStringLiteral("One & <two>\nthree"),
+    .actions = {{QStringLiteral("count"), QStringLiteral("Count")}},
+    .withSound = true};
 
 class NotificationsTest : public testing::Test
 {
@@ -64,13 +64,20 @@ TEST_F(NotificationsTest, SaysOnlyWhatTheServerUnderstands)
     const QStringList actions{QStringLiteral("default"), QStringLiteral("Open"),
                               QStringLiteral("count"), QStringLiteral("Count")};
     for (const auto &[name, abilities, title, body, wanted, hasSoundName] : {
-             Case{"all", kAll, kReminder.title,
-                  QStringLiteral("One &amp; &lt;two&gt;\nthree"), actions, true},
-             Case{"plain text", {QStringLiteral("body")}, kReminder.title, kReminder.body,
-                  {}, false},
-             Case{"titles only", {QStringLiteral("actions")},
-                  QStringLiteral("A little remembrance: One & <two> three"), QString{},
-                  actions, false},
+             Case{"all", kAll, kReminder.title, QStringLiteral("One &amp; &lt;two&gt;\nthree"),
+                  actions, true},
+             Case{"plain text",
+                  {QStringLiteral("body")},
+                  kReminder.title,
+                  kReminder.body,
+                  {},
+                  false},
+             Case{"titles only",
+                  {QStringLiteral("actions")},
+                  QStringLiteral("A little remembrance: One & <two> three"),
+                  QString{},
+                  actions,
+                  false},
          }) {
         SCOPED_TRACE(name);
         m_answers.clear();
@@ -100,8 +107,7 @@ TEST_F(NotificationsTest, AnActionComesBackUnderTheIdOfItsRequest)
     emit server.ActionInvoked(41, QStringLiteral("count"));
     ASSERT_TRUE(eventually([&] { return !invoked.isEmpty(); }));
     EXPECT_EQ(invoked.size(), 1);
-    EXPECT_EQ(invoked.first(),
-              (QVariantList{kReminder.id, QStringLiteral("count")}));
+    EXPECT_EQ(invoked.first(), (QVariantList{kReminder.id, QStringLiteral("count")}));
 }
 
 TEST_F(NotificationsTest, OneWithTheSameIdTakesThePlaceOfTheOneThatIsShown)

@@ -21,11 +21,11 @@ public:
         const QString configuration = m_folder.filePath(QStringLiteral("bus.conf"));
         QFile file{configuration};
         if (file.open(QIODevice::WriteOnly)) {
-            file.write("<busconfig><type>session</type><listen>unix:dir=" +
-                       m_folder.path().toUtf8() +
-                       "</listen><policy context=\"default\"><allow send_destination=\"*\" "
-                       "eavesdrop=\"true\"/><allow eavesdrop=\"true\"/><allow own=\"*\"/>"
-                       "</policy></busconfig>");
+            file.write(
+                "<busconfig><type>session</type><listen>unix:dir=" + m_folder.path().toUtf8() +
+                "</listen><policy context=\"default\"><allow send_destination=\"*\" "
+                "eavesdrop=\"true\"/><allow eavesdrop=\"true\"/><allow own=\"*\"/>"
+                "</policy></busconfig>");
             file.close();
         }
         m_daemon.setStandardErrorFile(QProcess::nullDevice());

@@ -74,8 +74,8 @@ protected:
     QDBusMessage ask(const QString &path, const QString &interface, const QString &method,
                      const QVariantList &arguments)
     {
-        auto call = QDBusMessage::createMethodCall(m_ours.baseService(), path, interface,
-                                                   method);
+        auto call =
+            QDBusMessage::createMethodCall(m_ours.baseService(), path, interface, method);
         call.setArguments(arguments);
         QDBusPendingCallWatcher watcher{m_host.asyncCall(call)};
         eventually([&] { return watcher.isFinished(); });
@@ -84,14 +84,14 @@ protected:
     QVariant property(const QString &name)
     {
         const auto reply =
-            ask(kItem, QStringLiteral("org.freedesktop.DBus.Properties"),
-                QStringLiteral("Get"), {QStringLiteral("org.kde.StatusNotifierItem"), name});
+            ask(kItem, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"),
+                {QStringLiteral("org.kde.StatusNotifierItem"), name});
         return reply.arguments().value(0).value<QDBusVariant>().variant();
     }
     MenuLayout layout()
     {
-        const auto reply = ask(kMenu, kMenuInterface, QStringLiteral("GetLayout"),
-                               {0, -1, QStringList{}});
+        const auto reply =
+            ask(kMenu, kMenuInterface, QStringLiteral("GetLayout"), {0, -1, QStringList{}});
         return qdbus_cast<MenuLayout>(reply.arguments().value(1));
     }
     void pick(int id)
@@ -109,20 +109,20 @@ protected:
 TEST_F(TrayTest, RegistersWheneverAWatcherAppearsAndSaysWhenThereIsNone)
 {
     m_tray.begin();
-    ASSERT_TRUE(eventually(
-        [&] { return m_tray.state().availability == Availability::offline; }));
+    ASSERT_TRUE(
+        eventually([&] { return m_tray.state().availability == Availability::offline; }));
     EXPECT_EQ(m_tray.state().message, QStringLiteral("There is no tray in this session."));
     for (const char *round : {"the first", "after a restart"}) {
         SCOPED_TRACE(round);
         auto watcher = std::make_unique<FakeWatcher>(m_bus.connect(), false);
-        ASSERT_TRUE(eventually(
-            [&] { return m_tray.state().availability == Availability::empty; }));
+        ASSERT_TRUE(
+            eventually([&] { return m_tray.state().availability == Availability::empty; }));
         EXPECT_EQ(watcher->items().size(), 1);
         watcher->addHost();
         ASSERT_TRUE(eventually([&] { return m_tray.state().isReady(); }));
         watcher.reset();
-        ASSERT_TRUE(eventually(
-            [&] { return m_tray.state().availability == Availability::offline; }));
+        ASSERT_TRUE(
+            eventually([&] { return m_tray.state().availability == Availability::offline; }));
     }
 }
 
@@ -130,11 +130,11 @@ TEST_F(TrayTest, ShowsItsPictureAndWhatItSays)
 {
     m_tray.begin();
     m_tray.show({}, QStringLiteral("Asr at 13:48"));
-    const auto pixmaps =
-        qdbus_cast<QList<TrayPixmap>>(property(QStringLiteral("IconPixmap")));
+    const auto pixmaps = qdbus_cast<QList<TrayPixmap>>(property(QStringLiteral("IconPixmap")));
     ASSERT_EQ(pixmaps.size(), 1);
     EXPECT_EQ(pixmaps.first().width, 2);
-    EXPECT_EQ(pixmaps.first().pixels, QByteArray::fromHex("ff010203" "80ff0000"));
+    EXPECT_EQ(pixmaps.first().pixels, QByteArray::fromHex("ff010203"
+                                                          "80ff0000"));
     EXPECT_EQ(qdbus_cast<TrayToolTip>(property(QStringLiteral("ToolTip"))).text,
               QStringLiteral("Asr at 13:48"));
     EXPECT_EQ(property(QStringLiteral("Menu")).value<QDBusObjectPath>().path(), kMenu);

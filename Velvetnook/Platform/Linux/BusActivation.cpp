@@ -37,9 +37,8 @@ QVariantMap ownPlatformData()
 
 bool isDesktopAction(const QString &name)
 {
-    return std::ranges::any_of(kDesktopActions, [&](const char *known) {
-        return name == QLatin1String{known};
-    });
+    return std::ranges::any_of(kDesktopActions,
+                               [&](const char *known) { return name == QLatin1String{known}; });
 }
 
 BusActivation::BusActivation(const QDBusConnection &bus, QString name, QObject *parent)
@@ -68,9 +67,9 @@ BusActivation::Start BusActivation::claim(const Launch &launch)
     }
     // The object first: whoever sees the name may call it at once.
     m_bus.registerObject(pathOf(m_name), this, QDBusConnection::ExportAdaptors);
-    const auto reply = m_bus.interface()->registerService(
-        m_name, QDBusConnectionInterface::DontQueueService,
-        QDBusConnectionInterface::DontAllowReplacement);
+    const auto reply =
+        m_bus.interface()->registerService(m_name, QDBusConnectionInterface::DontQueueService,
+                                           QDBusConnectionInterface::DontAllowReplacement);
     if (!reply.isValid()) {
         return Start::undecided;
     }
@@ -111,8 +110,7 @@ bool BusActivation::askHolder(const Launch &launch)
 
 void BusActivation::ask(const QString &action, const QVariantMap &platformData)
 {
-    const QString startup =
-        platformData.value(QStringLiteral("desktop-startup-id")).toString();
+    const QString startup = platformData.value(QStringLiteral("desktop-startup-id")).toString();
     m_token = platformData.value(QStringLiteral("activation-token"), startup).toString();
     if (m_hasBegun) {
         emit actionWanted(action);

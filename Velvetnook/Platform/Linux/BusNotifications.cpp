@@ -193,8 +193,14 @@ QVariantList BusNotifications::arguments(const NotificationRequest &request,
     } else if (!m_abilities.contains(u"body") && !body.isEmpty()) {
         title += QStringLiteral(": ") + std::exchange(body, {}).replace(u'\n', u' ');
     }
-    return {QStringLiteral("Velvetnook"), replaces, m_desktopEntry, title, body, actions,
-            hints,                        -1};
+    return {QStringLiteral("Velvetnook"),
+            replaces,
+            m_desktopEntry,
+            title,
+            body,
+            actions,
+            hints,
+            -1};
 }
 
 void BusNotifications::withdraw(const QString &id)

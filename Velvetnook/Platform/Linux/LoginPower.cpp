@@ -55,8 +55,8 @@ void LoginPower::followSession(const QString &path)
 {
     m_bus.connect(kService, path, kProperties, QStringLiteral("PropertiesChanged"), this,
                   SLOT(hearProperties(QString, QVariantMap)));
-    auto call = QDBusMessage::createMethodCall(kService, path, kProperties,
-                                               QStringLiteral("Get"));
+    auto call =
+        QDBusMessage::createMethodCall(kService, path, kProperties, QStringLiteral("Get"));
     call << kSession << QStringLiteral("LockedHint");
     askBus<QDBusPendingReply<QDBusVariant>>(
         m_bus, call, this, [this](const QDBusPendingReply<QDBusVariant> &reply) {

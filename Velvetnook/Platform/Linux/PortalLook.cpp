@@ -40,8 +40,8 @@ void PortalLook::begin() { read(); }
 
 void PortalLook::read()
 {
-    auto call = QDBusMessage::createMethodCall(kService, kPath, kInterface,
-                                               QStringLiteral("ReadAll"));
+    auto call =
+        QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("ReadAll"));
     call << QStringList{kAppearance, kGnome, kGnomeAccess};
     askBus<QDBusPendingReply<Groups>>(
         m_bus, call, this, [this](const QDBusPendingReply<Groups> &reply) {

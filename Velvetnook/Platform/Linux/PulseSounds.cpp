@@ -31,8 +31,8 @@ void PulseSounds::play(Sound sound)
     m_player->ask([sound](Player &player) { return playNow(player, sound); }, onMainThread,
                   [this](const Base::Result<void> &result) {
                       m_isPlaying = false;
-                      m_problem = result ? QString{}
-                                         : QString::fromStdString(result.error().message);
+                      m_problem =
+                          result ? QString{} : QString::fromStdString(result.error().message);
                       emit played(m_problem);
                   });
 }
@@ -47,9 +47,8 @@ Base::Result<void> PulseSounds::playNow(Player &player, Sound sound)
         }
         player.module = reinterpret_cast<PlaySound *>(*symbol);
     }
-    QFile file{sound == Sound::completion
-                   ? QStringLiteral(":/velvetnook/sounds/completion.wav")
-                   : QStringLiteral(":/velvetnook/sounds/reminder.wav")};
+    QFile file{sound == Sound::completion ? QStringLiteral(":/velvetnook/sounds/completion.wav")
+                                          : QStringLiteral(":/velvetnook/sounds/reminder.wav")};
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("unable to find our own sounds");
     }
@@ -70,7 +69,8 @@ QString PulseSounds::server()
     if (!named.isEmpty()) {
         return named;
     }
-    const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QLatin1String{"/pulse/native"};
+    const QString socket =
+        qEnvironmentVariable("XDG_RUNTIME_DIR") + QLatin1String{"/pulse/native"};
     return QFileInfo::exists(socket) ? socket : QString{};
 }
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "Base/Serial.h"
-#include "Velvetnook/Platform/Sounds.h"
 #include "Velvetnook/Platform/Sound/SoundOutput.h"
+#include "Velvetnook/Platform/Sounds.h"
 
 #include <memory>
 

@@ -56,11 +56,11 @@ public:
     std::string property(xcb_window_t window, std::string_view name) const
     {
         constexpr std::uint32_t kMostWords = 4096;
-        const Reply<xcb_get_property_reply_t> reply{xcb_get_property_reply(
-            m_connection.get(),
-            xcb_get_property(m_connection.get(), 0, window, atom(name), XCB_ATOM_ANY, 0,
-                             kMostWords),
-            nullptr)};
+        const Reply<xcb_get_property_reply_t> reply{
+            xcb_get_property_reply(m_connection.get(),
+                                   xcb_get_property(m_connection.get(), 0, window, atom(name),
+                                                    XCB_ATOM_ANY, 0, kMostWords),
+                                   nullptr)};
         if (!reply) {
             return {};
         }

@@ -74,15 +74,12 @@ public:
 private:
     bool connect()
     {
-        m_context.reset(
-            pa_context_new(pa_mainloop_get_api(m_loop.get()), "Velvetnook"));
-        if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) <
-            0) {
+        m_context.reset(pa_context_new(pa_mainloop_get_api(m_loop.get()), "Velvetnook"));
+        if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
             return false;
         }
-        return waitUntil([this] {
-            return pa_context_get_state(m_context.get()) == PA_CONTEXT_READY;
-        });
+        return waitUntil(
+            [this] { return pa_context_get_state(m_context.get()) == PA_CONTEXT_READY; });
     }
 
     bool openStream(std::uint32_t rate)
@@ -102,8 +99,8 @@ private:
     bool waitUntil(Condition isThere)
     {
         while (!isThere()) {
-            const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
-                m_end - Clock::now());
+            const auto left =
+                std::chrono::duration_cast<std::chrono::milliseconds>(m_end - Clock::now());
             const bool isBroken =
                 !PA_CONTEXT_IS_GOOD(pa_context_get_state(m_context.get())) ||
                 (m_stream && !PA_STREAM_IS_GOOD(pa_stream_get_state(m_stream.get())));

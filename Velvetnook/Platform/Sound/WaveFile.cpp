@@ -49,9 +49,9 @@ Base::Result<SoundSamples> readWave(std::span<const std::uint8_t> bytes)
         head.dataSize > body.size() || head.dataSize % 2 != 0) {
         return refuse();
     }
-    return SoundSamples{.rate = head.rate,
-                        .samples = {reinterpret_cast<const std::int16_t *>(body.data()),
-                                    head.dataSize / 2}};
+    return SoundSamples{
+        .rate = head.rate,
+        .samples = {reinterpret_cast<const std::int16_t *>(body.data()), head.dataSize / 2}};
 }
 
 } // namespace Velvetnook
