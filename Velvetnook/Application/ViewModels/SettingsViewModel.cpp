@@ -44,11 +44,11 @@ Pages allPages()
         {"prayer", "prayer", 1, SettingsViewModel::tr("Prayer"),
          SettingsViewModel::tr("place city location method asr latitude hijri adjust times")},
         {"tools", "grid", 2, SettingsViewModel::tr("Tools"),
-         View::tr("order favourites tabs header")},
+         SettingsViewModel::tr("order favourites tabs header")},
         {"data", "database", 3, SettingsViewModel::tr("Data & backup"),
          SettingsViewModel::tr("export import clear history reset folder file")},
         {"about", "info", 3, SettingsViewModel::tr("About"),
-         View::tr("version licence capabilities")},
+         SettingsViewModel::tr("version licence capabilities")},
     };
 }
 
