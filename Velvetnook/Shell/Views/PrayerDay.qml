@@ -11,6 +11,7 @@ FocusScope {
 
     Column {
         visible: App.prayer.hasNext && App.prayer.hasTimes
+        anchors.left: parent.left
         y: 13
         width: 136
         Accessible.role: Accessible.StaticText
@@ -71,7 +72,7 @@ FocusScope {
     }
     Row {
         visible: !App.prayer.hasTimes
-        y: 0
+        anchors.left: parent.left
         height: 140
         width: 438
         spacing: 14

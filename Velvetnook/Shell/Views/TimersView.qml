@@ -73,6 +73,7 @@ FocusScope {
     TimerFigure {
         id: figure
 
+        anchors.left: parent.left
         width: 232
         height: parent.height
         focus: root.setId === ""
