@@ -60,6 +60,12 @@ QString dayText(Base::Instant instant, const ApplicationModel &model,
                                        formatting.digits(QString::number(year)));
 }
 
+QString wordingOf(const Formatting &formatting)
+{
+    constexpr Base::Instant kAfternoon{Base::Seconds{50'000.0}};
+    return formatting.date(kAfternoon) + formatting.time(kAfternoon);
+}
+
 QString islamicDateText(const ApplicationModel &model, const Formatting &formatting)
 {
     const auto offset = Base::numberFrom<int>(model.setting("prayer.islamicDayOffset"));

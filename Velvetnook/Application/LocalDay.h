@@ -26,6 +26,9 @@ QString weekdayLetter(Base::Instant instant, const KestCore::Calendar &calendar,
 QString dayText(Base::Instant instant, const ApplicationModel &model,
                 const Formatting &formatting);
 
+// Another text whenever the same day, time or number would be put into other words.
+QString wordingOf(const Formatting &formatting);
+
 // Today's Islamic date, moved by as many days as "prayer.islamicDayOffset" says.
 QString islamicDateText(const ApplicationModel &model, const Formatting &formatting);
 

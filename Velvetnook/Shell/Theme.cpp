@@ -226,6 +226,16 @@ void Theme::follow()
     if (!m_tokens[u"accent"].toObject().contains(accent)) {
         accent = QStringLiteral("sage");
     }
+    // Every count changes the state; to go through the colours each time would hold it up.
+    const Look look{.isDark = m_isDark,
+                    .reducedMotion = m_reducedMotion,
+                    .moreContrast = m_moreContrast,
+                    .phraseScale = phraseScale(),
+                    .accent = accent};
+    if (m_look == look) {
+        return;
+    }
+    m_look = look;
     fillColours(m_color, m_isDark ? QStringLiteral("dark") : QStringLiteral("light"), accent);
     fillColours(m_onStrip, QStringLiteral("dark"), accent);
     emit changed();

@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QQmlPropertyMap>
 
+#include <optional>
+
 class QQuickTextDocument;
 
 namespace Velvetnook
@@ -74,6 +76,17 @@ signals:
     void changed();
 
 private:
+    // What the colours and the motion come from.
+    struct Look {
+        bool isDark{};
+        bool reducedMotion{};
+        bool moreContrast{};
+        qreal phraseScale{};
+        QString accent{};
+
+        bool operator==(const Look &) const = default;
+    };
+
     void follow();
     void fillFonts();
     void fillColours(QQmlPropertyMap &into, const QString &theme, const QString &accent);
@@ -91,6 +104,7 @@ private:
     bool m_desktopIsDark = true;
     bool m_desktopReducesMotion = false;
     bool m_moreContrast = false;
+    std::optional<Look> m_look; // that the colours were filled for
     bool m_isDark = true;
     bool m_reducedMotion = false;
 };

@@ -11,9 +11,10 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <memory>
-#include <optional>
 
 // The application's model over a real store, at a time of the test's choosing, in London.
 class RunningModel
@@ -28,14 +29,16 @@ public:
     {
         startQt();
         auto store = KestCore::StateStore::open(m_folder.database()).value();
-        if (prepare) {
-            store
-                .change([&](KestCore::NativeState &state) -> Base::Result<void> {
+        store
+            .change([&](KestCore::NativeState &state) -> Base::Result<void> {
+                if (prepare) {
                     prepare(state);
-                    return {};
-                })
-                .value();
-        }
+                }
+                state.settings["appearance.language"] = "en";
+                state.settings["appearance.clock"] = "24";
+                return {};
+            })
+            .value();
         open(std::move(store));
     }
 
@@ -104,10 +107,10 @@ private:
     void open(KestCore::StateStore store)
     {
         auto first = Velvetnook::committedAll(store.snapshot().value());
-        m_model.emplace(
+        m_model = std::make_unique<Velvetnook::ApplicationModel>(
             std::make_unique<Velvetnook::StateKeeper>(m_folder.database(), std::move(store)),
             std::move(first), [this] { return m_now; });
-        m_formatting.emplace(*m_model);
+        m_formatting = std::make_unique<Velvetnook::Formatting>(*m_model);
     }
 
     static void startQt()
@@ -124,6 +127,6 @@ private:
 
     TemporaryFolder m_folder;
     Base::Instant m_now = kStart;
-    std::optional<Velvetnook::ApplicationModel> m_model;
-    std::optional<Velvetnook::Formatting> m_formatting;
+    std::unique_ptr<Velvetnook::ApplicationModel> m_model;
+    std::unique_ptr<Velvetnook::Formatting> m_formatting;
 };

@@ -29,14 +29,14 @@ struct Message {
 Message readMessage(QXmlStreamReader &xml, const QString &context)
 {
     Message message{.context = context,
-                    .isPlural = xml.attributes().value(u"numerus") == u"yes"};
+                    .isPlural = xml.attributes().value(QLatin1String{"numerus"}) == u"yes"};
     while (xml.readNextStartElement()) {
         if (xml.name() == u"source") {
             message.source = xml.readElementText();
         } else if (xml.name() == u"comment") {
             message.comment = xml.readElementText();
         } else if (xml.name() == u"translation") {
-            message.isUnfinished = xml.attributes().hasAttribute(u"type");
+            message.isUnfinished = xml.attributes().hasAttribute(QLatin1String{"type"});
             if (message.isPlural) {
                 while (xml.readNextStartElement()) {
                     message.forms.append(xml.readElementText());

@@ -34,7 +34,7 @@ HistoryViewModel::HistoryViewModel(ApplicationModel &model, const Formatting &fo
     : QObject{parent}, m_model{model}, m_formatting{formatting}, m_sessions{model, formatting},
       m_records{model.state().devotional.records},
       m_isOff{!model.state().devotional.preferences.historyEnabled},
-      m_digits{formatting.number(1)}
+      m_wording{wordingOf(formatting)}
 {
     connect(&m_model, &ApplicationModel::stateChanged, this, &HistoryViewModel::follow);
     connect(&m_model, &ApplicationModel::calendarChanged, this, &HistoryViewModel::reword);
@@ -44,10 +44,11 @@ HistoryViewModel::HistoryViewModel(ApplicationModel &model, const Formatting &fo
 void HistoryViewModel::follow()
 {
     const auto &devotional = m_model.state().devotional;
-    if (m_digits != m_formatting.number(1)) {
-        m_digits = m_formatting.number(1);
+    if (const QString wording = wordingOf(m_formatting); wording != m_wording) {
+        m_wording = wording;
         m_sessions.reword();
         emit changed();
+        emit sessionsChanged();
     }
     const bool isOff = !devotional.preferences.historyEnabled;
     const bool hasOthers = !devotional.records.sharesBlockWith(m_records);

@@ -67,7 +67,7 @@ private:
     HistoryPeriod m_period = HistoryPeriod::today;
     bool m_byPhrase = false;
     bool m_isOff = false;
-    QString m_digits;
+    QString m_wording;
     std::uint64_t m_generation = 0; // of the adding up that is under way
 };
 

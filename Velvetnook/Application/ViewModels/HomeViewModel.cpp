@@ -9,6 +9,7 @@
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/HomeCards.h"
 #include "Velvetnook/Application/LocalDay.h"
+#include "Velvetnook/Application/PrayerWatch.h"
 
 #include <QVariantMap>
 
@@ -109,6 +110,9 @@ void HomeViewModel::followPrayer()
     }
     m_prayerCalendar = inputs->calendar;
     m_next = KestCore::PrayerCalculator::next(*inputs, m_model.now());
+    if (m_next && m_next->prayer == PrayerCore::Prayer::sunrise) { // which is no prayer
+        m_next = KestCore::PrayerCalculator::next(*inputs, m_next->at);
+    }
     m_prayerMessage = m_next ? QString{} : tr("No times on this date here.");
 }
 
@@ -166,24 +170,7 @@ QString HomeViewModel::counterNote() const
 
 QString HomeViewModel::prayerTitle() const
 {
-    if (!m_next) {
-        return tr("Prayer");
-    }
-    switch (m_next->prayer) {
-    case PrayerCore::Prayer::fajr:
-        return tr("Fajr");
-    case PrayerCore::Prayer::sunrise:
-        return tr("Sunrise");
-    case PrayerCore::Prayer::dhuhr:
-        return tr("Dhuhr");
-    case PrayerCore::Prayer::asr:
-        return tr("Asr");
-    case PrayerCore::Prayer::maghrib:
-        return tr("Maghrib");
-    case PrayerCore::Prayer::isha:
-        break;
-    }
-    return tr("Isha");
+    return m_next ? prayerName(m_next->prayer) : tr("Prayer");
 }
 
 QVariantList HomeViewModel::prayerLeft() const

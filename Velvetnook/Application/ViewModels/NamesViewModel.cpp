@@ -6,6 +6,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CounterSteps.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/LocalDay.h"
 
 #include <algorithm>
 #include <array>
@@ -38,7 +39,7 @@ NamesViewModel::NamesViewModel(ApplicationModel &model, const Formatting &format
                                QObject *parent)
     : QObject{parent}, m_model{model}, m_formatting{formatting}, m_list{formatting},
       m_current{&nameOf(KestCore::nameOfTheDay(model.now(), model.calendar()))},
-      m_digits{formatting.number(1)}
+      m_wording{wordingOf(formatting)}
 {
     connect(&m_model, &ApplicationModel::stateChanged, this, &NamesViewModel::follow);
     connect(&m_model, &ApplicationModel::calendarChanged, this,
@@ -51,8 +52,8 @@ void NamesViewModel::follow()
     if (m_tab == Tab::favourites) {
         showList();
     }
-    if (m_digits != m_formatting.number(1)) {
-        m_digits = m_formatting.number(1);
+    if (const QString wording = wordingOf(m_formatting); wording != m_wording) {
+        m_wording = wording;
         m_list.reword();
         emit listChanged();
         emit currentChanged();

@@ -112,7 +112,7 @@ private:
     QString m_tool;
     QString m_query;
     const KestCore::Phrase *m_current; // of the catalogue, which never goes
-    QString m_digits;
+    QString m_wording;
 };
 
 } // namespace Velvetnook

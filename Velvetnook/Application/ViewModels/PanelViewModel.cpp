@@ -69,10 +69,27 @@ PanelViewModel::PanelViewModel(ApplicationModel &model, const Formatting &, QObj
     };
     connect(&model, &ApplicationModel::said, this, say);
     connect(&model, &ApplicationModel::failed, this, say);
-    connect(&model, &ApplicationModel::stateChanged, this, &PanelViewModel::tabsChanged);
+    connect(&model, &ApplicationModel::stateChanged, this, &PanelViewModel::followState);
     model.clock().add(
         this, [this](Base::Instant) { return m_messageEnd; },
         [this](Base::Instant) { dropMessage(); });
+}
+
+// Every count changes the state; to draw the tabs anew each time would hold up its number.
+void PanelViewModel::followState()
+{
+    const KestCore::NativeState &state = m_model.state();
+    QStringList seen{tr("All tools"), isFrosted() ? QStringLiteral("frosted") : QString{}};
+    for (const auto *list : {&state.navigationFavorites, &state.order}) {
+        for (const std::string &id : *list) {
+            seen.append(QString::fromStdString(id));
+        }
+        seen.append(QString{});
+    }
+    if (seen != m_seen) {
+        m_seen = std::move(seen);
+        emit tabsChanged();
+    }
 }
 
 QString PanelViewModel::chosenTab() const

@@ -99,10 +99,12 @@ signals:
 
 private:
     QStringList tabIds() const;
+    void followState();
     void show(const QString &id);
     void dropMessage();
 
     ApplicationModel &m_model;
+    QStringList m_seen; // what the tabs and the tools were worked out from
     QString m_tool;
     QString m_before; // the tool that the list of all tools covers
     int m_direction = 1;

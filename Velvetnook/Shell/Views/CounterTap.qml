@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
 import QtQuick
+import QtQuick.Templates as T
 import Velvetnook.Application
 import Velvetnook.Shell
 
 // The ring with its number. A press anywhere on the square counts, at once.
-FocusScope {
+T.Control {
     id: root
 
     readonly property bool isInert: App.counter.isPaused
@@ -25,7 +26,7 @@ FocusScope {
         return counts;
     }
 
-    activeFocusOnTab: true
+    focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
     Accessible.name: qsTr("Count %1", "@action:button").arg(App.counter.title)
     Accessible.description: App.counter.progress
@@ -67,7 +68,7 @@ FocusScope {
         }
     }
     Rectangle {
-        visible: root.activeFocus && keyboard.isUsed
+        visible: root.visualFocus
         anchors.centerIn: parent
         width: 168
         height: 168
@@ -83,15 +84,8 @@ FocusScope {
         hoverEnabled: true
         cursorShape: root.isInert ? Qt.ArrowCursor : Qt.PointingHandCursor
         onPressed: {
-            keyboard.isUsed = false;
             root.forceActiveFocus(Qt.MouseFocusReason);
             root.count();
         }
-    }
-    // The ring of the focus is for those who came by keyboard.
-    QtObject {
-        id: keyboard
-
-        property bool isUsed: false
     }
 }

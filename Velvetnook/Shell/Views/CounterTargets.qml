@@ -46,7 +46,9 @@ FocusScope {
         ListView {
             id: saved
 
-            width: Math.min(contentWidth, root.width - open.width - more.width - 12)
+            readonly property real room: root.width - open.width - more.width - 12
+
+            width: contentWidth > 0 ? Math.min(contentWidth, room) : room
             height: 30
             orientation: ListView.Horizontal
             spacing: 6

@@ -68,7 +68,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: 4
         anchors.verticalCenter: parent.verticalCenter
-        width: 40
+        width: Math.max(40, implicitWidth)
         role: "note"
         text: root.time
         color: Theme.color.text3

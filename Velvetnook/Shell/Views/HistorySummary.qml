@@ -43,6 +43,7 @@ Item {
         y: 76
         anchors.left: parent.left
         role: "numeralLarge"
+        pixelSize: Math.min(46, Math.floor(196 / (text.length * 0.56)))
         text: App.history.total
     }
     Txt {

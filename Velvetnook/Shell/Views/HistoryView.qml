@@ -8,7 +8,7 @@ import Velvetnook.Shell
 Item {
     id: root
 
-    readonly property Item mainItem: sessions
+    readonly property Item mainItem: sessions.visible ? sessions : null
     readonly property string footerText: App.history.footer
     readonly property string footerLink: App.history.isOff ? qsTr("Counter settings…") : ""
     readonly property var footerKeys: [{key: "H", text: qsTr("back to the counter")}]
@@ -21,6 +21,12 @@ Item {
             App.panel.openTool("dhikr");
             event.accepted = true;
         }
+    }
+
+    // What loses the focus by going out of sight must not take the keys with it.
+    Connections {
+        target: App.history
+        function onByPhraseChanged() { root.forceActiveFocus(Qt.OtherFocusReason); }
     }
 
     implicitWidth: 600

@@ -21,7 +21,7 @@ Item {
     Binding {
         target: App.home
         property: "isShown"
-        value: root.visible
+        value: root.visible && root.Window.visibility !== Window.Hidden
     }
     Component.onDestruction: App.home.isShown = false
 
