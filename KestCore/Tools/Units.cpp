@@ -15,6 +15,10 @@
 template Base::Result<KestCore::UnitConversion>
 Base::json::decode<KestCore::UnitConversion>(const Base::json::PaddedText &);
 template Base::Result<std::string> Base::json::encode(const KestCore::UnitConversion &);
+template Base::Result<std::vector<KestCore::UnitConversion>>
+Base::json::decode<std::vector<KestCore::UnitConversion>>(const Base::json::PaddedText &);
+template Base::Result<std::string>
+Base::json::encode(const std::vector<KestCore::UnitConversion> &);
 
 namespace KestCore
 {

@@ -96,10 +96,10 @@ void DueClock::arm()
         }
     }
     // Without an alarm one far away stands in, so that a set clock is still seen.
-    const double now = m_now().time_since_epoch().count();
-    const double wanted = first ? first->time_since_epoch().count() : now + 86'400.0;
-    // What is due already comes with the next round of the loop, never in a tight circle.
-    const double at = std::max(wanted, now + 0.001);
+    const double wait = first ? (*first - m_now()).count() : 86'400.0;
+    // The system's clock, as a test's own may tell another time. What is due already comes with
+    // the next round of the loop, never in a tight circle.
+    const double at = Base::wallClock().time_since_epoch().count() + std::max(wait, 0.001);
     double whole = 0;
     const double fraction = std::modf(at, &whole);
     const itimerspec alarm{.it_interval = {},

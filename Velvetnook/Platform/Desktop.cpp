@@ -70,11 +70,12 @@ std::unique_ptr<Autostart> autostartOfUser()
 Desktop::Desktop(App &app, ApplicationModel &model, QObject *parent)
     : Desktop{app,
               model,
-              QDBusConnection::sessionBus(),
-              QDBusConnection::systemBus(),
+              QDBusConnection{QString{}},
+              QDBusConnection{QString{}},
               autostartOfUser(),
               parent}
 {
+    m_joinsBuses = true;
 }
 
 Desktop::Desktop(App &app, ApplicationModel &model, const QDBusConnection &session,
@@ -91,6 +92,10 @@ void Desktop::begin()
 {
     if (m_notifications != nullptr) {
         return;
+    }
+    if (m_joinsBuses) {
+        m_session = QDBusConnection::sessionBus();
+        m_system = QDBusConnection::systemBus();
     }
     m_power = new LoginPower{m_system, this};
     connect(m_power, &LoginPower::resumed, &m_model.clock(), &DueClock::reschedule);

@@ -35,7 +35,7 @@ class Desktop : public QObject
     Q_OBJECT
 
 public:
-    // On the buses of this session.
+    // On the buses of this session, which are joined by `begin`.
     Desktop(App &app, ApplicationModel &model, QObject *parent = nullptr);
     Desktop(App &app, ApplicationModel &model, const QDBusConnection &session,
             const QDBusConnection &system, std::unique_ptr<Autostart> autostart,
@@ -75,6 +75,7 @@ private:
     ApplicationModel &m_model;
     QDBusConnection m_session;
     QDBusConnection m_system;
+    bool m_joinsBuses = false;
     std::unique_ptr<Autostart> m_autostart;
     std::string m_launchAtLogin; // the setting as it was carried out
     QSet<QString> m_withSound;   // notifications that we play a sound for once they are shown

@@ -129,8 +129,9 @@ void giveFocusTo(quint32 window)
     const auto looks = Xcb::reply(xcb_get_window_attributes_reply, server,
                                   xcb_get_window_attributes(server, window));
     const bool isThere = looks && looks->map_state == XCB_MAP_STATE_VIEWABLE;
+    constexpr xcb_window_t kWhereThePointerIs = XCB_INPUT_FOCUS_POINTER_ROOT;
     xcb_set_input_focus(server, XCB_INPUT_FOCUS_POINTER_ROOT,
-                        isThere ? window : XCB_INPUT_FOCUS_POINTER_ROOT, XCB_CURRENT_TIME);
+                        isThere ? window : kWhereThePointerIs, XCB_CURRENT_TIME);
     xcb_flush(server);
 }
 

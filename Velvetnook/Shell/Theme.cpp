@@ -139,6 +139,13 @@ void Theme::fillColours(QQmlPropertyMap &into, const QString &theme, const QStri
     }
 }
 
+QColor Theme::accentOf(const QString &accent) const
+{
+    const QString theme = m_isDark ? QStringLiteral("dark") : QStringLiteral("light");
+    const QJsonObject tones = m_tokens[u"accent"].toObject()[accent].toObject();
+    return QColor{tones[theme].toObject()[u"accent"].toString()};
+}
+
 qreal Theme::outline()
 {
     const qreal ratio = qApp->devicePixelRatio();

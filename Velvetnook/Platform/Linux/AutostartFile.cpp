@@ -45,9 +45,10 @@ std::string asWord(const std::string &text)
 
 } // namespace
 
-AutostartFile::AutostartFile(std::filesystem::path folder, const std::string &name,
+AutostartFile::AutostartFile(std::filesystem::path folder, std::string name,
                              std::filesystem::path program)
-    : m_file{std::move(folder) / (name + ".desktop")}, m_program{std::move(program)}
+    : m_name{std::move(name)}, m_file{std::move(folder) / (m_name + ".desktop")},
+      m_program{std::move(program)}
 {
 }
 
@@ -103,7 +104,9 @@ std::string AutostartFile::text() const
            "TryExec=" +
            asValue(program) +
            "\n"
-           "Icon=app.kest.native\n"
+           "Icon=" +
+           m_name +
+           "\n"
            "Terminal=false\n"
            "X-GNOME-Autostart-enabled=true\n";
 }

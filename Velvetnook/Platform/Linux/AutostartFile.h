@@ -15,7 +15,7 @@ class AutostartFile : public Autostart
 {
 public:
     // `name` without its ending; `program` is the whole path of what is started.
-    AutostartFile(std::filesystem::path folder, const std::string &name,
+    AutostartFile(std::filesystem::path folder, std::string name,
                   std::filesystem::path program);
 
     Standing standing() const override;
@@ -28,6 +28,7 @@ public:
 private:
     std::string text() const;
 
+    std::string m_name;
     std::filesystem::path m_file;
     std::filesystem::path m_program;
 };

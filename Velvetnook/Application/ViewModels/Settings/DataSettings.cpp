@@ -21,6 +21,10 @@ namespace
 
 using KestCore::StateStore;
 
+// Written out below, as the translators' tool reads only what stands in a call.
+static_assert(KestCore::kReplaceTitle == "Replace local data?");
+static_assert(KestCore::kReplaceText == "This replaces devotional and portable tool data.");
+
 constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
 
 struct Exported {
@@ -99,7 +103,7 @@ QUrl DataSettings::suggestedFile() const
 QString DataSettings::questionTitle() const
 {
     if (m_question == QLatin1String{"import"}) {
-        return tr(KestCore::kReplaceTitle.data());
+        return tr("Replace local data?");
     }
     return m_question == QLatin1String{"clear"} ? tr("Clear the history?")
                                                 : tr("Reset everything?");
@@ -223,7 +227,7 @@ void DataSettings::askToImport(const Reading &reading)
     const KestCore::Backup &backup = *m_backup;
     const auto number = [this](std::int64_t value) { return m_formatting.number(value); };
     m_importBody =
-        tr(KestCore::kReplaceText.data()) + u'\n' +
+        tr("This replaces devotional and portable tool data.") + u'\n' +
         tr("Records: %1 here, %2 in the backup. Finished sessions: %3 here, %4 in the backup.")
             .arg(number(reading.recordsHere), number(sum(backup.recordCounts())),
                  number(reading.sessionsHere),
