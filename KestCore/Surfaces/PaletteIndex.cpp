@@ -136,7 +136,6 @@ std::string paletteForm(std::string_view text)
 
 std::uint32_t PaletteIndex::add(const PaletteText &text)
 {
-    m_formerForm.clear();
     Item item{.begin = static_cast<std::uint32_t>(m_text.size())};
     m_text.append(paletteForm(text.title)).append("\n");
     for (const std::string &name : text.names) {
@@ -155,7 +154,6 @@ void PaletteIndex::truncate(std::uint32_t first)
     if (first >= size()) {
         return;
     }
-    m_formerForm.clear();
     m_text.resize(m_items[first].begin);
     m_items.resize(first);
     m_letters.resize(first);
@@ -204,7 +202,7 @@ std::uint64_t PaletteIndex::rankOf(const Query &query, std::uint32_t number) con
            number;
 }
 
-std::vector<PaletteMatch> PaletteIndex::search(std::string_view text)
+std::vector<PaletteMatch> PaletteIndex::search(std::string_view text) const
 {
     const Query query{text};
     if (query.form.empty()) {

@@ -43,8 +43,8 @@ struct PaletteMatch {
 // The form in which titles and queries are compared.
 std::string paletteForm(std::string_view text);
 
-// Keeps the texts in their compared form, one behind the other. A query that continues the
-// former one looks only at what that one found.
+// Keeps the texts in their compared form, one behind the other, and which letters each has: a
+// query looks closer only at those that have all of its letters.
 class PaletteIndex
 {
 public:
@@ -63,7 +63,7 @@ public:
 
     // The best first; those that fit equally well as their weights are, then the shorter
     // name, then as they were added. Nothing for a query without letters.
-    std::vector<PaletteMatch> search(std::string_view query);
+    std::vector<PaletteMatch> search(std::string_view query) const;
 
 private:
     struct Item {
@@ -79,9 +79,6 @@ private:
     std::string m_text; // of each item its names, a line each, then its keywords
     std::vector<Item> m_items;
     std::vector<std::uint64_t> m_letters; // which ones an item has, as a quick refusal
-
-    std::string m_formerForm;
-    std::vector<std::uint32_t> m_formerFound; // in their order
 };
 
 // Bytes of a title that answer to a query.

@@ -119,22 +119,7 @@ std::vector<PaletteDeed> PaletteDeeds::ofPhrase(const PaletteThing &thing)
                             phrase.transliteration));
     deeds.push_back(pinning(isName ? "names" : "dhikr", thing.id));
     if (!isName) {
-        const auto &favourites = m_model.state().devotional.favorites;
-        const bool isFavourite = std::ranges::find(favourites, thing.id) != favourites.end();
-        deeds.push_back(
-            {.text = isFavourite
-                         ? paletteTr(QT_TRANSLATE_NOOP("Palette", "Remove from favourites"))
-                         : paletteTr(QT_TRANSLATE_NOOP("Palette", "Add to favourites")),
-             .iconName = QStringLiteral("star"),
-             .run = [this, id = thing.id] {
-                 m_model.changeState([id](KestCore::NativeState &state) -> Result<void> {
-                     auto &list = state.devotional.favorites;
-                     if (std::erase(list, id) == 0) {
-                         list.push_back(id);
-                     }
-                     return {};
-                 });
-             }});
+        deeds.push_back(favouring(thing.id));
     }
     return deeds;
 }
@@ -295,6 +280,25 @@ PaletteDeed PaletteDeeds::pinning(const std::string &tool, const std::string &it
                     state.devotional.preferences.pinEnabled = true;
                     if (pin.tool == "names") {
                         state.devotional.selectedNameId = pin.item;
+                    }
+                    return {};
+                });
+            }};
+}
+
+PaletteDeed PaletteDeeds::favouring(const std::string &phrase)
+{
+    const auto &favourites = m_model.state().devotional.favorites;
+    const bool isFavourite = std::ranges::find(favourites, phrase) != favourites.end();
+    return {.text = isFavourite
+                        ? paletteTr(QT_TRANSLATE_NOOP("Palette", "Remove from favourites"))
+                        : paletteTr(QT_TRANSLATE_NOOP("Palette", "Add to favourites")),
+            .iconName = QStringLiteral("star"),
+            .run = [this, phrase] {
+                m_model.changeState([phrase](KestCore::NativeState &state) -> Result<void> {
+                    auto &list = state.devotional.favorites;
+                    if (std::erase(list, phrase) == 0) {
+                        list.push_back(phrase);
                     }
                     return {};
                 });

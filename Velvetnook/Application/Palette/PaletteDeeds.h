@@ -52,6 +52,7 @@ private:
     void copy(const QString &text);
     PaletteDeed copying(const QString &label, const std::string &text);
     PaletteDeed pinning(const std::string &tool, const std::string &item);
+    PaletteDeed favouring(const std::string &phrase);
     void startTimer(std::string_view mode, double minutes);
     void stepTimer(const std::string &id, bool isRunning);
     void useEmoji(const std::string &text);
