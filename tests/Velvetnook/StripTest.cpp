@@ -28,7 +28,8 @@ KestCore::Timer timerWith(double secondsLeft)
 std::string said(const StripContent &content)
 {
     const QString start = content.text.isEmpty() ? content.arabic : content.text;
-    return (content.kind + u": " + start + u" | " + content.trailing + content.trailingNote)
+    return (content.kind + QStringLiteral(": ") + start + QStringLiteral(" | ") +
+            content.trailing + content.trailingNote)
         .toStdString();
 }
 
