@@ -29,6 +29,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 namespace Velvetnook
 {
@@ -95,6 +96,7 @@ int showFailure(const KestError &failure, const std::filesystem::path &file)
         return 1;
     }
     QObject::connect(view.rootObject(), SIGNAL(closeWanted()), qGuiApp, SLOT(quit()));
+    QGuiApplication::setQuitOnLastWindowClosed(true); // this is the only one
     view.show();
     QGuiApplication::exec();
     return 1;
@@ -262,8 +264,8 @@ int run(BusActivation &activation)
 int main(int argc, char **argv)
 {
     using namespace Velvetnook;
-    const Launch launch =
-        Launch::from({argv + 1, argc > 0 ? static_cast<std::size_t>(argc - 1) : 0});
+    const std::vector<const char *> words{argv + (argc > 0 ? 1 : 0), argv + argc};
+    const Launch launch = Launch::from(words);
     if (const auto status = answerWithoutWindow(launch, argc, argv)) {
         return *status;
     }

@@ -29,7 +29,7 @@ std::optional<Base::Instant> pausedUntil(const ApplicationModel &model)
 } // namespace
 
 NotchDriver::NotchDriver(ApplicationModel &model, App &app, SteadyTime steady, QObject *parent)
-    : QObject{parent}, m_model{model}, m_app{app}, m_steady{std::move(steady)}
+    : QObject{parent}, m_model{model}, m_app{app}, m_steady{std::move(steady)}, m_timer{this}
 {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);

@@ -113,7 +113,7 @@ void NotchWindow::followScreen()
     }
     if (screen != m_screen) {
         if (m_screen) {
-            disconnect(m_screen, nullptr, this, nullptr);
+            disconnect(m_screen.data(), nullptr, this, nullptr);
         }
         m_screen = screen;
         setScreen(screen);
