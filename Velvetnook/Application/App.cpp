@@ -28,13 +28,7 @@ Alarms &App::alarms()
 {
     if (m_alarms == nullptr) {
         m_alarms = new Alarms{m_model, this};
-        connect(m_alarms, &Alarms::emphasisWanted, strip(), &StripViewModel::emphasise);
         connect(m_alarms, &Alarms::fridayBegun, this, [this] { friday()->beginCounting(); });
-        connect(m_alarms, &Alarms::toolWanted, this, [this](const QString &toolId) {
-            PanelViewModel &shown = *panel();
-            shown.openTool(toolId);
-            emit shown.openWanted(true);
-        });
     }
     return *m_alarms;
 }

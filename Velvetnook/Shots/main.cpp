@@ -91,7 +91,8 @@ bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
         return false;
     }
     ApplicationModel model{std::make_unique<StateKeeper>(file, std::move(*store)),
-                           committedAll(std::move(*snapshot)), [&shot] { return kShotTime + shot.later; }};
+                           committedAll(std::move(*snapshot)),
+                           [&shot] { return kShotTime + shot.later; }};
     App app{model};
     Theme theme{model};
     const Languages languages{model, *app.format()};

@@ -43,8 +43,10 @@ PrayerViewModel::PrayerViewModel(ApplicationModel &model, const Formatting &form
     connect(&model, &ApplicationModel::recordsChanged, this, follow);
     connect(&model, &ApplicationModel::companionChanged, this, &PrayerViewModel::focusChanged);
     connect(&model, &ApplicationModel::calendarChanged, this, follow);
+    // Counted from what is shown: a tick that was overtaken by another event still comes.
     model.clock().add(
-        this, [this](Base::Instant now) { return m_watched ? nextTick(now) : std::nullopt; },
+        this,
+        [this](Base::Instant) { return m_watched ? nextTick(moment().now) : std::nullopt; },
         [this](Base::Instant) { tick(); });
 }
 
@@ -82,14 +84,14 @@ void PrayerViewModel::tick()
     }
 }
 
-std::optional<Base::Instant> PrayerViewModel::nextTick(Base::Instant now) const
+std::optional<Base::Instant> PrayerViewModel::nextTick(Base::Instant shown) const
 {
-    const auto coming = m_watch.next(now);
+    const auto coming = m_watch.next(shown);
     if (!coming) {
         return std::nullopt; // tomorrow asks again
     }
     // The instant at which the number that is rounded up becomes the next lower one.
-    const double left = (coming->at - now).count();
+    const double left = (coming->at - shown).count();
     const double unit = left > 60 ? 60 : 1;
     const double steps = std::ceil(left / unit) - 1;
     return coming->at - Base::Seconds{std::max(steps, 0.0) * unit};

@@ -143,7 +143,7 @@ private:
     const SunPath &path() const { return moment().path; }
     QString timeText(Base::Instant at) const;
     QString toneOf(PrayerCore::Prayer prayer) const;
-    std::optional<Base::Instant> nextTick(Base::Instant now) const;
+    std::optional<Base::Instant> nextTick(Base::Instant shown) const;
     KestCore::LocalDate shownDate() const;
     Result<KestCore::PrayerFocusPlan> offeredPlan() const;
     void refresh();

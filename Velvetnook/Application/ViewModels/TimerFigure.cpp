@@ -57,7 +57,7 @@ QString TimersViewModel::titleOf(const Timer &timer) const
     if (!isNumber) {
         return own;
     }
-    const QString translated = tr(given.data());
+    const QString translated = tr(std::string{given}.c_str());
     return number == 0 ? translated
                        : QStringLiteral("%1 %2").arg(translated, m_formatting.number(number));
 }
@@ -200,16 +200,16 @@ void TimersViewModel::followProgress()
     }
 }
 
-std::optional<Base::Instant> TimersViewModel::nextTick(Base::Instant now) const
+std::optional<Base::Instant> TimersViewModel::nextTick(Base::Instant shown) const
 {
     std::optional<Base::Instant> next;
     for (const Timer &timer : m_timers) {
         const TimerState &state = timer.state;
         const bool isLarge = QString::fromStdString(timer.record.id) == m_chosen;
         const bool countsMinutes = state.mode == "hydration";
-        const bool runs = state.running && !KestCore::hasEnded(state, now);
+        const bool runs = state.running && !KestCore::hasEnded(state, shown);
         if (runs && (isLarge || countsMinutes)) {
-            const Base::Instant at = nextChange(state, now, isLarge ? 1 : kMinute);
+            const Base::Instant at = nextChange(state, shown, isLarge ? 1 : kMinute);
             next = std::min(next.value_or(at), at);
         }
     }

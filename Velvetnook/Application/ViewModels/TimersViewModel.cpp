@@ -68,8 +68,9 @@ TimersViewModel::TimersViewModel(ApplicationModel &model, const Formatting &form
     connect(&model, &ApplicationModel::recordsChanged, this, &TimersViewModel::follow);
     connect(&model, &ApplicationModel::stateChanged, this, &TimersViewModel::refresh);
     connect(&model, &ApplicationModel::calendarChanged, this, &TimersViewModel::refresh);
+    // Counted from what is shown: a tick that was overtaken by another event still comes.
     model.clock().add(
-        this, [this](Base::Instant now) { return m_watched ? nextTick(now) : std::nullopt; },
+        this, [this](Base::Instant) { return m_watched ? nextTick(m_shownAt) : std::nullopt; },
         [this](Base::Instant) { tick(); });
 }
 
@@ -107,6 +108,7 @@ double TimersViewModel::minutesOf(const std::string &mode) const
 // The timers there are, then the kinds of which there is none.
 void TimersViewModel::showRows()
 {
+    m_shownAt = m_model.now();
     std::vector<TimerRow> rows;
     for (const Timer &timer : m_timers) {
         rows.push_back(rowOf(timer));
@@ -158,7 +160,7 @@ TimerRow TimersViewModel::rowOf(TimerMode mode) const
     const bool hasLength = mode != TimerMode::stopwatch;
     return {.timerId = kNew + QString::fromStdString(text),
             .icon = iconOf(text),
-            .title = tr(KestCore::displayTitle(text).data()),
+            .title = tr(std::string{KestCore::displayTitle(text)}.c_str()),
             .note = hasLength ? m_formatting.remaining(minutesOf(text) * kMinute)
                               : tr("Not started"),
             .canSet = hasLength};

@@ -96,7 +96,7 @@ private:
     void refresh();
     void tick();
     void followProgress();
-    std::optional<Base::Instant> nextTick(Base::Instant now) const;
+    std::optional<Base::Instant> nextTick(Base::Instant shown) const;
     TimerRow rowOf(const KestCore::Timer &timer) const;
     TimerRow rowOf(KestCore::TimerMode mode) const;
     double minutesOf(const std::string &mode) const;
@@ -112,6 +112,7 @@ private:
     QString m_chosen;
     std::map<std::string, double> m_lengths{}; // minutes for the next of a kind, as set here
     std::shared_ptr<KestCore::LocalRecord> m_removed{};
+    Base::Instant m_shownAt{};
     double m_progress = 0;
     bool m_watched = false;
 };
