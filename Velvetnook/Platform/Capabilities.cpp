@@ -12,10 +12,7 @@ namespace
 
 using Level = Capability::Level;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Velvetnook", text);
-}
+QString tr(const char *text) { return QCoreApplication::translate("Velvetnook", text); }
 
 bool isWayland(const SessionFacts &facts) { return facts.sessionType == u"wayland"; }
 
