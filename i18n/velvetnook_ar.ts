@@ -2723,6 +2723,14 @@
         <source>Everything was reset.</source>
         <translation>صُفّر كل شيء.</translation>
     </message>
+    <message>
+        <source>Replace local data?</source>
+        <translation>استبدال البيانات المحلية؟</translation>
+    </message>
+    <message>
+        <source>This replaces devotional and portable tool data.</source>
+        <translation>يستبدل هذا بيانات العبادة وبيانات الأدوات القابلة للنقل.</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::Formatting</name>

@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Shell/ArabicInk.h"
 
+#include <QColor>
 #include <QHash>
 #include <QJsonObject>
 #include <QObject>

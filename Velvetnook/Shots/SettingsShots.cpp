@@ -4,8 +4,8 @@
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Shots/Shot.h"
 
-#include <QFile>
 #include <QStandardItemModel>
+#include <QTemporaryFile>
 
 namespace Velvetnook
 {
@@ -97,17 +97,13 @@ void offerCapabilities(App &app)
 // A file that is a backup in its name only.
 void openBrokenBackup(App &app)
 {
-    QFile file{QStringLiteral("broken-backup.json")};
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write("{}");
-        file.close();
-        app.settings()->data()->openBackup(QUrl::fromLocalFile(file.fileName()));
+    auto *file = new QTemporaryFile{&app};
+    if (file->open() && file->write("{}") > 0 && file->flush()) {
+        app.settings()->data()->openBackup(QUrl::fromLocalFile(file->fileName()));
     }
 }
 
-} // namespace
-
-std::vector<Shot> settingsShots()
+std::vector<Shot> pageShots()
 {
     return {
         page("general", "general"),
@@ -146,6 +142,12 @@ std::vector<Shot> settingsShots()
         page("about", "about", {}, offerCapabilities),
         page("search", "notch", {},
              [](App &app) { app.settings()->setQuery(QStringLiteral("pa")); }),
+    };
+}
+
+std::vector<Shot> stepShots()
+{
+    return {
         step("welcome", 0),
         step("phrase", 1),
         step("place", 2),
@@ -155,6 +157,17 @@ std::vector<Shot> settingsShots()
         step("reminders", 3, remindUntilFive),
         step("done", 4),
     };
+}
+
+} // namespace
+
+std::vector<Shot> settingsShots()
+{
+    std::vector<Shot> shots = stepShots();
+    for (Shot &shot : pageShots()) {
+        shots.push_back(std::move(shot));
+    }
+    return shots;
 }
 
 } // namespace Velvetnook

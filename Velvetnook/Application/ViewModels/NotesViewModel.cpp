@@ -237,7 +237,8 @@ void NotesViewModel::saveFinished(const Open &saved, const QString &id,
             m_open.isEdited = true;
             m_open.refusal = refused.refusal;
         } else {
-            m_refused.insert_or_assign(refused.id, std::move(refused));
+            const QString left = refused.id;
+            m_refused.insert_or_assign(left, std::move(refused));
         }
     } else if (isOpen) {
         m_open.saved = Base::milliseconds1970(m_model.now());

@@ -66,9 +66,11 @@ std::string plain(const QString &line)
     return text.toStdString();
 }
 
-bool hasLetters(const QString &line)
+// Whether there is more than a number, which may have an exponent.
+bool hasWords(const QString &line)
 {
-    return std::ranges::any_of(line, [](QChar letter) { return letter.isLetter(); });
+    return std::ranges::any_of(
+        line, [](QChar letter) { return letter.isLetter() && letter.toLower() != u'e'; });
 }
 
 } // namespace
@@ -78,6 +80,7 @@ UnitsViewModel::UnitsViewModel(ApplicationModel &model, const Formatting &format
     : QObject{parent}, m_model{model}, m_formatting{formatting}
 {
     read();
+    m_shownCategory = effective().category;
     connect(&model, &ApplicationModel::stateChanged, this, &UnitsViewModel::follow);
 }
 
@@ -180,8 +183,8 @@ QString UnitsViewModel::refusal() const
         return {};
     }
     const auto typed = KestCore::requireConversion(plain(m_line));
-    return hasLetters(m_line) && !typed ? QString::fromStdString(typed.error().message)
-                                        : fromView(KestCore::kCannotConvert);
+    return hasWords(m_line) && !typed ? QString::fromStdString(typed.error().message)
+                                      : fromView(KestCore::kCannotConvert);
 }
 
 QString UnitsViewModel::lineOf(const UnitConversion &conversion) const

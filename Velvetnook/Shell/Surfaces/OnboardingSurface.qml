@@ -29,6 +29,12 @@ Rectangle {
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Welcome to Velvetnook")
     Component.onCompleted: next.forceActiveFocus()
+    // Closed by the desktop, they were seen as well.
+    Window.onVisibilityChanged: {
+        if (Window.visibility === Window.Hidden) {
+            model.finish();
+        }
+    }
 
     MouseArea {
         width: parent.width

@@ -43,6 +43,7 @@ Row {
             contentItem: Txt {
                 role: "label"
                 horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
                 text: day.text
                 font.weight: day.each.chosen ? Font.DemiBold : Font.Medium
                 color: day.each.chosen ? Theme.color.onAccent : Theme.color.text2

@@ -8,6 +8,7 @@ import Velvetnook.Shell
 ListRow {
     id: root
 
+    required title
     required property int index
     required property string noteId
     required property string excerpt

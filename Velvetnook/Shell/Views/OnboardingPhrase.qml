@@ -79,7 +79,7 @@ Item {
 
         Txt {
             anchors.verticalCenter: parent.verticalCenter
-            rightPadding: 4
+            width: implicitWidth + 4
             role: "label"
             color: Theme.color.text2
             text: qsTr("Target")

@@ -55,7 +55,8 @@ Item {
     }
     Row {
         visible: root.reminders.reminderEnabled
-        x: 4
+        anchors.left: parent.left
+        anchors.leftMargin: 4
         anchors.top: group.bottom
         anchors.topMargin: 8
         spacing: 7

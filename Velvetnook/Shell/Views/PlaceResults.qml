@@ -33,7 +33,6 @@ Column {
             required property var modelData
             required property int index
 
-            x: root.leftPadding
             width: root.width - root.leftPadding - root.rightPadding
             iconName: "place"
             title: modelData.title

@@ -80,7 +80,8 @@ Column {
         }
     }
     Row {
-        x: 4
+        anchors.left: parent.left
+        anchors.leftMargin: 4
         visible: root.page.isBusy || root.page.message !== ""
         topPadding: 12
         spacing: 7
@@ -111,6 +112,7 @@ Column {
         body: root.page.questionBody
         acceptText: root.page.acceptText
         dangerous: true
+        corner: Theme.radius.window
         onAccepted: root.page.accept()
         onRejected: root.page.decline()
     }

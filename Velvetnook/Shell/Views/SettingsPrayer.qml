@@ -52,16 +52,18 @@ Column {
         Repeater {
             model: root.page.adjusted
             delegate: SettingsRow {
+                id: line
+
                 required property var modelData
 
                 title: modelData.label
                 Stepper {
-                    name: parent.parent.title
+                    name: line.title
                     from: -60
                     to: 60
-                    value: root.page.minutes[modelData.value]
-                    text: root.page.minuteTexts[modelData.value]
-                    onMoved: value => root.page.setAdjustment(modelData.value, value)
+                    value: root.page.minutes[line.modelData.value]
+                    text: root.page.minuteTexts[line.modelData.value]
+                    onMoved: value => root.page.setAdjustment(line.modelData.value, value)
                 }
             }
         }

@@ -89,7 +89,8 @@ Column {
         }
     }
     Row {
-        x: 4
+        anchors.left: parent.left
+        anchors.leftMargin: 4
         topPadding: 8
         spacing: 7
         Icon {

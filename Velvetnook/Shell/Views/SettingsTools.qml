@@ -35,10 +35,13 @@ Column {
             }
         }
     }
+    Item {
+        width: 1
+        height: 8
+    }
     Txt {
         x: 4
         width: parent.width - 8
-        topPadding: 8
         role: "note"
         color: Theme.color.text3
         wrapMode: Text.Wrap

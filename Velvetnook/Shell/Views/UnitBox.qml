@@ -60,7 +60,7 @@ FocusScope {
         height: 44
         clip: true
         verticalAlignment: TextInput.AlignVCenter
-        horizontalAlignment: LayoutMirroring.enabled ? TextInput.AlignRight : TextInput.AlignLeft
+        horizontalAlignment: TextInput.AlignLeft // mirrored with the layout
         selectByMouse: true
         font.family: Theme.type.numeral.family
         font.weight: Theme.type.numeral.weight
@@ -95,7 +95,7 @@ FocusScope {
         role: "numeral"
         pixelSize: root.fitted
         lineHeight: 44
-        horizontalAlignment: LayoutMirroring.enabled ? Text.AlignRight : Text.AlignLeft
+        horizontalAlignment: Text.AlignLeft
         color: root.text === "" ? Theme.color.text3 : Theme.color.text1
         text: root.text === "" ? "—" : root.text
         Accessible.name: root.text === "" ? qsTr("No result") : root.text

@@ -75,7 +75,6 @@ PlaceSettings::PlaceSettings(ApplicationModel &model, const Formatting &formatti
                Field{.name = "country", .key = "prayer.country"}}
 {
     readFields();
-    // What is being typed stays; only a place that was changed elsewhere takes its fields.
     connect(&model, &ApplicationModel::stateChanged, this, &PlaceSettings::readFields);
 }
 
@@ -145,9 +144,6 @@ void PlaceSettings::choose(int index)
         return;
     }
     const auto chosen = KestCore::settingsFor(*m_places.at(static_cast<std::size_t>(index)));
-    for (Field &field : m_fields) {
-        field.refusal.clear(); // what was typed gives way to the city
-    }
     model().changeState([chosen](KestCore::NativeState &state) -> Result<void> {
         state.settings.erase("prayer.locationUpdated"); // of the place before
         for (const auto &[key, value] : chosen) {
@@ -155,6 +151,12 @@ void PlaceSettings::choose(int index)
         }
         return {};
     });
+    // What was typed gives way to the city, also to the one that is set already.
+    for (Field &field : m_fields) {
+        field.text = field.kept;
+        field.refusal.clear();
+    }
+    emit fieldsChanged();
     search({});
 }
 
@@ -176,23 +178,21 @@ QVariantMap PlaceSettings::refusals() const
     return map;
 }
 
+// Takes in a place that is another now. Else nothing: a field that waits for the others, or
+// was refused, keeps what was typed.
 void PlaceSettings::readFields()
 {
-    const bool isTyping = std::ranges::any_of(
-        m_fields, [](const Field &field) { return !field.refusal.isEmpty(); });
-    if (isTyping) {
+    const bool isOther = std::ranges::any_of(
+        m_fields, [this](const Field &field) { return setting(field.key, "") != field.kept; });
+    if (!isOther) {
         return;
     }
-    bool isOther = false;
     for (Field &field : m_fields) {
-        const QString kept = setting(field.key, "");
-        isOther = isOther || kept != field.text;
-        field.text = kept;
+        field.kept = setting(field.key, "");
+        field.text = field.kept;
+        field.refusal.clear();
     }
-    // Only then: a field that is told its text again would lose what is typed just now.
-    if (isOther) {
-        emit fieldsChanged();
-    }
+    emit fieldsChanged();
 }
 
 void PlaceSettings::setField(const QString &name, const QString &text)

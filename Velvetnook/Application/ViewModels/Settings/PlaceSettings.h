@@ -54,6 +54,7 @@ private:
     struct Field {
         const char *name;
         const char *key;
+        QString kept{}; // the setting when it was last read
         QString text{}; // as typed
         QString refusal{};
     };

@@ -17,7 +17,7 @@ namespace Velvetnook
 namespace
 {
 
-// The tools that have a view here, and those of them that are always at hand.
+// The tools that have a view here.
 constexpr std::array kWithView{"home",   "dhikr",  "prayer",     "names", "tasbih",
                                "friday", "timers", "scratchpad", "notes", "units"};
 
