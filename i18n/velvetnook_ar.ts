@@ -462,6 +462,10 @@
         <source>Open the palette from anywhere</source>
         <translation>فتح لوحة الأوامر من أي مكان</translation>
     </message>
+    <message>
+        <source>It works over every application.</source>
+        <translation>يعمل فوق كل التطبيقات.</translation>
+    </message>
 </context>
 <context>
     <name>NameCardFoot</name>

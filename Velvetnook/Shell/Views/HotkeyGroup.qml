@@ -8,12 +8,16 @@ import Velvetnook.Shell
 SettingsGroup {
     id: root
 
-    readonly property string key: App.palette.hotkeyText ?? ""
-    readonly property string hotkeyState: App.palette.hotkeyState ?? ""
+    readonly property string key: App.palette.hotkeyText
+    // "full", or how far it works and why.
+    readonly property string hotkeyState: App.palette.hotkeyState
+    readonly property bool isFull: hotkeyState === "full"
 
     SettingsRow {
         title: qsTr("Open the palette from anywhere")
-        note: root.hotkeyState
+        note: root.isFull ? qsTr("It works over every application.")
+                          : root.hotkeyState.replace(/^[^:]+: /, "")
+        noteColor: root.isFull ? Theme.color.text3 : Theme.color.warn
         Row {
             anchors.verticalCenter: parent.verticalCenter
             spacing: 4

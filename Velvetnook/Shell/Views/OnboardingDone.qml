@@ -37,7 +37,7 @@ Item {
             iconName: "search"
             title: qsTr("Search for anything")
             note: qsTr("Tools, phrases, units, notes.")
-            keys: (App.palette.hotkeyText ?? "").split("+").filter(key => key !== "")
+            keys: App.palette.hotkeyText.split("+").filter(key => key !== "")
         }
         OnboardingWay {
             width: ways.each
