@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>It works over every application.</source>
-        <translation>يعمل فوق كل التطبيقات.</translation>
+        <translation>يعمل فوق كل تطبيق.</translation>
     </message>
 </context>
 <context>
@@ -898,14 +898,6 @@
         <translation>نسخ الكتابة اللاتينية</translation>
     </message>
     <message>
-        <source>Remove from favourites</source>
-        <translation>إزالة من المفضّلة</translation>
-    </message>
-    <message>
-        <source>Add to favourites</source>
-        <translation>إضافة إلى المفضّلة</translation>
-    </message>
-    <message>
         <source>Remove from the header</source>
         <translation>إزالة من الترويسة</translation>
     </message>
@@ -956,6 +948,14 @@
     <message>
         <source>Pin to the strip</source>
         <translation>تثبيت في الشريط</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>إزالة من المفضّلة</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>إضافة إلى المفضّلة</translation>
     </message>
     <message>
         <source>%1 in %2</source>
@@ -2654,6 +2654,10 @@
 <context>
     <name>Velvetnook::DataSettings</name>
     <message>
+        <source>Replace local data?</source>
+        <translation>هل تستبدل البيانات المحلية؟</translation>
+    </message>
+    <message>
         <source>Clear the history?</source>
         <translation>هل تمسح السجل؟</translation>
     </message>
@@ -2701,6 +2705,10 @@
         <translation>%1. وهو أكبر مما يقبله الاستيراد.</translation>
     </message>
     <message>
+        <source>This replaces devotional and portable tool data.</source>
+        <translation>يستبدل هذا بيانات الأذكار وبيانات الأدوات المنقولة.</translation>
+    </message>
+    <message>
         <source>Records: %1 here, %2 in the backup. Finished sessions: %3 here, %4 in the backup.</source>
         <translation>السجلات: %1 هنا، و%2 في النسخة. الجلسات المنتهية: %3 هنا، و%4 في النسخة.</translation>
     </message>
@@ -2726,14 +2734,6 @@
     <message>
         <source>Everything was reset.</source>
         <translation>صُفّر كل شيء.</translation>
-    </message>
-    <message>
-        <source>Replace local data?</source>
-        <translation>استبدال البيانات المحلية؟</translation>
-    </message>
-    <message>
-        <source>This replaces devotional and portable tool data.</source>
-        <translation>يستبدل هذا بيانات العبادة وبيانات الأدوات القابلة للنقل.</translation>
     </message>
 </context>
 <context>
@@ -2892,30 +2892,6 @@
     <message>
         <source>Prayer</source>
         <translation>الصلاة</translation>
-    </message>
-    <message>
-        <source>Fajr</source>
-        <translation>الفجر</translation>
-    </message>
-    <message>
-        <source>Sunrise</source>
-        <translation>الشروق</translation>
-    </message>
-    <message>
-        <source>Dhuhr</source>
-        <translation>الظهر</translation>
-    </message>
-    <message>
-        <source>Asr</source>
-        <translation>العصر</translation>
-    </message>
-    <message>
-        <source>Maghrib</source>
-        <translation>المغرب</translation>
-    </message>
-    <message>
-        <source>Isha</source>
-        <translation>العشاء</translation>
     </message>
     <message>
         <source>s</source>
@@ -3617,6 +3593,10 @@
         <translation>الأدوات</translation>
     </message>
     <message>
+        <source>order favourites tabs header</source>
+        <translation>ترتيب مفضلة ألسنة ترويسة</translation>
+    </message>
+    <message>
         <source>Data &amp; backup</source>
         <translation>البيانات والنسخ</translation>
     </message>
@@ -3627,6 +3607,10 @@
     <message>
         <source>About</source>
         <translation>حول</translation>
+    </message>
+    <message>
+        <source>version licence capabilities</source>
+        <translation>إصدار رخصة قدرات</translation>
     </message>
 </context>
 <context>
@@ -3802,17 +3786,6 @@
     <message>
         <source>Data</source>
         <translation>البيانات</translation>
-    </message>
-</context>
-<context>
-    <name>View</name>
-    <message>
-        <source>order favourites tabs header</source>
-        <translation>ترتيب مفضلة ألسنة ترويسة</translation>
-    </message>
-    <message>
-        <source>version licence capabilities</source>
-        <translation>إصدار رخصة قدرات</translation>
     </message>
 </context>
 <context>

@@ -23,24 +23,30 @@ Item {
     property alias truncated: label.truncated
     property alias contentWidth: label.contentWidth
     property int verticalAlignment: Text.AlignTop
+    property real leftPadding: 0
+    property real rightPadding: 0
+    property real topPadding: 0
+    property real bottomPadding: 0
 
     readonly property font face: Theme.type[role]
     readonly property real contentHeight: lineCount * lineHeight
-    readonly property real slack: Math.max(0, height - contentHeight)
+    readonly property real slack: Math.max(0, height - topPadding - bottomPadding
+                                              - contentHeight)
     readonly property real start: verticalAlignment === Text.AlignVCenter ? slack / 2
                                 : verticalAlignment === Text.AlignBottom ? slack : 0
 
-    implicitWidth: Math.ceil(label.implicitWidth)
-    implicitHeight: contentHeight
-    baselineOffset: start + Theme.baseline(role, font.pixelSize, lineHeight)
+    implicitWidth: Math.ceil(label.implicitWidth) + leftPadding + rightPadding
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    baselineOffset: topPadding + start + Theme.baseline(role, font.pixelSize, lineHeight)
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 
     Text {
         id: label
 
+        x: root.leftPadding
         y: Math.round(root.baselineOffset - baselineOffset)
-        width: root.width
+        width: root.width - root.leftPadding - root.rightPadding
         font.family: root.face.family
         font.pixelSize: root.pixelSize
         font.weight: root.face.weight
