@@ -366,7 +366,7 @@ QString NotesViewModel::footer() const
 {
     const auto count = static_cast<int>(notesIn(m_model.records()).size());
     return count == 0 ? tr("Notes stay on this computer")
-                      : tr("%n note(s) on this computer", nullptr, count);
+                      : m_formatting.digits(tr("%n note(s) on this computer", nullptr, count));
 }
 
 QString NotesViewModel::status() const
@@ -382,7 +382,7 @@ QString NotesViewModel::status() const
     }
     const QString text = m_open.text;
     const auto count = static_cast<int>(KestCore::wordsOf(text.toStdString()).size());
-    const QString words = tr("%n word(s)", nullptr, count);
+    const QString words = m_formatting.digits(tr("%n word(s)", nullptr, count));
     return saved.isEmpty() ? words : tr("%1 · %2").arg(words, saved);
 }
 

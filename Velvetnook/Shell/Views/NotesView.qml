@@ -41,6 +41,7 @@ FocusScope {
     NoteListPane {
         id: list
 
+        anchors.left: parent.left
         width: 196
         height: parent.height
         focus: true
