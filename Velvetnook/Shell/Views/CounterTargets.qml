@@ -12,7 +12,7 @@ FocusScope {
 
     readonly property bool isTyping: App.counter.isEnteringTarget
 
-    signal left // the focus is free
+    signal released // the focus is free
 
     function type() {
         App.counter.isEnteringTarget = true;
@@ -26,7 +26,7 @@ FocusScope {
             field.text = "";
             field.forceActiveFocus(Qt.OtherFocusReason);
         } else {
-            left();
+            released();
         }
     }
 

@@ -99,7 +99,7 @@ Item {
 
             y: 142
             width: parent.width
-            onLeft: tap.forceActiveFocus()
+            onReleased: tap.forceActiveFocus()
         }
         CounterActions {
             visible: !(targets.isTyping && App.counter.targetError !== "")
