@@ -167,7 +167,10 @@ QString Running::begin(BusActivation &activation)
 void Running::beginTheRest(BusActivation &activation)
 {
     QObject::connect(m_app.panel(), &PanelViewModel::settingsWanted, m_app.settings(),
-                     [this] { m_app.settings()->open(); });
+                     [this] {
+                         emit m_app.panel()->closeWanted(); // it would lie over them
+                         m_app.settings()->open();
+                     });
     QObject::connect(m_app.settings(), &SettingsViewModel::openWanted, qGuiApp,
                      [this] { openSettings(); });
     QObject::connect(m_app.onboarding(), &OnboardingViewModel::openWanted, qGuiApp,

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Notch/SurfaceWindow.h"
 
+#include "Velvetnook/Platform/WindowShape.h"
+
 #include <QQuickItem>
 #include <QScreen>
 
@@ -38,9 +40,13 @@ SurfaceWindow::SurfaceWindow(QQmlEngine &engine, const QString &surface, QSize s
 
 void SurfaceWindow::present()
 {
-    if (!isVisible()) {
+    if (!isVisible() && rootObject() != nullptr) {
         const QRect area = screen()->availableGeometry();
         setPosition(area.center() - QPoint{width() / 2, height() / 2});
+        // Where nothing mixes windows, the corners outside the round ones would be black.
+        const bool needsOutline = color().alpha() == 0 && !hasCompositor();
+        setMask(needsOutline ? roundOutline(size(), rootObject()->property("radius").toInt())
+                             : QRegion{});
         show();
     }
     raise();

@@ -8,7 +8,6 @@
 
 #include <QCursor>
 #include <QGuiApplication>
-#include <QPainterPath>
 #include <QQuickItem>
 #include <QScreen>
 
@@ -28,13 +27,6 @@ constexpr int kRadius = 22;
 int topOn(const QScreen &screen)
 {
     return std::max(kHighestTop, static_cast<int>(screen.geometry().height() * kTopShare));
-}
-
-QRegion roundOutline(const QSize &size)
-{
-    QPainterPath path;
-    path.addRoundedRect(QRectF{QPointF{}, QSizeF{size}}, kRadius, kRadius);
-    return QRegion{path.toFillPolygon().toPolygon()};
 }
 
 // Where the user looks is where the pointer is.
@@ -94,7 +86,7 @@ void PaletteWindow::place()
     }
     const int height = rootObject()->property("surfaceHeight").toInt();
     setGeometry(area.x() + (area.width() - kWidth) / 2, area.y() + top, kWidth, height);
-    setMask(roundOutline(size()));
+    setMask(roundOutline(size(), kRadius));
 }
 
 void PaletteWindow::open()

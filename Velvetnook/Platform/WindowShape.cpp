@@ -5,6 +5,7 @@
 #include "Velvetnook/Platform/Xcb.h"
 
 #include <QGuiApplication>
+#include <QPainterPath>
 #include <QWindow>
 
 #include <xcb/shape.h>
@@ -59,6 +60,13 @@ QRegion hangingOutline(const QRect &body, int radius, int fillet)
         region += QRect{body.left() - out, row, body.width() + 2 * out, 1};
     }
     return region;
+}
+
+QRegion roundOutline(const QSize &size, int radius)
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF{QPointF{}, QSizeF{size}}, radius, radius);
+    return QRegion{path.toFillPolygon().toPolygon()};
 }
 
 bool hasCompositor()

@@ -17,6 +17,9 @@ namespace Velvetnook
 // fillets and begins at y 0.
 QRegion hangingOutline(const QRect &body, int radius, int fillet);
 
+// The outline of a window with round corners.
+QRegion roundOutline(const QSize &size, int radius);
+
 // Whether something mixes translucent windows with what is below them.
 bool hasCompositor();
 

@@ -11,6 +11,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/prctl.h>
+
+#include <csignal>
+
 // A bus daemon of the test's own, which starts no services. Everybody who takes part has a
 // connection of their own to it, as programs have.
 class PrivateBus
@@ -28,6 +32,8 @@ public:
                 "</policy></busconfig>");
             file.close();
         }
+        // Also when the test is killed, the daemon ends with it.
+        m_daemon.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         m_daemon.setStandardErrorFile(QProcess::nullDevice());
         m_daemon.start(QStringLiteral("dbus-daemon"),
                        {QStringLiteral("--nofork"), QStringLiteral("--print-address"),

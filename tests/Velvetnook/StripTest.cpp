@@ -161,6 +161,7 @@ TEST(StripViewModelTest, ShowsANewMessageOnceAndNotThoseOfBefore)
     StripViewModel strip{running.model(), running.formatting()};
     const auto write = [&](const char *text, Base::Seconds when) {
         auto message = KestCore::makeMessage({.text = text, .animation = {}}).value();
+        message.kind = KestCore::kMessageKind;
         message.updated = Base::milliseconds1970(running.model().now() + when);
         running.model().changeRecords({.written = {message}, .removed = {}});
         running.settle();

@@ -5,16 +5,15 @@
 #include "Velvetnook/Platform/Xcb.h"
 
 #include <fcntl.h>
-#include <spawn.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <thread>
 #include <utility>
-
-extern char **environ;
 
 namespace
 {
@@ -28,8 +27,17 @@ pid_t start(const std::vector<std::string> &command)
         words.push_back(const_cast<char *>(word.c_str()));
     }
     words.push_back(nullptr);
-    pid_t id = 0;
-    return posix_spawnp(&id, words[0], nullptr, nullptr, words.data(), environ) == 0 ? id : 0;
+    const pid_t test = getpid();
+    const pid_t id = fork();
+    if (id == 0) {
+        // Also when the test is killed, what it started ends with it.
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (getppid() == test) {
+            execvp(words[0], words.data());
+        }
+        _exit(127);
+    }
+    return std::max(id, 0);
 }
 
 } // namespace

@@ -60,14 +60,20 @@ BusNotifications::BusNotifications(const QDBusConnection &bus, QString desktopEn
 void BusNotifications::begin()
 {
     if (std::exchange(m_isAsking, true)) {
+        m_asksAgain = true; // a server may have come since
         return;
     }
+    m_asksAgain = false;
     askBus<QDBusPendingReply<QStringList>>(
         m_bus, callOf(QStringLiteral("GetCapabilities")), this,
         [this](const QDBusPendingReply<QStringList> &reply) {
             m_isAsking = false;
             if (!reply.isError()) {
                 learn(reply.value());
+                return;
+            }
+            if (m_asksAgain) {
+                begin();
                 return;
             }
             const auto waiting = std::exchange(m_waiting, {});

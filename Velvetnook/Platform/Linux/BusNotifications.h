@@ -62,6 +62,7 @@ private:
     ServiceState m_state;
     QStringList m_abilities;
     bool m_isAsking = false;
+    bool m_asksAgain = false; // the question under way began too early to decide
     std::vector<NotificationRequest> m_waiting; // for the abilities
     QHash<QString, Shown> m_shown;
 };

@@ -91,9 +91,19 @@ Rectangle {
             const opens = root.isLast;
             root.model.next();
             if (opens) {
-                App.panel.openTool("dhikr");
-                App.panel.openWanted(true);
+                opening.start();
             }
+        }
+    }
+    // When this window goes, the desktop hands the keyboard on; a panel that had taken it
+    // before would lose it, and close.
+    Timer {
+        id: opening
+
+        interval: 300
+        onTriggered: {
+            App.panel.openTool("dhikr");
+            App.panel.openWanted(true);
         }
     }
     Rectangle {

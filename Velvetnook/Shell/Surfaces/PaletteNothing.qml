@@ -22,7 +22,6 @@ Item {
         }
         Txt {
             width: parent.width
-            topPadding: 6
             role: "strong"
             horizontalAlignment: Text.AlignHCenter
             text: qsTr("Nothing here by that name")
