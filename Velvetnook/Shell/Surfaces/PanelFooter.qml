@@ -74,6 +74,7 @@ FocusScope {
 
             role: "note"
             font.weight: Font.Medium
+            verticalAlignment: Text.AlignVCenter
             color: link.hovered ? Theme.color.accentHover : Theme.color.accent
             text: link.text
             Accessible.ignored: true

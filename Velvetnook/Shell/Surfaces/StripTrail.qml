@@ -29,8 +29,9 @@ Row {
             color: Theme.onStrip[App.strip.trailingTone] ?? Theme.onStrip.text1
         }
         Txt {
-            visible: text !== ""
-            text: App.strip.trailingNote
+            visible: App.strip.trailingNote !== ""
+            // Numbers and a stroke alone have no direction of their own.
+            text: (LayoutMirroring.enabled ? "\u200F" : "") + App.strip.trailingNote
             role: "strong"
             color: Theme.onStrip.text3
         }
