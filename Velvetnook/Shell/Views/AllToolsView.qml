@@ -17,14 +17,16 @@ ScrollBody {
     readonly property int columns: 8
 
     contentWidth: width
+    contentHeight: grid.y + grid.height
 
     GridView {
         id: grid
 
+        y: 4 // for the focus ring
         width: root.width
         height: Math.ceil(count / root.columns) * cellHeight
         cellWidth: Math.floor(root.width / root.columns)
-        cellHeight: 74
+        cellHeight: 72
         interactive: false
         keyNavigationWraps: true
         activeFocusOnTab: true
