@@ -64,7 +64,7 @@ QVariant TimerRows::data(const QModelIndex &index, int role) const
 QHash<int, QByteArray> TimerRows::roleNames() const
 {
     return {
-        {timerIdRole, "timerId"},   {iconRole, "icon"},           {titleRole, "title"},
+        {timerIdRole, "timerId"},   {iconRole, "iconName"},           {titleRole, "title"},
         {noteRole, "note"},         {isRunningRole, "isRunning"}, {isChosenRole, "isChosen"},
         {canResetRole, "canReset"}, {canRemoveRole, "canRemove"}, {canSetRole, "canSet"}};
 }

@@ -122,8 +122,11 @@ void TimersViewModel::showRows()
     }
     const bool isThere = std::ranges::any_of(
         rows, [this](const TimerRow &row) { return row.timerId == m_chosen; });
-    if (!isThere) {
+    // A kind that nobody chose gives way to the first timer that is begun.
+    const bool isOpen = !m_isChosenByUser && m_chosen.startsWith(kNew);
+    if (!isThere || isOpen) {
         m_chosen = rows.front().timerId;
+        m_isChosenByUser = false;
     }
     for (TimerRow &row : rows) {
         row.isChosen = row.timerId == m_chosen;
@@ -174,6 +177,7 @@ int TimersViewModel::chosenRow() const
 
 void TimersViewModel::choose(const QString &id)
 {
+    m_isChosenByUser = true;
     if (m_chosen != id) {
         m_chosen = id;
         refresh();

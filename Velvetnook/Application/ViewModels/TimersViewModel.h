@@ -110,6 +110,7 @@ private:
     std::vector<KestCore::Timer> m_timers;
     TimerRows m_rows;
     QString m_chosen;
+    bool m_isChosenByUser = false;
     std::map<std::string, double> m_lengths{}; // minutes for the next of a kind, as set here
     std::shared_ptr<KestCore::LocalRecord> m_removed{};
     Base::Instant m_shownAt{};

@@ -10,7 +10,7 @@ T.AbstractButton {
     id: root
 
     required property string timerId
-    required property string icon
+    required property string iconName
     required property string title
     required property string note
     required property bool isRunning
@@ -48,7 +48,7 @@ T.AbstractButton {
             anchors.left: parent.left
             anchors.leftMargin: 12
             anchors.verticalCenter: parent.verticalCenter
-            name: root.icon
+            name: root.iconName
             size: 19
             color: root.isChosen ? Theme.color.accent : Theme.color.text3
         }

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
 import QtQuick
 import Velvetnook.Application
 import Velvetnook.Shell
