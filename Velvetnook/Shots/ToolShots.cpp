@@ -6,6 +6,8 @@
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Shots/Shot.h"
 
+#include <QTimer>
+
 namespace Velvetnook
 {
 
@@ -79,7 +81,13 @@ void rememberConversions(ShotData &data)
 
 void openFirstNote(App &app) { app.notes()->choose(QStringLiteral("shot-0")); }
 
-void typeInUnits(App &app, const char *line) { app.units()->setText(QString::fromUtf8(line)); }
+// Once the view stands: what is refused goes with the view in which it was typed.
+void typeInUnits(App &app, const char *line)
+{
+    QTimer::singleShot(600, app.units(), [units = app.units(), line] {
+        units->setText(QString::fromUtf8(line));
+    });
+}
 
 } // namespace
 

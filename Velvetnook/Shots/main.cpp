@@ -23,7 +23,8 @@
 #include <memory>
 
 // VelvetnookShots FOLDER [PATTERN]: draws the shots whose names contain PATTERN, in dark and
-// light, English and Arabic; a name ends in its theme and language, as "-dark-en". The scale is that of QT_SCALE_FACTOR.
+// light, English and Arabic; a name ends in its theme and language, as "-dark-en". The scale is
+// that of QT_SCALE_FACTOR.
 namespace Velvetnook
 {
 
@@ -157,8 +158,9 @@ int main(int argc, char **argv)
     bool isWhole = true;
     for (const Shot &shot : allShots()) {
         for (const Variant &variant : kVariants) {
-            const QString whole = QStringLiteral("%1-%2-%3").arg(
-                shot.name, QLatin1String{variant.theme}, QLatin1String{variant.language});
+            const QString whole = QStringLiteral("%1-%2-%3")
+                                      .arg(shot.name, QLatin1String{variant.theme},
+                                           QLatin1String{variant.language});
             if (whole.contains(pattern)) {
                 isWhole = draw(shot, variant, folder) && isWhole;
             }

@@ -54,6 +54,7 @@ Item {
                 required property string modelData
 
                 width: 68
+                horizontalAlignment: Text.AlignLeft // with the layout, not with the digits
                 role: root.isHead ? "caption" : "label"
                 color: root.isHead ? Theme.color.text3
                      : root.isToday ? Theme.color.text1 : Theme.color.text2

@@ -89,7 +89,7 @@ FocusScope {
         SecondaryButton {
             visible: App.timers.canAdjust && !root.isFinished
             text: qsTr("−5 min")
-            horizontalPadding: 11
+            horizontalPadding: 8
             onClicked: App.timers.adjust(-5)
         }
         PrimaryButton {
@@ -103,7 +103,7 @@ FocusScope {
         SecondaryButton {
             visible: App.timers.canAdjust && !root.isFinished
             text: qsTr("+5 min")
-            horizontalPadding: 11
+            horizontalPadding: 8
             onClicked: App.timers.adjust(5)
         }
         SecondaryButton {

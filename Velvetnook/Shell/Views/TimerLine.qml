@@ -60,6 +60,7 @@ T.AbstractButton {
             anchors.verticalCenter: parent.verticalCenter
             Txt {
                 width: parent.width
+                horizontalAlignment: Text.AlignLeft
                 role: "strong"
                 lineHeight: 18
                 text: root.title
@@ -67,6 +68,7 @@ T.AbstractButton {
             }
             Txt {
                 width: parent.width
+                horizontalAlignment: Text.AlignLeft
                 role: "note"
                 lineHeight: 16
                 color: Theme.color.text3

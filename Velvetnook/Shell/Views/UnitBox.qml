@@ -55,9 +55,10 @@ FocusScope {
         visible: root.editable
         focus: root.editable
         x: 16
-        y: 34
+        // Higher than its letters: a line of Arabic digits that did not fit would be scrolled.
+        y: 20
         width: root.room
-        height: 44
+        height: 72
         clip: true
         verticalAlignment: TextInput.AlignVCenter
         horizontalAlignment: TextInput.AlignLeft // mirrored with the layout
