@@ -13,6 +13,7 @@ Item {
         anchors.left: parent.left
         anchors.leftMargin: -8
         height: 30
+        spacing: 6
 
         IconButton {
             size: 30
@@ -24,8 +25,6 @@ Item {
         }
         Txt {
             anchors.verticalCenter: parent.verticalCenter
-            leftPadding: 6
-            rightPadding: 6
             role: "heading"
             text: qsTr("History")
         }

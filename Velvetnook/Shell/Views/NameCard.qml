@@ -46,25 +46,34 @@ Card {
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
             }
+            Item {
+                width: 1
+                height: 2
+            }
             Txt {
                 visible: text !== ""
                 width: parent.width
-                topPadding: 2
                 text: App.names.translation
                 color: Theme.color.text2
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
             }
+            Item {
+                width: 1
+                height: 6
+            }
             Txt {
                 visible: text !== ""
                 width: parent.width
-                topPadding: 6
-                bottomPadding: 8
                 role: "note"
                 text: App.names.meaning
                 color: Theme.color.text3
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
+            }
+            Item {
+                width: 1
+                height: 8
             }
         }
     }
