@@ -34,7 +34,8 @@ const QGuiApplication *desktop()
 
 NotchSettings::NotchSettings(ApplicationModel &model, const Formatting &formatting,
                              QObject *parent)
-    : SettingsPage{model, formatting, parent}
+    : SettingsPage{model, formatting, parent},
+      m_pauseToldAt{Base::milliseconds1970(model.now())}
 {
     if (const QGuiApplication *application = desktop(); application != nullptr) {
         connect(application, &QGuiApplication::screenAdded, this,
@@ -42,13 +43,19 @@ NotchSettings::NotchSettings(ApplicationModel &model, const Formatting &formatti
         connect(application, &QGuiApplication::screenRemoved, this,
                 &NotchSettings::screensChanged);
     }
+    // An end that passed before the clock asked, as during a sleep, is told nevertheless.
     model.clock().add(
         this,
         [this](Base::Instant) -> std::optional<Base::Instant> {
-            const auto until = pausedUntil();
-            return until ? std::optional{Base::fromMilliseconds1970(*until)} : std::nullopt;
+            const auto until =
+                Base::numberFrom<double>(this->model().setting("notch.pausedUntil"));
+            const bool isNew = until && *until > m_pauseToldAt;
+            return isNew ? std::optional{Base::fromMilliseconds1970(*until)} : std::nullopt;
         },
-        [this](Base::Instant) { emit changed(); });
+        [this](Base::Instant now) {
+            m_pauseToldAt = Base::milliseconds1970(now);
+            emit changed();
+        });
 }
 
 bool NotchSettings::pinEnabled() const { return preferences().pinEnabled; }

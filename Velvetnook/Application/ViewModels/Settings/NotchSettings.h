@@ -75,6 +75,7 @@ private:
     std::optional<double> pausedUntil() const; // ms since 1970; nothing once it is over
 
     QString m_exclusionRefusal;
+    double m_pauseToldAt; // the time up to which ends of pauses were told
 };
 
 } // namespace Velvetnook
