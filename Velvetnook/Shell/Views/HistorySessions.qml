@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
 import QtQuick
 import Velvetnook.Application
 import Velvetnook.Shell
 
 // Finished sessions, the newest first, day by day. Only what shows is made.
+// Not bound: a list of Qt 6.4 cannot make the heads of its sections from a bound component.
 ListView {
     id: root
 
