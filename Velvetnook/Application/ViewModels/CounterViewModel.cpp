@@ -40,8 +40,10 @@ qlonglong typedNumber(const QString &text)
 
 CounterViewModel::CounterViewModel(ApplicationModel &model, const Formatting &formatting,
                                    QObject *parent)
-    : QObject{parent}, m_model{model}, m_formatting{formatting}, m_shown{shownNow()}
+    : QObject{parent}, m_model{model}, m_formatting{formatting}
 {
+    // Here and not above: the footer reads a member that is made after this one.
+    m_shown = shownNow();
     connect(&m_model, &ApplicationModel::stateChanged, this, &CounterViewModel::follow);
     connect(&m_model, &ApplicationModel::calendarChanged, this, &CounterViewModel::follow);
 }
