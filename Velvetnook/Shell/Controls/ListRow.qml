@@ -54,6 +54,7 @@ T.AbstractButton {
                                - (tail.width > 0 ? tail.width + 10 : 0))
             Txt {
                 width: parent.width
+                horizontalAlignment: Text.AlignLeft // at the edge of the layout's start
                 text: root.title
                 role: "strong"
                 lineHeight: root.note === "" ? 20 : 18
@@ -65,6 +66,7 @@ T.AbstractButton {
             Txt {
                 visible: text !== ""
                 width: parent.width
+                horizontalAlignment: Text.AlignLeft
                 text: root.note
                 role: "note"
                 lineHeight: 16

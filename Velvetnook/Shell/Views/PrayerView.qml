@@ -97,6 +97,8 @@ FocusScope {
         Row {
             spacing: 14
             Txt {
+                // What is told of the focus needs the whole line.
+                visible: !(root.isDay && App.prayer.isFocusing)
                 anchors.verticalCenter: parent.verticalCenter
                 role: "note"
                 color: Theme.color.text3

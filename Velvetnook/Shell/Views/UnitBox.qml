@@ -63,7 +63,8 @@ FocusScope {
         verticalAlignment: TextInput.AlignVCenter
         horizontalAlignment: TextInput.AlignLeft // mirrored with the layout
         selectByMouse: true
-        font.family: Theme.type.numeral.family
+        // Of one face: a line of two is as high as both, and its letters leave the middle.
+        font.family: /[٠-٩]/.test(text) ? "Noto Sans Arabic" : Theme.type.numeral.family
         font.weight: Theme.type.numeral.weight
         font.pixelSize: root.fitted
         color: Theme.color.text1
