@@ -147,16 +147,16 @@ TEST(AskDialog, EscapeIsTheSafeAnswerAndTheFocusReturns)
         Stage stage;
         auto *root = stage.show(
             "FocusScope { objectName: \"surface\"; width: 500; height: 300; property string "
-            "answer; property int presses; Item { objectName: \"main\"; focus: true; "
+            "answered; property int presses; Item { objectName: \"main\"; focus: true; "
             "Keys.onPressed: presses += 1 } AskDialog { objectName: \"ask\"; title: \"Start?\"; "
-            "onAccepted: answer = \"accepted\"; onRejected: answer = \"rejected\" } }");
+            "onAccepted: answered = \"accepted\"; onRejected: answered = \"rejected\" } }");
         auto *ask = child(root, "ask");
         ask->setProperty("dangerous", isDangerous);
         QMetaObject::invokeMethod(ask, "open");
         stage.press(Qt::Key_X);
         EXPECT_EQ(root->property("presses"), 0) << "what is behind hears nothing";
         stage.press(key);
-        EXPECT_EQ(root->property("answer"), answer);
+        EXPECT_EQ(root->property("answered"), answer);
         EXPECT_FALSE(ask->isVisible());
         stage.press(Qt::Key_X);
         EXPECT_EQ(root->property("presses"), 1);

@@ -45,8 +45,8 @@ Item {
         visible: root.interactive
         hoverEnabled: true
         focusPolicy: Qt.TabFocus
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
         Accessible.name: root.name
         onClicked: root.clicked()
     }

@@ -28,8 +28,8 @@ T.AbstractButton {
     horizontalPadding: small ? 10 : 12
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: chosen

@@ -28,8 +28,8 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
     scale: down && !Theme.reducedMotion ? 0.97 : 1
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Accessible.name: name
     Accessible.description: keyHint
 

@@ -27,8 +27,8 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
     text: title
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: note

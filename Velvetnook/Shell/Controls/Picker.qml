@@ -33,8 +33,8 @@ T.AbstractButton {
     text: at >= 0 ? options[at].label : ""
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Keys.onUpPressed: move(-1)
     Keys.onDownPressed: move(1)
     Accessible.role: Accessible.ComboBox

@@ -21,8 +21,8 @@ T.AbstractButton {
     hoverEnabled: true
     // Tab goes to the chosen one, as among radio buttons.
     focusPolicy: chosen ? Qt.TabFocus : Qt.NoFocus
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Accessible.role: Accessible.RadioButton
     Accessible.name: text
     Accessible.checkable: true

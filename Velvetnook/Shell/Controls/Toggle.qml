@@ -32,8 +32,8 @@ Item {
         anchors.bottomMargin: -4
         hoverEnabled: true
         focusPolicy: Qt.TabFocus
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
         Accessible.role: Accessible.CheckBox
         Accessible.name: root.name
         Accessible.checkable: true

@@ -49,7 +49,7 @@ Row {
             Accessible.name: text
             Accessible.checkable: true
             Accessible.checked: isChosen
-            Keys.onReturnPressed: click()
+            Keys.onReturnPressed: clicked()
             Keys.onLeftPressed: root.step(index, root.LayoutMirroring.enabled ? 1 : -1)
             Keys.onRightPressed: root.step(index, root.LayoutMirroring.enabled ? -1 : 1)
             onClicked: root.chosen(modelData.value)

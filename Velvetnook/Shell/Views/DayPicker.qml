@@ -37,7 +37,7 @@ Row {
             Accessible.name: each.name
             Accessible.checkable: true
             Accessible.checked: each.chosen
-            Keys.onReturnPressed: click()
+            Keys.onReturnPressed: clicked()
             onClicked: root.moved(each.value, !each.chosen)
 
             contentItem: Txt {
