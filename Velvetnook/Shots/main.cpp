@@ -106,6 +106,11 @@ bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
     QQmlComponent component{
         &engine,
         QStringLiteral("qrc:/Velvetnook/Shell/Surfaces/%1Surface.qml").arg(shot.surface)};
+    if (!component.isReady()) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(shot.name),
+                     qPrintable(component.errorString()));
+        return false;
+    }
     QVariantMap properties;
     if (!shot.view.isEmpty()) {
         properties.insert(QStringLiteral("view"), shot.view);
