@@ -139,6 +139,21 @@ void Theme::fillColours(QQmlPropertyMap &into, const QString &theme, const QStri
     }
 }
 
+QString Theme::familyOf(const QString &role) const
+{
+    return m_type.value(role).value<QFont>().family();
+}
+
+int Theme::weightOf(const QString &role) const
+{
+    return m_type.value(role).value<QFont>().weight();
+}
+
+int Theme::pixelSizeOf(const QString &role) const
+{
+    return m_type.value(role).value<QFont>().pixelSize();
+}
+
 QColor Theme::accentOf(const QString &accent) const
 {
     const QString theme = m_isDark ? QStringLiteral("dark") : QStringLiteral("light");

@@ -56,6 +56,11 @@ public:
     static qreal outline();
     // The stroke of an icon of that size, in units of its 24 grid.
     Q_INVOKABLE static qreal strokeFor(int size);
+    // The parts of a role's font. Reading them from the font itself, through the map, ends Qt
+    // 6.4 now and then in a crash.
+    Q_INVOKABLE QString familyOf(const QString &role) const;
+    Q_INVOKABLE int weightOf(const QString &role) const;
+    Q_INVOKABLE int pixelSizeOf(const QString &role) const;
     // The colour of one of the accents in the present theme, chosen or not.
     Q_INVOKABLE QColor accentOf(const QString &accent) const;
     // How far the shadow of a step reaches around its surface.

@@ -11,13 +11,13 @@ Item {
 
     property string text
     property string role: "display"
-    property real pixelSize: Theme.type[role].pixelSize
+    property real pixelSize: Theme.pixelSizeOf(role)
     property color color: Theme.color.text1
-    property int weight: Theme.type[role].weight
+    property int weight: Theme.weightOf(role)
     property bool crossFade: false // for a count
 
     readonly property real lineHeight:
-        Math.round(Theme.lineHeight[role] * pixelSize / Theme.type[role].pixelSize)
+        Math.round(Theme.lineHeight[role] * pixelSize / Theme.pixelSizeOf(role))
 
     implicitWidth: Math.ceil(row.implicitWidth)
     implicitHeight: lineHeight

@@ -57,7 +57,7 @@ FocusScope {
             selectByMouse: true
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
-            font.family: Theme.type.body.family
+            font.family: Theme.familyOf("body")
             font.pixelSize: 14
             color: enabled ? Theme.color.text1 : Theme.color.text4
             selectionColor: Theme.color.soft2

@@ -64,7 +64,7 @@ FocusScope {
         focus: true
         activeFocusOnTab: false
         text: App.palette.query
-        font.family: Theme.type.body.family
+        font.family: Theme.familyOf("body")
         font.pixelSize: 18
         color: Theme.color.text1
         selectionColor: Theme.color.soft2

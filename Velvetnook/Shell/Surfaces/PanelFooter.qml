@@ -59,8 +59,8 @@ FocusScope {
         hoverEnabled: true
         focusPolicy: Qt.TabFocus
         text: root.linkText
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
         Accessible.name: text
         onClicked: {
             if (root.hasMessage) {

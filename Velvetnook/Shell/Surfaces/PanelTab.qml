@@ -23,13 +23,13 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: reachable ? Qt.TabFocus : Qt.NoFocus
     activeFocusOnTab: reachable
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Accessible.role: isTab ? Accessible.PageTab : Accessible.Button
     Accessible.name: title
     Accessible.description: keyHint
     Accessible.selected: chosen
-    Accessible.onPressAction: click()
+    Accessible.onPressAction: clicked()
 
     contentItem: Item {
         Icon {

@@ -17,8 +17,8 @@ T.AbstractButton {
     implicitHeight: 30
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Accessible.name: text
 
     contentItem: Item {

@@ -33,8 +33,8 @@ Item {
         Accessible.role: Accessible.Link
         Accessible.name: qsTr("Source: %1").arg(App.names.source)
         onClicked: Qt.openUrlExternally(App.names.sourceUrl)
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
 
         contentItem: Item {
             Row {

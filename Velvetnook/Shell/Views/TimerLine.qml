@@ -25,8 +25,8 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
     onClicked: App.timers.choose(timerId)
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     Keys.onMenuPressed: menu.popup(40, 40)
     Accessible.role: Accessible.ListItem
     Accessible.name: title + ", " + note

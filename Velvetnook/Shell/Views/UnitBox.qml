@@ -64,8 +64,8 @@ FocusScope {
         horizontalAlignment: TextInput.AlignLeft // mirrored with the layout
         selectByMouse: true
         // Of one face: a line of two is as high as both, and its letters leave the middle.
-        font.family: /[٠-٩]/.test(text) ? "Noto Sans Arabic" : Theme.type.numeral.family
-        font.weight: Theme.type.numeral.weight
+        font.family: /[٠-٩]/.test(text) ? "Noto Sans Arabic" : Theme.familyOf("numeral")
+        font.weight: Theme.weightOf("numeral")
         font.pixelSize: root.fitted
         color: Theme.color.text1
         selectionColor: Theme.color.soft2

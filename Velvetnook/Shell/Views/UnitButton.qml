@@ -29,7 +29,7 @@ T.AbstractButton {
     Accessible.role: Accessible.ComboBox
     Accessible.name: name
     Accessible.description: unit
-    Keys.onReturnPressed: click()
+    Keys.onReturnPressed: clicked()
     Keys.onUpPressed: step(-1)
     Keys.onDownPressed: step(1)
     onClicked: menu.open()
