@@ -108,7 +108,7 @@ TEST(PaletteIndex, FindsEveryTitleThatHasTheLettersInOnePiece)
     std::mt19937 random{7};
     for (int item = 0; item < 3000; ++item) {
         std::string title;
-        for (unsigned letters = 3 + random() % 20; letters > 0; --letters) {
+        for (auto letters = 3 + random() % 20; letters > 0; --letters) {
             title += "abcde "[random() % 6];
         }
         titles.push_back(paletteForm(title));
