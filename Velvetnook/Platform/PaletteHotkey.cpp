@@ -25,8 +25,6 @@ constexpr std::uint32_t kNumLock = 0xFF7F; // its keysym
 constexpr std::uint16_t kLocks = XCB_MOD_MASK_LOCK;
 constexpr std::uint16_t kSeen =
     XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
-// A press so soon after the last is the key repeating itself.
-constexpr std::uint32_t kRepeatMs = 900;
 
 struct Keyboard {
     std::uint8_t first{};
@@ -119,6 +117,8 @@ PaletteHotkey::~PaletteHotkey()
     if (m_server != nullptr) {
         QCoreApplication::instance()->removeNativeEventFilter(this);
         release();
+        xcb_ungrab_keyboard(m_server, XCB_CURRENT_TIME);
+        xcb_flush(m_server);
     }
 }
 
@@ -215,12 +215,10 @@ bool PaletteHotkey::nativeEventFilter(const QByteArray &kind, void *message, qin
     }
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
     const auto type = static_cast<std::uint8_t>(event->response_type & 0x7FU);
-    if (type == XCB_KEY_PRESS) {
-        return press(*static_cast<const xcb_key_press_event_t *>(message));
-    }
-    if (type == XCB_KEY_RELEASE && m_grab &&
-        static_cast<const xcb_key_release_event_t *>(message)->detail == m_grab->keycode) {
-        m_isDown = false;
+    if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
+        const auto &key = *static_cast<const xcb_key_press_event_t *>(message);
+        const bool isPress = type == XCB_KEY_PRESS;
+        return m_heldKey != 0 ? whileHeld(key, isPress) : isPress && press(key);
     }
     // Another layout may have the key elsewhere. Its first two events tell of one.
     const bool isNewLayout =
@@ -237,16 +235,32 @@ bool PaletteHotkey::press(const xcb_key_press_event_t &event)
         (event.state & kSeen) != m_grab->modifiers) {
         return false;
     }
-    const bool isRepeat = m_isDown && event.time - m_lastPress < kRepeatMs;
-    m_isDown = true;
-    m_lastPress = event.time;
-    if (!isRepeat) {
-        emit m_palette.toggleWanted();
-    }
-    // Lets go on what was typed since, to where the keyboard is now.
-    xcb_ungrab_keyboard(m_server, event.time);
-    xcb_flush(m_server);
+    m_heldKey = event.detail;
+    emit m_palette.toggleWanted();
+    goOn(XCB_ALLOW_SYNC_KEYBOARD, event);
     return true;
+}
+
+// The server stops at each key until this one is released, and says all of them here.
+bool PaletteHotkey::whileHeld(const xcb_key_press_event_t &event, bool isPress)
+{
+    const bool isOurs = event.detail == m_heldKey;
+    if (isPress && !isOurs) {
+        m_heldKey = 0; // typed on: a key that is pressed later repeats in its place
+        goOn(XCB_ALLOW_REPLAY_KEYBOARD, event);
+        return true;
+    }
+    if (!isPress && isOurs) {
+        m_heldKey = 0;
+    }
+    goOn(XCB_ALLOW_SYNC_KEYBOARD, event);
+    return true;
+}
+
+void PaletteHotkey::goOn(std::uint8_t how, const xcb_key_press_event_t &event)
+{
+    xcb_allow_events(m_server, how, event.time);
+    xcb_flush(m_server);
 }
 
 } // namespace Velvetnook

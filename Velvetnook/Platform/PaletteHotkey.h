@@ -26,7 +26,8 @@ class PaletteViewModel;
 //
 // The server stops the keyboard the moment that the key is pressed. The palette is asked to
 // open, and has the keyboard when that returns; then it goes on. So what is typed meanwhile,
-// however soon, lands there.
+// however soon, lands there. The release of the key is heard wherever the keyboard is then:
+// a key that is held repeats itself, and that must not be taken for another press.
 class PaletteHotkey : public QObject, public QAbstractNativeEventFilter
 {
     Q_OBJECT
@@ -56,6 +57,8 @@ private:
     bool take(const Grab &grab);
     std::optional<Grab> grabFor(const KestCore::ShortcutBinding &binding) const;
     bool press(const xcb_key_press_event_t &event);
+    bool whileHeld(const xcb_key_press_event_t &event, bool isPress);
+    void goOn(std::uint8_t how, const xcb_key_press_event_t &event);
     void tell(const QString &text, const QString &state);
 
     ApplicationModel &m_model;
@@ -66,8 +69,7 @@ private:
     std::vector<std::uint16_t> m_locks;
     std::optional<KestCore::ShortcutBinding> m_binding;
     std::optional<Grab> m_grab;
-    bool m_isDown = false;
-    std::uint32_t m_lastPress = 0; // in the server's milliseconds
+    std::uint8_t m_heldKey = 0; // down since it was pressed; 0: none
 };
 
 } // namespace Velvetnook

@@ -71,12 +71,17 @@ Result<KestCore::Snapshot> fill(KestCore::StateStore &store, const Shot &shot,
     return store.saveCompanion(data.companion);
 }
 
-// Lets the loop run until nothing more arrives and the last fade has ended.
+// Lets the loop run until nothing more arrives and the last fade has ended. In steps: one that
+// a slow load has eaten up leaves time for what begins after it.
 void settle()
 {
-    QEventLoop loop;
-    QTimer::singleShot(350, &loop, &QEventLoop::quit);
-    loop.exec();
+    constexpr int kSteps = 4;
+    constexpr int kStepMs = 90;
+    for (int step = 0; step < kSteps; ++step) {
+        QEventLoop loop;
+        QTimer::singleShot(kStepMs, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
 }
 
 bool draw(const Shot &shot, const Variant &variant, const QDir &folder)

@@ -80,7 +80,9 @@ std::vector<PaletteFound> PaletteCatalogue::search(const QString &query)
 {
     std::vector<PaletteFound> found;
     for (const auto &match : m_index.search(query.toStdString())) {
-        found.push_back({.thing = m_things[match.item], .fit = match.fit});
+        found.push_back({.thing = m_things[match.item],
+                         .fit = match.fit,
+                         .isHabit = !m_habits.empty() && m_habits[match.item]});
     }
     return found;
 }
@@ -228,14 +230,17 @@ void PaletteCatalogue::weigh()
          KestCore::readPaletteUses(m_model.setting(KestCore::kPaletteUsesKey))) {
         weights.emplace(use.key, KestCore::weightAt(use, m_model.now()));
     }
-    if (weights.empty() && !m_isWeighed) {
+    if (weights.empty() && m_habits.empty()) {
         return;
     }
-    m_isWeighed = !weights.empty();
+    m_habits.assign(weights.empty() ? 0 : m_things.size(), false);
     for (std::size_t item = 0; item < m_things.size(); ++item) {
         const auto found = weights.find(keyOf(m_things[item]));
-        m_index.setWeight(static_cast<std::uint32_t>(item),
-                          found == weights.end() ? 0 : found->second);
+        const bool isHabit = found != weights.end();
+        m_index.setWeight(static_cast<std::uint32_t>(item), isHabit ? found->second : 0);
+        if (isHabit) {
+            m_habits[item] = true;
+        }
     }
 }
 

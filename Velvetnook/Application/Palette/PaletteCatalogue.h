@@ -21,6 +21,7 @@ class Formatting;
 struct PaletteFound {
     PaletteThing thing{};
     KestCore::PaletteFit fit{};
+    bool isHabit = false; // chosen before
 };
 
 // Everything that the palette can find, in the language of the interface and in English. What
@@ -64,7 +65,7 @@ private:
     QString m_language;
     std::size_t m_fixed = 0;
     std::size_t m_withRecords = 0;
-    bool m_isWeighed = false;
+    std::vector<bool> m_habits;                 // of each thing, where there are any
     std::vector<KestCore::RecordRef> m_records; // the notes and links that are in it
 };
 

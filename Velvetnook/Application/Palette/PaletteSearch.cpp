@@ -27,6 +27,29 @@ constexpr std::size_t kMostOpen = 4;
 
 std::size_t numberOf(PaletteGroup group) { return static_cast<std::size_t>(group); }
 
+// There is an emoji for nearly every word: before the others they would only be in the way.
+bool isAbove(PaletteGroup one, PaletteGroup other)
+{
+    return one != PaletteGroup::emoji && (other == PaletteGroup::emoji || one < other);
+}
+
+// The group of what is chosen most often among what fits best; without a habit, of those the
+// one that stands first.
+std::optional<PaletteGroup> bestGroup(const std::vector<PaletteFound> &all)
+{
+    if (all.empty()) {
+        return std::nullopt;
+    }
+    PaletteGroup best = all.front().thing.group;
+    for (const PaletteFound &found : all) {
+        if (found.fit != all.front().fit || all.front().isHabit) {
+            break;
+        }
+        best = isAbove(found.thing.group, best) ? found.thing.group : best;
+    }
+    return best;
+}
+
 } // namespace
 
 PaletteSearch::PaletteSearch(const ApplicationModel &model, const Formatting &formatting)
@@ -131,18 +154,18 @@ void PaletteSearch::offerTimer(const QString &query)
 void PaletteSearch::offerFound(const QString &query)
 {
     std::array<std::vector<PaletteThing>, kGroups> groups;
-    std::optional<PaletteGroup> best;
+    const auto all = m_catalogue.search(query);
+    const auto best = bestGroup(all);
     std::size_t better = 0;
-    for (const PaletteFound &found : m_catalogue.search(query)) {
+    for (const PaletteFound &found : all) {
         const bool isFuzzy = found.fit == KestCore::PaletteFit::fuzzy;
         if (isFuzzy && better >= kEnough) {
             break;
         }
         better += isFuzzy ? 0U : 1U;
         ++m_found;
-        best = best.value_or(found.thing.group);
         auto &group = groups.at(numberOf(found.thing.group));
-        if (group.size() < (*best == found.thing.group ? kOfBestGroup : kOfGroup)) {
+        if (group.size() < (best == found.thing.group ? kOfBestGroup : kOfGroup)) {
             group.push_back(found.thing);
         }
     }
