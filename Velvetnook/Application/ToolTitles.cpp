@@ -3,6 +3,8 @@
 #include "Velvetnook/Application/ToolTitles.h"
 
 #include "KestCore/Registry/ToolRegistry.h"
+#include "KestCore/Tools/TimerList.h"
+#include "Velvetnook/Application/Formatting.h"
 
 #include <QCoreApplication>
 
@@ -40,6 +42,24 @@ QString toolTitle(const QString &id)
         std::ranges::find(tools, id.toStdString(), &KestCore::ToolDescriptor::id);
     return found == tools.end() ? QString{}
                                 : QCoreApplication::translate("Tools", found->title.c_str());
+}
+
+QString timerTitle(const KestCore::Timer &timer, const Formatting &formatting)
+{
+    const QString own = QString::fromStdString(timer.record.title);
+    const std::string given{KestCore::displayTitle(timer.state.mode)};
+    const QString usual = QString::fromStdString(given);
+    bool isNumber = own.isEmpty() || own == usual;
+    const qlonglong number = isNumber || !own.startsWith(usual)
+                                 ? 0
+                                 : own.mid(usual.size() + 1).toLongLong(&isNumber);
+    if (!isNumber) {
+        return own;
+    }
+    const QString translated =
+        QCoreApplication::translate("Velvetnook::TimersViewModel", given.c_str());
+    return number == 0 ? translated
+                       : QStringLiteral("%1 %2").arg(translated, formatting.number(number));
 }
 
 } // namespace Velvetnook

@@ -63,7 +63,7 @@ struct PaletteRow {
     QString keyHint{};     // the key that opens it wherever one is
     QString enterHint{};   // Enter, shown while it is the chosen one
     QString enterNote{};   // what that does, where it is not to open
-    bool isArabic = false; // the title is the phrase itself
+    bool isArabic = false; // which is the title then, where it has room
 
     bool operator==(const PaletteRow &) const = default;
 };

@@ -18,8 +18,8 @@ namespace
 {
 
 constexpr std::size_t kGroups = static_cast<std::size_t>(PaletteGroup::settings) + 1;
-constexpr std::size_t kOfBestGroup = 6;
-constexpr std::size_t kOfGroup = 4;
+constexpr std::size_t kOfBestGroup = 5;
+constexpr std::size_t kOfGroup = 3;
 constexpr std::size_t kEnough = 9; // of a better fit: then letters in a row are no match
 constexpr std::size_t kMostTimers = 3;
 constexpr std::size_t kMostTabs = 8;

@@ -62,12 +62,6 @@ QString excerptOf(const KestCore::LocalRecord &note)
     return {};
 }
 
-QString timerTitle(const KestCore::Timer &timer)
-{
-    return timer.record.title.empty() ? fromUtf8(KestCore::displayTitle(timer.state.mode))
-                                      : QString::fromStdString(timer.record.title);
-}
-
 QString timerIcon(const std::string &mode)
 {
     if (mode == "pomodoro") {
@@ -80,11 +74,11 @@ QString timerIcon(const std::string &mode)
 
 QString paletteTr(const char *text) { return QCoreApplication::translate("Palette", text); }
 
-QString timerStepTitle(const KestCore::Timer &timer)
+QString timerStepTitle(const KestCore::Timer &timer, const Formatting &formatting)
 {
     const char *step = timer.state.running ? QT_TRANSLATE_NOOP("Palette", "Pause %1")
                                            : QT_TRANSLATE_NOOP("Palette", "Resume %1");
-    return paletteTr(step).arg(timerTitle(timer));
+    return paletteTr(step).arg(timerTitle(timer, formatting));
 }
 
 QString headOf(PaletteGroup group)
@@ -117,7 +111,7 @@ QString headOf(PaletteGroup group)
 PaletteRow PaletteText::rowOf(const PaletteThing &thing, const QString &query) const
 {
     PaletteRow row = worded(thing);
-    row.spoken = row.title;
+    row.spoken = row.isArabic ? row.arabic : row.title;
     row.title = marked(row.title, query);
     return row;
 }
@@ -157,12 +151,11 @@ PaletteRow PaletteText::phraseRow(const PaletteThing &thing) const
     const KestCore::Phrase &phrase = KestCore::phraseById(thing.id, phrases, phrases.front());
     PaletteRow row{.iconName = isName ? QStringLiteral("names") : QStringLiteral("dhikr")};
     if (m_formatting.isRightToLeft()) {
-        row.title = QString::fromStdString(phrase.arabic);
         row.isArabic = true;
-        return row;
+    } else {
+        row.note = QString::fromStdString(phrase.translation.value_or(""));
     }
     row.title = phraseTitle(phrase);
-    row.note = QString::fromStdString(phrase.translation.value_or(""));
     row.arabic = QString::fromStdString(phrase.arabic);
     return row;
 }
@@ -224,14 +217,15 @@ PaletteRow PaletteText::timerRow(const PaletteThing &thing) const
     }
     const KestCore::Timer &timer = timers->front();
     const QString time = m_formatting.duration(KestCore::remaining(timer.state, m_model.now()));
-    PaletteRow row{.title = timerTitle(timer), .iconName = timerIcon(timer.state.mode)};
+    PaletteRow row{.title = timerTitle(timer, m_formatting),
+                   .iconName = timerIcon(timer.state.mode)};
     if (thing.group == PaletteGroup::resume) {
         row.note = KestCore::countsDown(timer.state)
                        ? paletteTr(QT_TRANSLATE_NOOP("Palette", "%1 left")).arg(time)
                        : time;
         return row;
     }
-    row.title = timerStepTitle(timer);
+    row.title = timerStepTitle(timer, m_formatting);
     const char *note = timer.state.running
                            ? QT_TRANSLATE_NOOP("Palette", "Timers · %1")
                            : QT_TRANSLATE_NOOP("Palette", "Timers · paused at %1");

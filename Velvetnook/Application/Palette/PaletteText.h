@@ -37,7 +37,7 @@ struct PaletteMoment {
 std::vector<PaletteMoment> momentsOfToday(const ApplicationModel &model);
 
 // "Pause Focus" or "Resume Stopwatch": what choosing it does.
-QString timerStepTitle(const KestCore::Timer &timer);
+QString timerStepTitle(const KestCore::Timer &timer, const Formatting &formatting);
 
 QString headOf(PaletteGroup group);
 

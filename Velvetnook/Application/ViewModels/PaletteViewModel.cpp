@@ -11,6 +11,7 @@
 #include "Velvetnook/Application/Palette/PaletteSearch.h"
 
 #include <algorithm>
+#include <span>
 
 namespace Velvetnook
 {
@@ -21,6 +22,12 @@ namespace
 QVariantMap keyHint(const QString &key, const QString &text)
 {
     return {{QStringLiteral("key"), key}, {QStringLiteral("text"), text}};
+}
+
+int headsAmong(std::span<const PaletteRow> rows)
+{
+    return static_cast<int>(
+        std::ranges::count_if(rows, [](const PaletteRow &row) { return !row.head.isEmpty(); }));
 }
 
 } // namespace
@@ -42,10 +49,12 @@ bool PaletteViewModel::isNothingFound() const
     return m_search->offers().empty() && !m_query.trimmed().isEmpty();
 }
 
-int PaletteViewModel::headCount() const
+int PaletteViewModel::headCount() const { return headsAmong(m_rows->rows()); }
+
+int PaletteViewModel::headsInSight() const
 {
-    return static_cast<int>(std::ranges::count_if(
-        m_rows->rows(), [](const PaletteRow &row) { return !row.head.isEmpty(); }));
+    const std::span all{m_rows->rows()};
+    return headsAmong(all.first(std::min(all.size(), static_cast<std::size_t>(mostRows()))));
 }
 
 QString PaletteViewModel::footer() const

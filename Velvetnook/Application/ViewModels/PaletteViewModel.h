@@ -34,6 +34,9 @@ class PaletteViewModel : public QObject
     Q_PROPERTY(int current READ current WRITE setCurrent NOTIFY currentChanged)
     Q_PROPERTY(bool isNothingFound READ isNothingFound NOTIFY rowsChanged)
     Q_PROPERTY(int headCount READ headCount NOTIFY rowsChanged) // of the rows
+    // What is seen before it scrolls: so many rows, with their heads.
+    Q_PROPERTY(int mostRows READ mostRows CONSTANT)
+    Q_PROPERTY(int headsInSight READ headsInSight NOTIFY rowsChanged)
     Q_PROPERTY(QString footer READ footer NOTIFY rowsChanged)
     Q_PROPERTY(QVariantList keys READ keys NOTIFY rowsChanged) // [{key, text}]
     // What the rows are the actions of; empty while they are what was found.
@@ -53,6 +56,8 @@ public:
     int current() const { return m_current; }
     bool isNothingFound() const;
     int headCount() const;
+    static int mostRows() { return 9; }
+    int headsInSight() const;
     QString footer() const;
     QVariantList keys() const;
     QString subject() const { return m_subject; }

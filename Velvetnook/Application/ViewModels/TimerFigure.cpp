@@ -3,6 +3,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/TimerSteps.h"
+#include "Velvetnook/Application/ToolTitles.h"
 #include "Velvetnook/Application/ViewModels/TimersViewModel.h"
 
 #include <algorithm>
@@ -45,21 +46,7 @@ Base::Instant nextChange(const TimerState &timer, Base::Instant now, double unit
 
 QString TimersViewModel::titleOf(const Timer &timer) const
 {
-    const QString own = QString::fromStdString(timer.record.title);
-    const std::string_view given = KestCore::displayTitle(timer.state.mode);
-    const QString usual = QString::fromUtf8(given.data(), static_cast<qsizetype>(given.size()));
-    if (!own.startsWith(usual)) {
-        return own;
-    }
-    // One that the engine named, with the number that tells it from others.
-    bool isNumber = own == usual;
-    const qlonglong number = isNumber ? 0 : own.mid(usual.size() + 1).toLongLong(&isNumber);
-    if (!isNumber) {
-        return own;
-    }
-    const QString translated = tr(std::string{given}.c_str());
-    return number == 0 ? translated
-                       : QStringLiteral("%1 %2").arg(translated, m_formatting.number(number));
+    return timerTitle(timer, m_formatting);
 }
 
 QString TimersViewModel::noteOf(const Timer &timer) const

@@ -23,6 +23,10 @@ Item {
     required property string enterNote
     required property bool isArabic
     property bool isCurrent: false
+    // A phrase too long for the line stands whole in the counter, and here in Latin letters.
+    readonly property real widestArabic: face.width * (isArabic ? 0.8 : 0.66)
+    readonly property bool hasArabic: arabic !== "" && Theme.ink.advance(arabic, 18) < widestArabic
+    readonly property bool isArabicTitle: isArabic && hasArabic
 
     signal clicked
 
@@ -104,19 +108,20 @@ Item {
                 }
             }
             Loader {
-                active: root.isArabic
+                active: root.isArabicTitle
                 visible: active
                 sourceComponent: ArabicText {
-                    text: root.spoken
+                    text: root.arabic
                     pixelSize: 18
                     byInk: true
-                    maximumWidth: face.width - 120
                 }
             }
             Txt {
-                visible: !root.isArabic
-                Layout.maximumWidth: face.width * (root.note === "" ? 1 : 0.6)
-                Layout.minimumWidth: Math.min(implicitWidth, 120)
+                visible: !root.isArabicTitle
+                Layout.fillWidth: true
+                Layout.maximumWidth: Math.min(Math.ceil(implicitWidth),
+                                              face.width * (root.note === "" ? 1 : 0.6))
+                Layout.minimumWidth: Math.min(Math.ceil(implicitWidth), 120)
                 role: "strong"
                 pixelSize: 14
                 textFormat: Text.StyledText
@@ -133,13 +138,12 @@ Item {
                 Accessible.ignored: true
             }
             Loader {
-                active: root.arabic !== ""
+                active: root.hasArabic && !root.isArabic
                 visible: active
                 sourceComponent: ArabicText {
                     text: root.arabic
                     pixelSize: 18
                     byInk: true
-                    maximumWidth: face.width / 2
                 }
             }
             Txt {

@@ -60,7 +60,9 @@ FocusScope {
         anchors.leftMargin: 14
         anchors.right: escapeKey.left
         anchors.rightMargin: 14
-        anchors.verticalCenter: parent.verticalCenter
+        // By the baseline: a script of another font makes the line higher, not lower.
+        anchors.baseline: parent.verticalCenter
+        anchors.baselineOffset: 6
         focus: true
         activeFocusOnTab: false
         text: App.palette.query
@@ -73,11 +75,17 @@ FocusScope {
         clip: true
         maximumLength: 500
         horizontalAlignment: TextInput.AlignLeft
-        cursorDelegate: Rectangle {
+        cursorDelegate: Item {
             visible: input.cursorVisible
             width: 2
-            radius: 1
-            color: Theme.color.accent
+
+            Rectangle {
+                y: input.baselineOffset - 17
+                width: 2
+                height: 22
+                radius: 1
+                color: Theme.color.accent
+            }
         }
         onTextEdited: App.palette.query = text
         Keys.priority: Keys.BeforeItem
@@ -99,7 +107,9 @@ FocusScope {
         }
     }
     Text {
-        anchors.fill: input
+        anchors.left: input.left
+        anchors.right: input.right
+        anchors.baseline: input.baseline
         anchors.leftMargin: 5
         anchors.rightMargin: 5
         visible: input.text === "" && input.preeditText === ""
@@ -107,7 +117,6 @@ FocusScope {
         font: input.font
         color: Theme.color.text3
         elide: Text.ElideRight
-        verticalAlignment: Text.AlignVCenter
         horizontalAlignment: Text.AlignLeft
         Accessible.ignored: true
     }

@@ -14,9 +14,9 @@ FocusScope {
 
     readonly property int rowHeight: 44
     readonly property int headHeight: 32
-    readonly property int mostRows: 9
+    readonly property int mostRows: App.palette.mostRows
     readonly property real wantedBody: list.count * rowHeight + App.palette.headCount * headHeight
-    readonly property real mostBody: Math.min(mostRows * rowHeight + 4 * headHeight,
+    readonly property real mostBody: Math.min(mostRows * rowHeight + App.palette.headsInSight * headHeight,
                                               maximumHeight - line.height - foot.height - 8)
 
     implicitWidth: 640

@@ -21,6 +21,16 @@ FocusScope {
     readonly property var custom: hasMessage ? null : shown?.footerContent ?? null
 
     Hairline { width: parent.width }
+    Icon {
+        id: sign
+
+        visible: name !== ""
+        anchors.left: parent.left
+        anchors.verticalCenter: parent.verticalCenter
+        size: 14
+        color: Theme.color.text3
+        name: root.hasMessage ? "" : root.shown?.footerIcon ?? ""
+    }
     Loader {
         id: own
 
@@ -31,8 +41,9 @@ FocusScope {
     }
     Txt {
         anchors.left: parent.left
+        anchors.leftMargin: sign.visible ? 22 : 0
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, parent.width - 14 - (link.visible ? link.width : 0)
+        width: Math.min(implicitWidth, parent.width - 14 - anchors.leftMargin - (link.visible ? link.width : 0)
                         - (hints.visible ? hints.width : 0) - (own.active ? own.width : 0))
         role: "note"
         color: root.hasMessage ? Theme.color.text1 : Theme.color.text3

@@ -12,6 +12,7 @@ FocusScope {
     readonly property bool isDay: App.prayer.page === "day"
     readonly property string footerText: !App.prayer.hasPlace ? ""
         : isDay && App.prayer.isFocusing ? App.prayer.focusState : App.prayer.note
+    readonly property string footerIcon: footerText === App.prayer.note && footerText !== "" ? "info" : ""
     readonly property Component footerContent: App.prayer.hasPlace ? footerEnd : null
     readonly property Item mainItem: page.item
     readonly property bool isSeen: visible && App.panel.isOpen
