@@ -1386,8 +1386,8 @@
         <translation>ما يتيحه سطح المكتب هذا</translation>
     </message>
     <message>
-        <source>The same list that “kest doctor” prints.</source>
-        <translation>القائمة نفسها التي يطبعها الأمر «kest doctor».</translation>
+        <source>The same list that “velvetnook --capabilities” prints.</source>
+        <translation>القائمة نفسها التي يطبعها الأمر «velvetnook --capabilities».</translation>
     </message>
 </context>
 <context>
@@ -1666,6 +1666,10 @@
     <message>
         <source>Notification at each prayer</source>
         <translation>إشعار عند كل صلاة</translation>
+    </message>
+    <message>
+        <source>Sound with the notification</source>
+        <translation>صوت مع الإشعار</translation>
     </message>
     <message>
         <source>In the strip in the last hour</source>
@@ -2042,6 +2046,109 @@
     <message>
         <source>Put %1 into the header</source>
         <translation>وضع %1 في الترويسة</translation>
+    </message>
+</context>
+<context>
+    <name>ToolSummaries</name>
+    <message>
+        <source>How long you have been at the screen today, known only to this computer.</source>
+        <translation>كم مكثت أمام الشاشة اليوم، ولا يعلم بذلك إلا هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>What is left of your coding assistants’ limits, and which one waits for you.</source>
+        <translation>ما بقي من حدود مساعدي البرمجة، وأيّهم ينتظرك.</translation>
+    </message>
+    <message>
+        <source>What matters right now, on one calm page.</source>
+        <translation>ما يهمّ الآن، في صفحة هادئة واحدة.</translation>
+    </message>
+    <message>
+        <source>Count a phrase bead by bead, with a target, undo and a quiet history.</source>
+        <translation>عدّ الأذكار حبّةً حبّة، مع هدف وتراجع وسجل هادئ.</translation>
+    </message>
+    <message>
+        <source>Today’s prayer times and the Qibla, worked out on this computer.</source>
+        <translation>مواقيت صلاة اليوم والقبلة، تُحسب على هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>The Names in Arabic with their meaning, and one for each day.</source>
+        <translation>الأسماء الحسنى بمعانيها، واسم لكل يوم.</translation>
+    </message>
+    <message>
+        <source>Your count on a full ring of beads, with nothing else in view.</source>
+        <translation>عدّك على حلقة كاملة من الحبّات، ولا شيء سواها.</translation>
+    </message>
+    <message>
+        <source>One quiet invitation each Friday to send blessings upon the Prophet.</source>
+        <translation>دعوة هادئة كل جمعة إلى الصلاة على النبي.</translation>
+    </message>
+    <message>
+        <source>Focus, countdown, stopwatch and a gentle nudge to drink water.</source>
+        <translation>تركيز وعدّ تنازلي وساعة إيقاف وتذكير لطيف بشرب الماء.</translation>
+    </message>
+    <message>
+        <source>One sheet for whatever is on your mind, saved as you type.</source>
+        <translation>ورقة واحدة لكل ما يخطر ببالك، تُحفظ وأنت تكتب.</translation>
+    </message>
+    <message>
+        <source>Short notes you can find again by any word in them.</source>
+        <translation>ملاحظات قصيرة تجدها بأي كلمة فيها.</translation>
+    </message>
+    <message>
+        <source>What you copied, encrypted on this computer, with the favourites kept.</source>
+        <translation>ما نسخته، مشفَّرًا على هذا الحاسوب، مع الاحتفاظ بالمفضّلة.</translation>
+    </message>
+    <message>
+        <source>A place to set files down for a moment and pick them up elsewhere.</source>
+        <translation>مكان تضع فيه الملفات لحظةً وتأخذها في مكان آخر.</translation>
+    </message>
+    <message>
+        <source>The files and folders you come back to, one step away.</source>
+        <translation>الملفات والمجلدات التي تعود إليها، على بُعد خطوة.</translation>
+    </message>
+    <message>
+        <source>Your own dua bookmarks, each a link to a source you chose.</source>
+        <translation>إشارات أدعيتك، كل منها رابط إلى مصدر اخترته.</translation>
+    </message>
+    <message>
+        <source>Find an emoji by its name and copy it with one key.</source>
+        <translation>جد رمزًا تعبيريًّا باسمه وانسخه بمفتاح واحد.</translation>
+    </message>
+    <message>
+        <source>Convert length, mass, temperature and more as you type.</source>
+        <translation>تحويل الأطوال والكتل ودرجات الحرارة وغيرها وأنت تكتب.</translation>
+    </message>
+    <message>
+        <source>The month to look at, with each day’s events and its Islamic date.</source>
+        <translation>الشهر أمامك، بأحداث كل يوم وتاريخه الهجري.</translation>
+    </message>
+    <message>
+        <source>Temperature, rain and wind for your place, from MET Norway.</source>
+        <translation>الحرارة والمطر والريح في مكانك، من MET Norway.</translation>
+    </message>
+    <message>
+        <source>See what is playing and steer it, in a player or a browser tab.</source>
+        <translation>اعرف ما يُعزف وتحكّم فيه، في مشغّل أو في علامة تبويب.</translation>
+    </message>
+    <message>
+        <source>Rain, wind and other soft sounds to mix, with a time to fall silent.</source>
+        <translation>مطر وريح وأصوات هادئة أخرى تمزجها، ووقت تصمت عنده.</translation>
+    </message>
+    <message>
+        <source>Processor, memory, disk and network, and which applications use them.</source>
+        <translation>المعالج والذاكرة والقرص والشبكة، والتطبيقات التي تستخدمها.</translation>
+    </message>
+    <message>
+        <source>Payments, refunds, fees and payouts from your own Stripe account.</source>
+        <translation>المدفوعات والمبالغ المستردة والرسوم والتحويلات من حسابك في Stripe.</translation>
+    </message>
+    <message>
+        <source>Visitors, top pages and referrers of your website, from DataFast.</source>
+        <translation>زوّار موقعك وأهم صفحاته ومصادره، من DataFast.</translation>
+    </message>
+    <message>
+        <source>How Velvetnook looks, when it speaks up and which tools stay close.</source>
+        <translation>كيف يبدو Velvetnook، ومتى ينبّهك، وأي الأدوات تبقى قريبة.</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,8 @@ class Formatting;
 // What the tool is called in the language of the interface. The catalogue's own title for a
 // tool that has no translation, and nothing for one that nobody knows.
 QString toolTitle(const QString &id);
+// What it is for, likewise.
+QString toolSummary(const QString &id);
 
 // What a timer is called: its own title, or the one that it was given, translated and with the
 // number that tells it from others.

@@ -112,7 +112,7 @@ std::vector<Shot> toolShots()
         tool("notes-refused", "notes", fillNotes,
              [](App &app) {
                  app.notes()->choose(QStringLiteral("shot-2"));
-                 app.notes()->edit(QString{1'000'001, u'a'});
+                 app.notes()->edit(QString{QStringLiteral("one line more\n")}.repeated(80'000));
                  app.notes()->leave();
              }),
         tool("notes-long", "notes", fillLongNotes, openFirstNote),

@@ -112,8 +112,7 @@ QString PanelViewModel::icon() const
 
 QString PanelViewModel::summary() const
 {
-    const KestCore::ToolDescriptor *tool = descriptorOf(chosenTab());
-    return tool == nullptr ? QString{} : QString::fromStdString(tool->summary);
+    return toolSummary(chosenTab());
 }
 
 bool PanelViewModel::isFrosted() const

@@ -80,7 +80,10 @@ FocusScope {
                 hoverEnabled: true
                 selectByMouse: true
                 verticalAlignment: TextInput.AlignVCenter
-                font: Theme.type.body
+                // Of one face: a line of two is as high as both, and its letters leave the middle.
+                font.family: /[؀-ۿ]/.test(text) ? "Noto Sans Arabic" : Theme.familyOf("body")
+                font.pixelSize: Theme.type.body.pixelSize
+                font.weight: Theme.weightOf("body")
                 color: enabled ? Theme.color.text1 : Theme.color.text4
                 selectionColor: Theme.color.soft2
                 selectedTextColor: Theme.color.text1

@@ -29,6 +29,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         Txt {
             width: parent.width
+            horizontalAlignment: Text.AlignLeft // mirrored with the layout
             text: root.title
             role: "strong"
             lineHeight: 18
@@ -38,6 +39,7 @@ Item {
         Txt {
             visible: text !== ""
             width: parent.width
+            horizontalAlignment: Text.AlignLeft // mirrored with the layout
             text: root.note
             role: "note"
             lineHeight: 16

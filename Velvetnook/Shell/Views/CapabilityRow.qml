@@ -45,6 +45,7 @@ Item {
         y: 10
         Txt {
             width: parent.width
+            horizontalAlignment: Text.AlignLeft // mirrored with the layout
             role: "strong"
             lineHeight: 18
             text: root.name
@@ -52,6 +53,7 @@ Item {
         Txt {
             visible: text !== ""
             width: parent.width
+            horizontalAlignment: Text.AlignLeft // mirrored with the layout
             role: "note"
             color: Theme.color.text3
             wrapMode: Text.Wrap
@@ -60,6 +62,7 @@ Item {
         Txt {
             visible: text !== ""
             width: parent.width
+            horizontalAlignment: Text.AlignLeft // mirrored with the layout
             role: "note"
             color: Theme.color.text2
             wrapMode: Text.Wrap

@@ -11,13 +11,16 @@ Item {
 
     required property QtObject page
 
+    // An Arabic interface shows the phrase alone, and larger.
+    readonly property bool isAlone: App.format.isRightToLeft
+
     implicitHeight: 117
 
     ArabicText {
         anchors.horizontalCenter: parent.horizontalCenter
-        y: 4
+        y: root.isAlone ? Math.round((root.height - height) / 2) : 4
         text: root.page.sampleArabic
-        pixelSize: 28 * Theme.phraseScale
+        pixelSize: (root.isAlone ? 36 : 28) * Theme.phraseScale
         maximumWidth: root.width - 32
     }
     Column {
@@ -29,14 +32,14 @@ Item {
         anchors.bottomMargin: 10
         height: 40
         Txt {
-            visible: root.page.transliteration
+            visible: root.page.transliteration && !root.isAlone
             width: parent.width
             role: "strong"
             horizontalAlignment: Text.AlignHCenter
             text: root.page.sampleTransliteration
         }
         Txt {
-            visible: root.page.translation
+            visible: root.page.translation && !root.isAlone
             width: parent.width
             color: Theme.color.text2
             horizontalAlignment: Text.AlignHCenter

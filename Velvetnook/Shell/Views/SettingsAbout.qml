@@ -38,7 +38,7 @@ Column {
     SettingsGroup {
         visible: root.page.capabilities !== null
         title: qsTr("What this desktop offers")
-        note: qsTr("The same list that “kest doctor” prints.")
+        note: qsTr("The same list that “velvetnook --capabilities” prints.")
         Repeater {
             model: root.page.capabilities
             delegate: CapabilityRow {}

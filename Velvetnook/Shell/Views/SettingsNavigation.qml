@@ -30,11 +30,11 @@ FocusScope {
         fieldHeight: 32
         iconName: "search"
         hint: qsTr("Search settings")
+        text: App.settings.query
         onEdited: text => App.settings.query = text
         Keys.onDownPressed: root.step(-1, 1)
         Keys.onEscapePressed: event => {
             event.accepted = text !== "";
-            text = "";
             App.settings.query = "";
         }
         onAccepted: root.step(-1, 1)

@@ -91,6 +91,15 @@ Column {
             }
         }
         SettingsRow {
+            title: qsTr("Sound with the notification")
+            Toggle {
+                name: qsTr("Sound with the notification")
+                enabled: root.page.notifies
+                checked: root.page.sounds
+                onToggled: checked => root.page.sounds = checked
+            }
+        }
+        SettingsRow {
             title: qsTr("In the strip in the last hour")
             note: qsTr("The next prayer stands in the strip when it is near.")
             Toggle {

@@ -20,7 +20,8 @@ Column {
     }
 
     SettingsGroup {
-        note: root.page.favouritesNote
+        note: root.page.favouritesNote + " "
+              + qsTr("Drag a tool by its handle, or press Alt and an arrow on it.")
         Repeater {
             id: rows
 
@@ -34,17 +35,5 @@ Column {
                 onEnableWanted: on => root.page.setEnabled(toolId, on)
             }
         }
-    }
-    Item {
-        width: 1
-        height: 8
-    }
-    Txt {
-        x: 4
-        width: parent.width - 8
-        role: "note"
-        color: Theme.color.text3
-        wrapMode: Text.Wrap
-        text: qsTr("Drag a tool by its handle, or press Alt and an arrow on it.")
     }
 }

@@ -29,7 +29,7 @@ FocusScope {
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 45
-        width: 140
+        width: 132
         Txt {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter

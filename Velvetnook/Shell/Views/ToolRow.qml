@@ -101,6 +101,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             Txt {
                 width: parent.width
+                horizontalAlignment: Text.AlignLeft // mirrored with the layout
                 role: "strong"
                 lineHeight: 18
                 text: root.title
@@ -108,6 +109,7 @@ Item {
             }
             Txt {
                 width: parent.width
+                horizontalAlignment: Text.AlignLeft // mirrored with the layout
                 role: "note"
                 lineHeight: 16
                 text: root.summary

@@ -74,11 +74,18 @@ FocusScope {
         Accessible.name: root.label
         onTextEdited: root.edited(text)
         onAccepted: root.accepted()
-        cursorDelegate: Rectangle {
+        cursorDelegate: Item {
             visible: input.activeFocus
             width: 2
-            radius: 1
-            color: Theme.color.accent
+
+            // As high as the digits, whatever line their face has.
+            Rectangle {
+                y: input.baselineOffset - input.cursorRectangle.y - root.fitted
+                width: 2
+                height: root.fitted * 1.25
+                radius: 1
+                color: Theme.color.accent
+            }
         }
         Binding {
             target: input

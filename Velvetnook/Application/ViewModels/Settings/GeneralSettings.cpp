@@ -48,11 +48,7 @@ bool GeneralSettings::completionSound() const
     return preferences().soundEnabled && preferences().completionSound;
 }
 
-void GeneralSettings::setLaunchAtLogin(bool on)
-{
-    set("general.launchAtLogin", on);
-    emit launchAtLoginWanted(on);
-}
+void GeneralSettings::setLaunchAtLogin(bool on) { set("general.launchAtLogin", on); }
 
 void GeneralSettings::setLanguage(const QString &value) { set("appearance.language", value); }
 void GeneralSettings::setDigits(const QString &value) { set("appearance.digits", value); }

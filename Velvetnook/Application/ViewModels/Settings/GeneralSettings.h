@@ -45,12 +45,8 @@ public:
     void setKeepsHistory(bool on);
     void setCompletionSound(bool on);
 
-    // The desktop's answer to launchAtLoginWanted; empty when it was done.
+    // What the desktop, which follows the setting, answered; empty when it was done.
     void setLaunchRefusal(const QString &message);
-
-signals:
-    // The choice is kept; whoever knows the desktop carries it out.
-    void launchAtLoginWanted(bool on);
 
 private:
     QString m_launchRefusal;

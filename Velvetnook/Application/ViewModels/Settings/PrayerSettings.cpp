@@ -170,6 +170,7 @@ QString PrayerSettings::hijriOffsetText() const
 QString PrayerSettings::hijriDate() const { return islamicDateText(model(), formatting()); }
 
 bool PrayerSettings::notifies() const { return isOn("prayer.notifications", false); }
+bool PrayerSettings::sounds() const { return isOn("prayer.sound", false); }
 bool PrayerSettings::showsInStrip() const { return isOn("prayer.strip", false); }
 
 QVariantList PrayerSettings::times() const
@@ -220,6 +221,7 @@ void PrayerSettings::setHijriOffset(int days)
 }
 
 void PrayerSettings::setNotifies(bool on) { set("prayer.notifications", on); }
+void PrayerSettings::setSounds(bool on) { set("prayer.sound", on); }
 void PrayerSettings::setShowsInStrip(bool on) { set("prayer.strip", on); }
 
 void PrayerSettings::setAdjustment(const QString &prayer, int minutes)

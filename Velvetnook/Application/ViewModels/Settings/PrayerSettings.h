@@ -27,6 +27,7 @@ class PrayerSettings : public SettingsPage
     Q_PROPERTY(QString hijriOffsetText READ hijriOffsetText NOTIFY changed)
     Q_PROPERTY(QString hijriDate READ hijriDate NOTIFY changed) // of today
     Q_PROPERTY(bool notifies READ notifies WRITE setNotifies NOTIFY changed)
+    Q_PROPERTY(bool sounds READ sounds WRITE setSounds NOTIFY changed)
     Q_PROPERTY(bool showsInStrip READ showsInStrip WRITE setShowsInStrip NOTIFY changed)
     // Today's times, [{name, time, isNext}]; empty, with a message, where there are none.
     Q_PROPERTY(QVariantList times READ times NOTIFY changed)
@@ -53,6 +54,7 @@ public:
     QString hijriOffsetText() const;
     QString hijriDate() const;
     bool notifies() const;
+    bool sounds() const;
     bool showsInStrip() const;
     QVariantList times() const;
     QString timesMessage() const;
@@ -62,6 +64,7 @@ public:
     void setHighLatitude(const QString &value);
     void setHijriOffset(int days);
     void setNotifies(bool on);
+    void setSounds(bool on);
     void setShowsInStrip(bool on);
     Q_INVOKABLE void setAdjustment(const QString &prayer, int minutes);
 

@@ -6,7 +6,6 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <array>
@@ -105,7 +104,7 @@ QVariant ToolSettings::data(const QModelIndex &index, int role) const
     case title:
         return toolTitle(QString::fromStdString(id));
     case summary:
-        return QCoreApplication::translate("ToolSummaries", tool.summary.c_str());
+        return toolSummary(QString::fromStdString(id));
     case icon:
         return QString::fromStdString(tool.icon);
     case enabled:
