@@ -74,6 +74,10 @@ int RemindersViewModel::interval() const
 {
     return static_cast<int>(preferences().reminderInterval);
 }
+QString RemindersViewModel::intervalDigits() const
+{
+    return m_formatting.digits(QString::number(interval()));
+}
 QString RemindersViewModel::intervalText() const
 {
     return m_formatting.digits(tr("%n minute(s)", nullptr, interval()));

@@ -29,6 +29,7 @@ class RemindersViewModel : public QObject
     Q_OBJECT
     Q_PROPERTY(bool reminderEnabled READ reminderEnabled NOTIFY changed)
     Q_PROPERTY(int interval READ interval NOTIFY changed)
+    Q_PROPERTY(QString intervalDigits READ intervalDigits NOTIFY changed) // as it is typed
     Q_PROPERTY(QString intervalText READ intervalText NOTIFY changed) // "60 minutes"
     Q_PROPERTY(QString activeStart READ activeStart NOTIFY changed)   // "09:00"
     Q_PROPERTY(QString activeEnd READ activeEnd NOTIFY changed)
@@ -54,6 +55,7 @@ public:
 
     bool reminderEnabled() const;
     int interval() const;
+    QString intervalDigits() const;
     QString intervalText() const;
     QString activeStart() const;
     QString activeEnd() const;

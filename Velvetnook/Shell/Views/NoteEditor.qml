@@ -15,6 +15,9 @@ FocusScope {
     function load() {
         pad.text = model.text;
         title.text = model.title;
+        if (model.isScratchpad) {
+            pad.input.cursorPosition = pad.input.length; // one writes on below
+        }
     }
 
     Component.onCompleted: load()
@@ -49,6 +52,7 @@ FocusScope {
         clip: true
         selectByMouse: true
         maximumLength: 200
+        autoScroll: activeFocus // else its beginning is what is seen
         verticalAlignment: TextInput.AlignVCenter
         font: Theme.type.heading
         color: Theme.color.text1
@@ -79,7 +83,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.leftMargin: 18
-        anchors.rightMargin: 10
+        anchors.rightMargin: 18
         anchors.top: title.bottom
         anchors.topMargin: 8
         anchors.bottom: foot.top

@@ -12,7 +12,7 @@ Item {
     required property QtObject page
 
     // An Arabic interface shows the phrase alone, and larger.
-    readonly property bool isAlone: App.format.isRightToLeft
+    readonly property bool isAlone: Qt.application.layoutDirection === Qt.RightToLeft
 
     implicitHeight: 117
 

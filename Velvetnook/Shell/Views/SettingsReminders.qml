@@ -27,7 +27,7 @@ Column {
             ValueField {
                 width: error === "" ? 72 : 220
                 name: qsTr("Minutes between reminders")
-                value: root.page.interval
+                value: root.page.intervalDigits
                 onFinished: text => error = root.page.setInterval(text)
             }
             Txt {
