@@ -63,10 +63,10 @@ bool PaletteWindow::prepare()
     if (rootObject() == nullptr) {
         return false;
     }
+    place(); // tells it how high it may become, on which its height depends
     connect(rootObject(), SIGNAL(surfaceHeightChanged()), this, SLOT(place()));
     connect(rootObject(), SIGNAL(dismissed()), this, SLOT(close()));
     m_app.palette()->begin();
-    place();
     create();
     return true;
 }
