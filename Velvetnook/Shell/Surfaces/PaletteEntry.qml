@@ -157,6 +157,9 @@ Item {
                 visible: text !== ""
                 text: root.isCurrent && root.enterHint !== "" ? root.enterHint : root.keyHint
                 Layout.leftMargin: root.arabic === "" ? 0 : 8
+                ink: root.isCurrent ? Theme.color.text1 : Theme.color.text2
+                border.color: root.isCurrent ? Qt.alpha(Theme.color.accent, 0.45)
+                                             : Theme.color.line2
             }
             Txt {
                 visible: root.isCurrent && root.enterNote !== ""

@@ -41,7 +41,7 @@ FocusScope {
     }
     Txt {
         anchors.left: parent.left
-        anchors.leftMargin: sign.visible ? 22 : 0
+        anchors.leftMargin: sign.visible ? 20 : 0
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, parent.width - 14 - anchors.leftMargin - (link.visible ? link.width : 0)
                         - (hints.visible ? hints.width : 0) - (own.active ? own.width : 0))

@@ -76,6 +76,7 @@ Item {
         anchors.rightMargin: 16
         y: 11
         role: "label"
+        font.capitalization: Font.Capitalize
         color: root.level === "full" ? Theme.color.text2 : root.tone
         text: root.levelText
     }

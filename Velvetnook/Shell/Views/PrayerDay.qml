@@ -20,7 +20,7 @@ FocusScope {
         Txt {
             width: parent.width
             role: "label"
-            color: Theme.color.text3
+            color: Theme.color.text2
             text: App.prayer.nextLabel
             Accessible.ignored: true
         }
