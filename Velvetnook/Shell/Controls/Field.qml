@@ -11,6 +11,7 @@ FocusScope {
     property alias text: input.text
     property string label
     property string hint
+    property color hintColor: Theme.color.text3
     property string error
     property string iconName
     property string name: label !== "" ? label : hint // for a screen reader
@@ -106,7 +107,7 @@ FocusScope {
                     anchors.margins: 11
                     anchors.verticalCenter: parent.verticalCenter
                     text: root.hint
-                    color: root.enabled ? Theme.color.text3 : Theme.color.text4
+                    color: root.enabled ? root.hintColor : Theme.color.text4
                     Accessible.ignored: true
                 }
             }

@@ -35,6 +35,7 @@ Item {
             width: parent.width
             fieldHeight: 40
             iconName: "place"
+            hintColor: root.place.isSet ? Theme.color.text1 : Theme.color.text3
             hint: root.place.isSet ? root.place.title : qsTr("Search for a city")
             results: found
             Component.onCompleted: forceActiveFocus()
@@ -42,7 +43,7 @@ Item {
         Txt {
             id: where
 
-            visible: root.place.isSet && !found.visible
+            visible: root.place.isSet && !found.isFilled
             anchors.top: search.bottom
             anchors.topMargin: 10
             width: parent.width
@@ -51,7 +52,7 @@ Item {
             text: root.place.coordinates
         }
         SettingsGroup {
-            visible: !found.visible
+            visible: !found.isFilled
             anchors.top: search.bottom
             anchors.topMargin: 44
             width: parent.width
@@ -78,7 +79,7 @@ Item {
         ScrollBody {
             id: list
 
-            visible: found.visible
+            visible: found.isFilled
             anchors.top: search.bottom
             anchors.topMargin: 8
             anchors.bottom: parent.bottom

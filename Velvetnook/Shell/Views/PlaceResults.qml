@@ -9,6 +9,9 @@ import Velvetnook.Shell
 Column {
     id: root
 
+    // Not by `visible`, which is false while what it stands in is hidden.
+    readonly property bool isFilled: rows.count > 0
+
     function enter() {
         if (rows.count > 0) {
             rows.itemAt(0).forceActiveFocus(Qt.TabFocusReason);
@@ -21,7 +24,7 @@ Column {
         }
     }
 
-    visible: rows.count > 0
+    visible: isFilled
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Cities")
 
