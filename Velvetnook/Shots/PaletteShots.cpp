@@ -96,6 +96,7 @@ std::vector<Shot> paletteShots()
         shot("palette-many", QStringLiteral("a")),
         shot("palette-timer", QStringLiteral("timer 10")),
         shot("palette-settings", QStringLiteral("theme")),
+        shot("palette-longest", QStringLiteral("allahumma anta rabbi")),
         shot("palette-long", QStringLiteral("a note whose title")),
         shot("palette-actions", QStringLiteral("subhan"), 0),
     };
