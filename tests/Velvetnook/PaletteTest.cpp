@@ -7,6 +7,7 @@
 #include "KestCore/Tools/TimerList.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/Languages.h"
 #include "Velvetnook/Application/Palette/PaletteActions.h"
 #include "Velvetnook/Application/Palette/PaletteRows.h"
@@ -253,6 +254,21 @@ TEST_F(PaletteTest, CopiesResultsEmojiAndNotes)
     palette().move(1);
     palette().activate();
     EXPECT_EQ(clipboard.text(), QStringLiteral("Tea\nlemons"));
+}
+
+TEST_F(PaletteTest, SpeaksTheLanguageOfTheInterface)
+{
+    palette().setQuery(QStringLiteral("timer 10"));
+    palette().activate();
+    ASSERT_TRUE(waitUntil([&] { return m_model->recordsOfKind("timer").size() == 1; }));
+    m_model->changeSetting("appearance.language", "ar");
+    ASSERT_TRUE(waitUntil([&] { return m_app->format()->isRightToLeft(); }));
+    palette().begin();
+    EXPECT_EQ(rows().front().spoken, QStringLiteral("مؤقّت"));
+    palette().setQuery(QStringLiteral("subhanallah"));
+    EXPECT_EQ(rows().front().spoken, rows().front().arabic);
+    EXPECT_TRUE(rows().front().isArabic);
+    EXPECT_TRUE(rows().front().note.isEmpty()) << qPrintable(rows().front().note);
 }
 
 TEST(TypedTimer, ReadsMinutesAndHoursAndNothingElse)
