@@ -3,8 +3,10 @@
 #include "Velvetnook/Shell/ArabicInk.h"
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Velvetnook
@@ -33,11 +35,14 @@ ArabicInk::Measure ArabicInk::measure(const QString &text, qreal pixelSize) cons
         font.setPixelSize(kMeasuredSize);
         font.setHintingPreference(QFont::PreferNoHinting);
         const QFontMetricsF metrics{font};
+        // The outline and not the metrics' tight rectangle: that one forgets how far a mark is
+        // moved from its letter.
+        QPainterPath outline;
+        outline.addText({}, font, text);
         if (m_known.size() >= kRemembered) {
             m_known.clear();
         }
-        known = m_known.insert(
-            text, {metrics.horizontalAdvance(text), metrics.tightBoundingRect(text)});
+        known = m_known.insert(text, {metrics.horizontalAdvance(text), outline.boundingRect()});
     }
     const qreal scale = pixelSize / kMeasuredSize;
     const QRectF &ink = known->ink;
@@ -55,15 +60,22 @@ QRectF ArabicInk::bounds(const QString &text, qreal pixelSize) const
     return measure(text, pixelSize).ink;
 }
 
+qreal ArabicInk::overhang(const QString &text, qreal pixelSize) const
+{
+    const Measure measured = measure(text, pixelSize);
+    return std::ceil(
+        std::max({0.0, -measured.ink.left(), measured.ink.right() - measured.advance}));
+}
+
+qreal ArabicInk::width(const QString &text, qreal pixelSize) const
+{
+    return std::ceil(advance(text, pixelSize) + 2 * overhang(text, pixelSize));
+}
+
 qreal ArabicInk::fittedSize(const QString &text, qreal wanted, qreal maximumWidth) const
 {
-    const auto width = [&](qreal size) {
-        const Measure measured = measure(text, size);
-        return std::max(measured.advance, measured.ink.right()) -
-               std::min(0.0, measured.ink.left());
-    };
     qreal size = wanted;
-    while (size > kSmallest && width(size) > maximumWidth) {
+    while (size > kSmallest && width(text, size) > maximumWidth) {
         size = std::max(kSmallest, size - kStep);
     }
     return size;

@@ -28,6 +28,10 @@ public:
     Q_INVOKABLE qreal advance(const QString &text, qreal pixelSize) const;
     // The ink of the one line, seen from the start of its baseline.
     Q_INVOKABLE QRectF bounds(const QString &text, qreal pixelSize) const;
+    // How far the ink hangs over the text's own advance, as the tail of a last letter does.
+    Q_INVOKABLE qreal overhang(const QString &text, qreal pixelSize) const;
+    // The room of the one line, with that on both its sides.
+    Q_INVOKABLE qreal width(const QString &text, qreal pixelSize) const;
     // The largest size, in steps of 2 down to 24, at which the text fits in one line; where
     // none does, the smallest of them. A text that is smaller from the start keeps its size.
     Q_INVOKABLE qreal fittedSize(const QString &text, qreal wanted, qreal maximumWidth) const;

@@ -109,6 +109,7 @@ TEST(Picker, OpensTakesAndCloses)
     stage.press(Qt::Key_Return);
     stage.press(Qt::Key_Up);
     stage.press(Qt::Key_Escape);
+    EXPECT_EQ(stage.window().activeFocusItem(), picker);
     stage.press(Qt::Key_Down);
     EXPECT_EQ(last(chosen), 3) << "the focus is back and the value is as before";
 }
@@ -238,6 +239,9 @@ TEST(Controls, TellAScreenReaderWhatTheyAre)
              Heard{"Stepper { name: \"Every\" }", QAccessible::SpinBox, "Every"},
              Heard{"Picker { name: \"Method\" }", QAccessible::ComboBox, "Method"},
              Heard{"ListRow { title: \"As-Salām\" }", QAccessible::ListItem, "As-Salām"},
+             Heard{"Segment { text: \"Week\" }", QAccessible::RadioButton, "Week"},
+             Heard{"MenuRow { text: \"Pause\" }", QAccessible::MenuItem, "Pause"},
+             Heard{"PanelTab { title: \"Timers\" }", QAccessible::PageTab, "Timers"},
              Heard{"ArabicText { text: \"ٱلسَّلَامُ\" }", QAccessible::StaticText, "ٱلسَّلَامُ"},
              Heard{"Digits { text: \"14:32\" }", QAccessible::StaticText, "14:32"},
              Heard{"ProgressRing { name: \"Focus\" }", QAccessible::ProgressBar, "Focus"},

@@ -22,12 +22,16 @@ Item {
     readonly property int lineCount: label.lineCount
     readonly property real above: byInk ? -ink.y : Theme.ink.above(fittedSize)
     readonly property real line: Theme.ink.above(fittedSize) + Theme.ink.below(fittedSize)
-    // Ink that hangs over the text's own width, as the tail of a last letter does.
-    readonly property real overhang: Math.ceil(Math.max(0, -ink.x,
-                                                        ink.x + ink.width - Theme.ink.advance(text, fittedSize)))
+    // A few letters reach below even that room; the box then reaches with them.
+    readonly property real excess: Math.max(0, ink.y + ink.height - Theme.ink.below(fittedSize))
+    readonly property real lineWidth: Theme.ink.width(text, fittedSize)
+    readonly property bool isWrapped: lineWidth > maximumWidth
+    // Where it wraps, any letter may end a line and hang over it.
+    readonly property real overhang: Math.max(Theme.ink.overhang(text, fittedSize),
+                                              isWrapped ? Math.ceil(fittedSize / 8) : 0)
 
-    implicitWidth: Math.ceil(Math.min(Theme.ink.advance(text, fittedSize) + 2 * overhang, maximumWidth))
-    implicitHeight: byInk ? Math.ceil(ink.height) : Math.ceil(line * lineCount)
+    implicitWidth: Math.min(lineWidth, maximumWidth)
+    implicitHeight: byInk ? Math.ceil(ink.height) : Math.ceil(line * lineCount + excess)
     baselineOffset: above
     Accessible.role: Accessible.StaticText
     Accessible.name: text
@@ -44,7 +48,7 @@ Item {
         font.pixelSize: root.fittedSize
         lineHeight: root.line
         lineHeightMode: Text.FixedHeight
-        wrapMode: root.implicitWidth < root.maximumWidth ? Text.NoWrap : Text.Wrap
+        wrapMode: root.isWrapped ? Text.Wrap : Text.NoWrap
         horizontalAlignment: root.horizontalAlignment
         color: root.color
         Accessible.ignored: true

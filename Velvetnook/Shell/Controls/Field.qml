@@ -36,15 +36,16 @@ FocusScope {
     function clear() { input.clear(); }
 
     implicitWidth: 200
-    implicitHeight: column.implicitHeight
+    implicitHeight: (label === "" ? 0 : caption.implicitHeight + 6) + fieldHeight
+                    + (error === "" ? 0 : reason.implicitHeight + 6)
 
     Column {
-        id: column
-
         width: parent.width
         spacing: 6
 
         Txt {
+            id: caption
+
             visible: text !== ""
             width: parent.width
             text: root.label
@@ -113,6 +114,8 @@ FocusScope {
             }
         }
         FieldError {
+            id: reason
+
             visible: root.error !== ""
             width: parent.width
             text: root.error

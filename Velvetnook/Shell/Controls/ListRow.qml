@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Velvetnook.Application
 
 // A row of a list. Arabic stands at the trailing side, so that both scripts start at an edge.
-T.AbstractButton {
+T.ItemDelegate {
     id: root
 
     property string title: ""
@@ -29,7 +29,6 @@ T.AbstractButton {
     text: title
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
-    Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: note
     Accessible.selectable: true

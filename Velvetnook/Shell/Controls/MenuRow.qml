@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Velvetnook.Application
 
 // One row of a menu, or the line between two groups.
-T.AbstractButton {
+T.MenuItem {
     id: root
 
     property string iconName
@@ -27,7 +27,6 @@ T.AbstractButton {
             pointed();
         }
     }
-    Accessible.role: isSeparator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: text
 
     contentItem: Item {

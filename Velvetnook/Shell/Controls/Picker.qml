@@ -5,8 +5,9 @@ import QtQuick
 import QtQuick.Templates as T
 import Velvetnook.Application
 
-// One value out of a list that drops down.
-T.AbstractButton {
+// One value out of a list that drops down. The list is a menu and not the template's own, which
+// would take a value that its owner refuses.
+T.ComboBox {
     id: root
 
     property var options: [] // [{value, label}]
@@ -17,8 +18,12 @@ T.AbstractButton {
 
     signal chosen(var value)
 
+    readonly property string text: at >= 0 ? options[at].label : ""
     readonly property int at: options.findIndex(option => option.value === value)
 
+    function show() {
+        list.open();
+    }
     function move(by) {
         const next = at + by;
         if (next >= 0 && next < options.length) {
@@ -30,17 +35,17 @@ T.AbstractButton {
     implicitHeight: 32
     leftPadding: 12
     rightPadding: 10
-    text: at >= 0 ? options[at].label : ""
+    down: area.pressed && area.containsMouse
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onReturnPressed: show()
+    Keys.onSpacePressed: show()
+    Keys.onEnterPressed: show()
     Keys.onUpPressed: move(-1)
     Keys.onDownPressed: move(1)
-    Accessible.role: Accessible.ComboBox
     Accessible.name: name === "" ? text : name
     Accessible.description: text
-    onClicked: list.open()
+    Accessible.onPressAction: show()
 
     contentItem: Item {
         Txt {
@@ -73,6 +78,12 @@ T.AbstractButton {
         FocusRing { shown: root.ringed; corner: 10 }
     }
 
+    MouseArea {
+        id: area
+
+        anchors.fill: parent
+        onClicked: root.show()
+    }
     PopupMenu {
         id: list
 

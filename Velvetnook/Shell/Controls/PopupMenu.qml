@@ -13,6 +13,10 @@ T.Popup {
 
     signal chosen(int index)
 
+    // What had the focus. The template gives it to the window and not back.
+    property Item before: null
+    property bool isBeforeRinged: false
+
     readonly property bool isRightToLeft: parent ? parent.LayoutMirroring.enabled : false
 
     function popup(x, y) {
@@ -46,8 +50,16 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     onAboutToShow: {
+        before = parent ? parent.Window.activeFocusItem : null;
+        isBeforeRinged = before !== null && before.visualFocus === true;
         list.currentIndex = items.findIndex(item => item.checked === true);
         list.positionViewAtIndex(list.currentIndex, ListView.Center);
+    }
+
+    onClosed: {
+        if (before !== null) {
+            before.forceActiveFocus(isBeforeRinged ? Qt.ShortcutFocusReason : Qt.PopupFocusReason);
+        }
     }
 
     QtObject {
@@ -98,6 +110,7 @@ T.Popup {
         border.color: Theme.color.line2
         Shadow { step: "raised" }
     }
+    // Without a way out: it would hold the focus, and the keys with it, until it is gone.
     enter: Transition {
         NumberAnimation {
             property: "opacity"
@@ -107,8 +120,5 @@ T.Popup {
             easing.type: Easing.BezierSpline
             easing.bezierCurve: Theme.motion.standard
         }
-    }
-    exit: Transition {
-        NumberAnimation { property: "opacity"; to: 0; duration: 80 }
     }
 }

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Velvetnook.Application
 
 // One value of a Segmented.
-T.AbstractButton {
+T.RadioButton {
     id: root
 
     property string iconName
@@ -18,12 +18,13 @@ T.AbstractButton {
 
     implicitWidth: contentItem.implicitWidth + 24
     implicitHeight: 26
+    checkable: false // only the owner changes it
+    autoExclusive: false
     hoverEnabled: true
     // Tab goes to the chosen one, as among radio buttons.
     focusPolicy: chosen ? Qt.TabFocus : Qt.NoFocus
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
-    Accessible.role: Accessible.RadioButton
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: chosen

@@ -24,17 +24,17 @@ Item {
     implicitHeight: 22
     opacity: enabled ? 1 : 0.4
 
-    T.AbstractButton {
+    T.CheckBox {
         id: button
 
         anchors.fill: parent
         anchors.topMargin: -4 // the target is 30 high
         anchors.bottomMargin: -4
+        checkable: false // only the owner changes it
         hoverEnabled: true
         focusPolicy: Qt.TabFocus
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
-        Accessible.role: Accessible.CheckBox
         Accessible.name: root.name
         Accessible.checkable: true
         Accessible.checked: root.checked

@@ -6,7 +6,7 @@ import Velvetnook.Application
 import Velvetnook.Shell
 
 // One place in the panel's header: an icon, and its title once it is chosen.
-T.AbstractButton {
+T.TabButton {
     id: root
 
     property string iconName
@@ -20,12 +20,13 @@ T.AbstractButton {
 
     implicitWidth: showsTitle ? 18 + 8 + label.implicitWidth + 22 : 34
     implicitHeight: 32
+    checkable: false // the panel says which is chosen
+    autoExclusive: false
     hoverEnabled: true
     focusPolicy: reachable ? Qt.TabFocus : Qt.NoFocus
     activeFocusOnTab: reachable
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
-    Accessible.role: isTab ? Accessible.PageTab : Accessible.Button
     Accessible.name: title
     Accessible.description: keyHint
     Accessible.selected: chosen

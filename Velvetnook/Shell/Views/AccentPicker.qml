@@ -31,7 +31,7 @@ Row {
         id: swatches
 
         model: root.options
-        delegate: T.AbstractButton {
+        delegate: T.RadioButton {
             id: swatch
 
             required property var modelData
@@ -42,10 +42,11 @@ Row {
 
             implicitWidth: Math.max(30, label.implicitWidth)
             implicitHeight: 46
+            checkable: false // only the owner changes it
+            autoExclusive: false
             hoverEnabled: true
             focusPolicy: isChosen ? Qt.TabFocus : Qt.NoFocus
             text: modelData.label
-            Accessible.role: Accessible.RadioButton
             Accessible.name: text
             Accessible.checkable: true
             Accessible.checked: isChosen

@@ -21,7 +21,7 @@ Row {
     Repeater {
         // Counted, not listed: the buttons stay, and with them the focus, when a day changes.
         model: root.days.length
-        delegate: T.AbstractButton {
+        delegate: T.CheckBox {
             id: day
 
             required property int index
@@ -30,10 +30,10 @@ Row {
 
             implicitWidth: 32
             implicitHeight: 32
+            checkable: false // only the owner changes it
             hoverEnabled: true
             focusPolicy: Qt.TabFocus
             text: each.letter
-            Accessible.role: Accessible.CheckBox
             Accessible.name: each.name
             Accessible.checkable: true
             Accessible.checked: each.chosen

@@ -6,7 +6,7 @@ import Velvetnook.Application
 import Velvetnook.Shell
 
 // One phrase in the list, with its number in the catalogue.
-T.AbstractButton {
+T.ItemDelegate {
     id: root
 
     required property int index
@@ -22,7 +22,6 @@ T.AbstractButton {
     height: 36
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
-    Accessible.role: Accessible.ListItem
     Accessible.name: LayoutMirroring.enabled ? arabic : title
     Accessible.selectable: true
     Accessible.selected: isChosen

@@ -6,7 +6,7 @@ import Velvetnook.Application
 import Velvetnook.Shell
 
 // One timer of the list, or a kind that waits to be started.
-T.AbstractButton {
+T.ItemDelegate {
     id: root
 
     required property string timerId
@@ -28,7 +28,6 @@ T.AbstractButton {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Keys.onMenuPressed: menu.popup(40, 40)
-    Accessible.role: Accessible.ListItem
     Accessible.name: title + ", " + note
     Accessible.selected: isChosen
 

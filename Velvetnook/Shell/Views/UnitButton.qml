@@ -6,7 +6,7 @@ import Velvetnook.Application
 import Velvetnook.Shell
 
 // The unit under a number, and the others of its category to choose from.
-T.AbstractButton {
+T.ComboBox {
     id: root
 
     property string unit
@@ -15,6 +15,9 @@ T.AbstractButton {
 
     signal chosen(string unit)
 
+    function show() {
+        menu.open();
+    }
     function step(by) {
         const next = units[units.findIndex(each => each.value === unit) + by];
         if (next) {
@@ -24,15 +27,17 @@ T.AbstractButton {
 
     implicitWidth: row.implicitWidth + 12
     implicitHeight: 28
+    down: area.pressed && area.containsMouse
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Accessible.role: Accessible.ComboBox
     Accessible.name: name
     Accessible.description: unit
-    Keys.onReturnPressed: clicked()
+    Keys.onReturnPressed: show()
+    Keys.onSpacePressed: show()
     Keys.onUpPressed: step(-1)
     Keys.onDownPressed: step(1)
-    onClicked: menu.open()
+    Keys.onEnterPressed: show()
+    Accessible.onPressAction: show()
 
     contentItem: Item {
         Row {
@@ -61,6 +66,12 @@ T.AbstractButton {
         FocusRing { shown: root.visualFocus; corner: 8 }
     }
 
+    MouseArea {
+        id: area
+
+        anchors.fill: parent
+        onClicked: root.show()
+    }
     PopupMenu {
         id: menu
 
