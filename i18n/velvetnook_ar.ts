@@ -2899,6 +2899,10 @@
         <source>Not shown by itself on Fridays</source>
         <translation>لا تظهر من نفسها أيام الجمعة</translation>
     </message>
+    <message>
+        <source>Choose a city or use your location.</source>
+        <translation>اختر مدينة أو استعمل موقعك.</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::GeneralSettings</name>

@@ -167,16 +167,17 @@ StripContent Strip::timerContent(const KestCore::Timer &timer)
                          .ringLeads = true,
                          .isNarrow = true};
     if (!KestCore::countsDown(timer.state)) {
-        const double minutes = std::floor(seconds / 60);
-        lookAgain(m_now + Base::Seconds{(minutes + 1) * 60 - seconds});
+        const double step = m_sources.canBeSeen ? 1 : 60;
+        const double passed = std::floor(seconds / step) * step;
+        lookAgain(m_now + Base::Seconds{passed + step - seconds});
         content.icon = QStringLiteral("timers");
         content.iconTone = QStringLiteral("accent");
-        content.trailing = m_formatting.remaining(minutes * 60);
+        content.trailing = m_formatting.duration(passed);
         return content;
     }
     const Base::Instant end = m_now + Base::Seconds{seconds};
-    if (seconds < 60 && m_sources.canBeSeen) {
-        content.trailing = m_formatting.remaining(seconds);
+    if (m_sources.canBeSeen) {
+        content.trailing = m_formatting.duration(seconds);
         lookAgain(end - Base::Seconds{std::ceil(seconds) - 1});
     } else {
         content.trailing = minutesUntil(end);

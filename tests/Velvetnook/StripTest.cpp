@@ -72,13 +72,13 @@ TEST_F(StripTest, ShowsTheFirstOfWhatThereIs)
     m_sources.message.reset();
     EXPECT_EQ(shown(), "prayer: Dhuhr | now");
     m_sources.lastPrayer.reset();
-    EXPECT_EQ(shown(), "timer: Focus | 45 s");
+    EXPECT_EQ(shown(), "timer: Focus | 0:45");
     m_sources.timers = {timerWith(872)};
     EXPECT_EQ(shown(), "count: Subḥāna llāh | 21 / 33");
     m_sources.countedAt.reset();
-    EXPECT_EQ(shown(), "timer: Subḥāna llāh | 15 min"); // trails the pinned phrase
+    EXPECT_EQ(shown(), "timer: Subḥāna llāh | 14:32"); // trails the pinned phrase
     m_state.devotional.preferences.pinEnabled = false;
-    EXPECT_EQ(shown(), "timer: Focus | 15 min");
+    EXPECT_EQ(shown(), "timer: Focus | 14:32");
     m_sources.timers.clear();
     EXPECT_EQ(shown(), "prayer: Asr | in 42 min");
     m_state.settings["prayer.strip"] = "false";
@@ -113,10 +113,11 @@ TEST_F(StripTest, LooksAgainOnlyWhenTheTextIsAnother)
     };
     m_state.devotional.preferences.pinEnabled = false;
     for (const auto &[name, secondsLeft, canBeSeen, waits] : {
-             Case{"minutes: to the next one", 872, true, 32},
+             Case{"seen: every second", 872.5, true, 0.5},
+             Case{"unseen: every minute", 872, false, 32},
              Case{"the last minute, seen: every second", 45.5, true, 0.5},
              Case{"the last minute, unseen: its end", 45.5, false, 45.5},
-             Case{"two minutes: before the seconds begin", 119, true, 59},
+             Case{"two minutes, unseen: before the last one", 119, false, 59},
          }) {
         SCOPED_TRACE(name);
         m_sources.timers = {timerWith(secondsLeft)};

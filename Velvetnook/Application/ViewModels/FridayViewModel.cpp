@@ -68,7 +68,10 @@ QString FridayViewModel::dhuhrNote() const
 {
     const auto inputs = KestCore::prayerInputs(m_model.state().settings);
     if (!inputs) {
-        return QString::fromStdString(inputs.error().message);
+        // What is missing where nothing was set wrongly, in the user's language.
+        return inputs.error().kind == Base::KestError::Kind::unavailable
+                   ? tr("Choose a city or use your location.")
+                   : QString::fromStdString(inputs.error().message);
     }
     return dhuhr().isEmpty() ? tr("No times on this date here.")
                              : tr("Your mosque may differ.");

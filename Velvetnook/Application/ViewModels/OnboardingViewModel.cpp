@@ -36,15 +36,18 @@ bool OnboardingViewModel::isNeeded() const
 QVariantList OnboardingViewModel::phrases() const
 {
     const auto &all = KestCore::contentCatalogue().dhikr;
+    // Who reads Arabic needs neither its sounds in other letters nor what it means.
+    const auto latin = [this](const std::string &text) {
+        return m_formatting.isRightToLeft() ? QString{} : QString::fromStdString(text);
+    };
     QVariantList list;
     for (const char *id : kPhrases) {
         const KestCore::Phrase &phrase = KestCore::phraseById(id, all, all.front());
         list.push_back(QVariantMap{
             {QStringLiteral("phrase"), QString::fromStdString(phrase.id)},
             {QStringLiteral("arabic"), QString::fromStdString(phrase.arabic)},
-            {QStringLiteral("transliteration"), QString::fromStdString(phrase.transliteration)},
-            {QStringLiteral("translation"),
-             QString::fromStdString(phrase.translation.value_or(""))}});
+            {QStringLiteral("transliteration"), latin(phrase.transliteration)},
+            {QStringLiteral("translation"), latin(phrase.translation.value_or(""))}});
     }
     return list;
 }

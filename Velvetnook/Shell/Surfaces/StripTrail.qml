@@ -8,7 +8,7 @@ import Velvetnook.Shell
 Row {
     id: root
 
-    readonly property bool isNumber: /^[0-9٠-٩,٬]+$/.test(App.strip.trailing)
+    readonly property bool isNumber: /^[0-9٠-٩,٬:]+$/.test(App.strip.trailing)
 
     spacing: 9
 

@@ -4,10 +4,17 @@ import QtQuick
 import Velvetnook.Application
 import Velvetnook.Shell
 
-// Finished sessions, the newest first, day by day. Only what shows is made.
-// Not bound: a list of Qt 6.4 cannot make the heads of its sections from a bound component.
+// Finished sessions, the newest first, day by day. Only what shows is made. The day of the
+// topmost one stands over the list, the others at the first session of theirs.
 ListView {
     id: root
+
+    property string topDay
+
+    function look() {
+        const row = itemAt(0, contentY + 1);
+        topDay = row ? row.day : "";
+    }
 
     model: App.history.sessions
     clip: true
@@ -17,18 +24,46 @@ ListView {
     keyNavigationEnabled: false
     currentIndex: -1
     section.property: "day"
-    section.delegate: Txt {
-        required property string section
+    delegate: Item {
+        id: row
+
+        required property int index
+        required property string arabic
+        required property string title
+        required property string count
+        required property string target
+        required property bool reached
+        required property string time
+        required property string day
+
+        readonly property bool isNewDay: index > 0 && ListView.previousSection !== ListView.section
 
         width: root.width
-        height: 26
-        role: "caption"
-        text: section
-        color: Theme.color.text3
+        height: isNewDay ? 68 : 38
+
+        Txt {
+            visible: row.isNewDay
+            width: parent.width
+            height: 30
+            verticalAlignment: Text.AlignVCenter
+            role: "caption"
+            text: row.day
+            color: Theme.color.text3
+        }
+        HistoryRow {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            arabic: row.arabic
+            title: row.title
+            count: row.count
+            target: row.target
+            reached: row.reached
+            time: row.time
+        }
     }
-    delegate: HistoryRow {
-        width: root.width
-    }
+    onContentYChanged: look()
+    onCountChanged: Qt.callLater(look)
+    Component.onCompleted: Qt.callLater(look)
     Keys.onUpPressed: flick(0, 600)
     Keys.onDownPressed: flick(0, -600)
     Accessible.role: Accessible.List

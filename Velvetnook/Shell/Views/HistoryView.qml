@@ -43,8 +43,21 @@ Item {
         height: parent.height
         visible: !App.history.isEmpty
 
-        Row {
+        Txt {
             anchors.left: parent.left
+            anchors.right: lists.left
+            anchors.rightMargin: 12
+            height: 26
+            verticalAlignment: Text.AlignVCenter
+            horizontalAlignment: Text.AlignLeft
+            role: "caption"
+            text: App.history.byPhrase ? "" : sessions.topDay
+            color: Theme.color.text3
+        }
+        Row {
+            id: lists
+
+            anchors.right: parent.right
             spacing: 6
 
             Chip {
@@ -64,9 +77,9 @@ Item {
             id: sessions
 
             visible: !App.history.byPhrase
-            y: 30
+            y: 28
             width: parent.width
-            height: parent.height - 30
+            height: parent.height - 28
         }
         HistoryPhrases {
             visible: App.history.byPhrase

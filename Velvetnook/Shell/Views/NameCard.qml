@@ -24,13 +24,17 @@ Card {
             id: words
 
             x: 16
-            y: Math.round(Math.max(root.isArabicAlone ? 38 : 23, (200 - implicitHeight) / 2))
+            y: Math.round(Math.max(root.isArabicAlone || script.lineCount > 1 ? 38 : 23,
+                                   (200 - implicitHeight) / 2))
             width: body.width - 32
 
             ArabicText {
+                id: script
+
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: App.names.arabic
-                pixelSize: Math.round(50 * Theme.phraseScale)
+                // A meaning needs the room of two more lines above the foot.
+                pixelSize: Math.round((App.names.meaning === "" ? 50 : 40) * Theme.phraseScale)
                 maximumWidth: words.width
                 onTextChanged: body.contentY = 0
             }
@@ -48,7 +52,7 @@ Card {
             }
             Item {
                 width: 1
-                height: 2
+                height: App.names.meaning === "" ? 2 : 0
             }
             Txt {
                 visible: text !== ""
@@ -60,7 +64,7 @@ Card {
             }
             Item {
                 width: 1
-                height: 6
+                height: 2
             }
             Txt {
                 visible: text !== ""

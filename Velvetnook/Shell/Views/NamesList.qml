@@ -11,13 +11,14 @@ T.Control {
     id: root
 
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.List
     Accessible.name: App.names.searchHint
 
     contentItem: ListView {
         id: rows
 
         model: App.names.list
+        Accessible.role: Accessible.List // a control's own would not be heard
+        Accessible.name: App.names.searchHint
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         keyNavigationEnabled: false

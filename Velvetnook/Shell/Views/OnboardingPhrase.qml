@@ -34,15 +34,18 @@ Item {
 
                 required property var modelData
 
+                readonly property bool hasWords: modelData.transliteration !== ""
+
                 width: (cards.width - 10) / 2
                 height: 80
                 padding: 16
                 interactive: true
                 selected: modelData.phrase === root.model.phrase
-                name: modelData.transliteration
+                name: hasWords ? modelData.transliteration : modelData.arabic
                 onClicked: root.model.choosePhrase(modelData.phrase)
 
                 Column {
+                    visible: card.hasWords
                     anchors.left: parent.left
                     anchors.right: arabic.left
                     anchors.rightMargin: 10
@@ -62,9 +65,10 @@ Item {
                 ArabicText {
                     id: arabic
 
-                    anchors.right: parent.right
+                    anchors.right: card.hasWords ? parent.right : undefined
+                    anchors.horizontalCenter: card.hasWords ? undefined : parent.horizontalCenter
                     anchors.verticalCenter: parent.verticalCenter
-                    pixelSize: 22
+                    pixelSize: card.hasWords ? 22 : 24
                     byInk: true
                     text: card.modelData.arabic
                 }
