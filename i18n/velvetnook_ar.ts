@@ -3210,7 +3210,7 @@
     <name>Velvetnook::OnboardingViewModel</name>
     <message>
         <source>Open</source>
-        <translation>فتح</translation>
+        <translation>مفتوح</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "KestCore/Devotional/Content.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/ToolTitles.h"
+#include "Velvetnook/Application/ToolTitles.h"
 
 #include <QCoreApplication>
 
@@ -161,7 +162,7 @@ StripContent Strip::timerContent(const KestCore::Timer &timer)
 {
     const double seconds = KestCore::remaining(timer.state, m_now);
     StripContent content{.kind = QStringLiteral("timer"),
-                         .text = QString::fromStdString(timer.record.title),
+                         .text = timerTitle(timer, m_formatting),
                          .textTone = QStringLiteral("text1"),
                          .trailingTone = QStringLiteral("text1"),
                          .ringLeads = true,

@@ -4,6 +4,7 @@
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Languages.h"
+#include "Velvetnook/Application/ViewModels/StripViewModel.h"
 #include "Velvetnook/Shell/Engine.h"
 #include "Velvetnook/Shell/Theme.h"
 #include "Velvetnook/Shots/Shot.h"
@@ -104,6 +105,7 @@ bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
     const Languages languages{model, *app.format()};
     QQmlEngine engine;
     prepareEngine(engine, app, theme);
+    app.strip()->setVisible(true);
     if (shot.arrange) {
         shot.arrange(app);
     }

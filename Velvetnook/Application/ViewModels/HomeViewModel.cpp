@@ -10,6 +10,7 @@
 #include "Velvetnook/Application/HomeCards.h"
 #include "Velvetnook/Application/LocalDay.h"
 #include "Velvetnook/Application/PrayerWatch.h"
+#include "Velvetnook/Application/ToolTitles.h"
 
 #include <QVariantMap>
 
@@ -223,7 +224,7 @@ double HomeViewModel::timerSeconds() const
 
 QString HomeViewModel::timerTitle() const
 {
-    return m_timer ? QString::fromStdString(m_timer->record.title) : tr("Timer");
+    return m_timer ? Velvetnook::timerTitle(*m_timer, m_formatting) : tr("Timer");
 }
 
 QString HomeViewModel::timerText() const

@@ -26,12 +26,14 @@ Card {
         x: 38
         width: root.width - 76
         height: root.height
-        contentHeight: Math.max(height, words.implicitHeight + 16)
+        contentHeight: words.isWhole ? height : words.implicitHeight + 12
 
         Column {
             id: words
 
-            y: Math.round(Math.max(8, (body.height - implicitHeight) / 2))
+            readonly property bool isWhole: implicitHeight <= body.height
+
+            y: isWhole ? Math.round((body.height - implicitHeight) / 2) : 4
             width: body.width
 
             ArabicText {

@@ -42,7 +42,9 @@ Item {
         }
         Txt {
             visible: root.target !== ""
-            text: qsTr(" / %1", "target behind a count").arg(root.target)
+            // Numbers and a stroke alone have no direction of their own.
+            text: (LayoutMirroring.enabled ? "\u200F" : "")
+                  + qsTr(" / %1", "target behind a count").arg(root.target)
             color: Theme.color.text3
             Accessible.ignored: true
         }

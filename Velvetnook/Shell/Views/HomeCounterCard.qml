@@ -61,6 +61,7 @@ Card {
                                                      : App.counter.title
             wrapMode: words.fits ? Text.NoWrap : Text.Wrap
             maximumLineCount: 2
+            elide: Text.ElideRight
             Accessible.ignored: true
         }
         Txt {

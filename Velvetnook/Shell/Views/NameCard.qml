@@ -40,7 +40,7 @@ Card {
             }
             Item {
                 width: 1
-                height: -7
+                height: App.names.meaning === "" ? -7 : -5
             }
             Txt {
                 visible: text !== ""
