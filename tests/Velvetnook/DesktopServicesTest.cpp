@@ -248,7 +248,8 @@ TEST(SessionLook, FollowsThePortalFromWhenItAppears)
              Case{kGnome, "enable-animations", true, {}},
              Case{kGnome, "color-scheme", 2U, {}},
          }) {
-        SCOPED_TRACE(key);
+        SCOPED_TRACE(
+            qPrintable(group + u' ' + QString::fromLatin1(key) + u' ' + value.toString()));
         changed.clear();
         portal.set(group, QString::fromLatin1(key), value);
         ASSERT_TRUE(eventually([&] { return !changed.isEmpty(); }));

@@ -31,6 +31,9 @@ PortalLook::PortalLook(const QDBusConnection &bus, QObject *parent)
       m_watcher{kService, bus, QDBusServiceWatcher::WatchForRegistration}
 {
     qDBusRegisterMetaType<Groups>();
+    // The bus looks for the types of a slot by name, and refuses one whose types it cannot
+    // find.
+    qRegisterMetaType<QDBusVariant>();
     m_bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
                   SLOT(hear(QString, QString, QDBusVariant)));
     connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &PortalLook::read);
