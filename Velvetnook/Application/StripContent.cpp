@@ -5,7 +5,6 @@
 #include "KestCore/Devotional/Content.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/ToolTitles.h"
-#include "Velvetnook/Application/ToolTitles.h"
 
 #include <QCoreApplication>
 
