@@ -11,6 +11,8 @@
 #include "Velvetnook/Notch/NotchWindow.h"
 #include "Velvetnook/Notch/SurfaceWindow.h"
 #include "Velvetnook/Platform/Desktop.h"
+#include "Velvetnook/Platform/EndSignals.h"
+#include "Velvetnook/Platform/LastWords.h"
 #include "Velvetnook/Platform/Linux/BusActivation.h"
 #include "Velvetnook/Platform/PaletteHotkey.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
@@ -84,7 +86,7 @@ double steadySeconds()
 // The data could not be opened: says why, and changes nothing.
 int showFailure(const KestError &failure, const std::filesystem::path &file)
 {
-    std::fprintf(stderr, "velvetnook: %s\n", failure.message.c_str());
+    std::fprintf(stderr, "velvetnook: %s (%s)\n", failure.message.c_str(), file.c_str());
     QQmlEngine engine;
     QQuickView view{&engine, nullptr};
     view.setTitle(QStringLiteral("Velvetnook"));
@@ -112,6 +114,8 @@ public:
 
     // Empty, or why nothing can be shown. `activation` is what other starts speak to.
     QString begin(BusActivation &activation);
+    // What is being written, in the store before this returns.
+    void save();
 
 private:
     void beginTheRest(BusActivation &activation);
@@ -166,11 +170,10 @@ QString Running::begin(BusActivation &activation)
 
 void Running::beginTheRest(BusActivation &activation)
 {
-    QObject::connect(m_app.panel(), &PanelViewModel::settingsWanted, m_app.settings(),
-                     [this] {
-                         emit m_app.panel()->closeWanted(); // it would lie over them
-                         m_app.settings()->open();
-                     });
+    QObject::connect(m_app.panel(), &PanelViewModel::settingsWanted, m_app.settings(), [this] {
+        emit m_app.panel()->closeWanted(); // it would lie over them
+        m_app.settings()->open();
+    });
     QObject::connect(m_app.settings(), &SettingsViewModel::openWanted, qGuiApp,
                      [this] { openSettings(); });
     QObject::connect(m_app.onboarding(), &OnboardingViewModel::openWanted, qGuiApp,
@@ -192,6 +195,12 @@ void Running::beginTheRest(BusActivation &activation)
     m_palette = std::make_unique<PaletteWindow>(m_engine, m_app);
     m_hotkey = std::make_unique<PaletteHotkey>(m_model, *m_app.palette());
     QTimer::singleShot(1500, qGuiApp, [this] { m_palette->prepare(); });
+}
+
+void Running::save()
+{
+    m_app.saveOpenWork();
+    m_model.keeper().finish();
 }
 
 // What kest asks of the surfaces while the application runs.
@@ -244,7 +253,7 @@ void Running::openOnboarding()
     m_onboarding->present();
 }
 
-int run(BusActivation &activation)
+int run(BusActivation &activation, LastWords &lastWords)
 {
     const std::filesystem::path file = KestCore::dataDirectory() / KestCore::kDatabaseName;
     auto store = KestCore::StateStore::open(file);
@@ -257,7 +266,10 @@ int run(BusActivation &activation)
         std::fprintf(stderr, "velvetnook: %s\n", qPrintable(problem));
         return 1;
     }
-    return QGuiApplication::exec();
+    lastWords.saveWith([&running] { running.save(); });
+    const int status = QGuiApplication::exec();
+    lastWords.saveWith({});
+    return status;
 }
 
 } // namespace
@@ -279,14 +291,18 @@ int main(int argc, char **argv)
     }
     chooseRenderer();
     prepareText();
+    LastWords lastWords;
     QGuiApplication application{argc, argv};
+    lastWords.displayIsOpen();
     QGuiApplication::setApplicationName(QStringLiteral("velvetnook"));
     QGuiApplication::setApplicationVersion(QStringLiteral(KEST_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("app.kest.native"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    const EndSignals ends;
+    QObject::connect(&ends, &EndSignals::endWanted, &application, &QCoreApplication::quit);
     const auto activation = makeActivation();
     if (const auto status = claim(*activation, launch)) {
         return *status;
     }
-    return run(*activation);
+    return run(*activation, lastWords);
 }

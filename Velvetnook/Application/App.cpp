@@ -33,6 +33,13 @@ Alarms &App::alarms()
     return *m_alarms;
 }
 
+void App::saveOpenWork()
+{
+    if (m_notes != nullptr) {
+        m_notes->leave();
+    }
+}
+
 PanelViewModel *App::panel() { return made(m_panel); }
 StripViewModel *App::strip() { return made(m_strip); }
 HomeViewModel *App::home() { return made(m_home); }

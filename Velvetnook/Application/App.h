@@ -53,6 +53,8 @@ public:
 
     // What happens by itself: made once, by whoever shows it first.
     Alarms &alarms();
+    // Hands the store what is being written and waits for a pause.
+    void saveOpenWork();
 
     Formatting *format() { return &m_formatting; }
     PanelViewModel *panel();

@@ -16,9 +16,20 @@ Committed committedAll(KestCore::Snapshot snapshot)
 
 StateKeeper::StateKeeper(std::filesystem::path file, KestCore::StateStore store,
                          QObject *parent)
-    : QObject{parent},
-      m_slot{Slot{.file = std::move(file), .store = std::move(store)}}
+    : QObject{parent}, m_slot{Slot{.file = std::move(file), .store = std::move(store)}}
 {
+}
+
+StateKeeper::~StateKeeper() { finish(); }
+
+void StateKeeper::finish()
+{
+    if (m_isLent && !m_waiting.empty()) {
+        m_isLent = false;
+        const auto reopened = m_slot.ask([](Slot &slot) { return reopen(slot).has_value(); });
+        sendWaiting();
+    }
+    m_slot.ask([](Slot &) {}).wait();
 }
 
 // Hands a call to the main loop. The queue of this object dies with it, after the store's
@@ -44,9 +55,9 @@ void StateKeeper::send(Operation operation, Answer answer)
 {
     m_slot.ask(
         [operation = std::move(operation)](Slot &slot) mutable -> Result<Committed> {
-            return slot.store
-                       ? operation(*slot.store)
-                       : std::unexpected(KestError::unavailable("Another program has the data"));
+            return slot.store ? operation(*slot.store)
+                              : std::unexpected(
+                                    KestError::unavailable("Another program has the data"));
         },
         onMainThread(), std::move(answer));
 }

@@ -40,6 +40,9 @@ public:
     // `file` is where `store` was opened.
     StateKeeper(std::filesystem::path file, KestCore::StateStore store,
                 QObject *parent = nullptr);
+    ~StateKeeper() override;
+    StateKeeper(const StateKeeper &) = delete;
+    StateKeeper &operator=(const StateKeeper &) = delete;
 
     void perform(Operation operation, Answer answer);
 
@@ -49,6 +52,10 @@ public:
     // fails the store stays away, and what waits goes on waiting for a later call.
     void takeBack(std::function<void(Result<Committed>)> back);
     bool isLent() const { return m_isLent; }
+
+    // Waits until all that was asked is done, also what waits for a store that is away. For the
+    // end of the program: answers come only when the main loop goes on.
+    void finish();
 
 private:
     struct Slot {
