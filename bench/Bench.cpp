@@ -11,7 +11,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <string_view>
 
 namespace Bench
 {
@@ -56,6 +55,24 @@ std::string jsonOf(const Row &row)
                        row.name, row.value, row.unit, row.floor, row.ratio, row.goal, row.met);
 }
 
+} // namespace
+
+Pair measureByTurns(int rounds, const std::function<void()> &work,
+                    const std::function<void()> &floor, const std::function<void()> &between)
+{
+    std::vector<double> works;
+    std::vector<double> floors;
+    work(); // once each to warm up
+    between();
+    floor();
+    for (int round = 0; round < rounds; ++round) {
+        works.push_back(secondsOf(work));
+        between();
+        floors.push_back(secondsOf(floor));
+    }
+    return {.value = median(std::move(works)), .floor = median(std::move(floors))};
+}
+
 void print(const std::vector<Row> &rows)
 {
     fmt::print("{:<52} {:>10} {:>10} {:<5} {:>7}  {:<14} {}\n", "what", "value", "floor",
@@ -76,24 +93,6 @@ void save(const std::vector<Row> &rows, const std::filesystem::path &file)
     out << "]\n";
 }
 
-} // namespace
-
-Pair measureByTurns(int rounds, const std::function<void()> &work,
-                    const std::function<void()> &floor, const std::function<void()> &between)
-{
-    std::vector<double> works;
-    std::vector<double> floors;
-    work(); // once each to warm up
-    between();
-    floor();
-    for (int round = 0; round < rounds; ++round) {
-        works.push_back(secondsOf(work));
-        between();
-        floors.push_back(secondsOf(floor));
-    }
-    return {.value = median(std::move(works)), .floor = median(std::move(floors))};
-}
-
 Row ratioRow(std::string name, const Pair &seconds, double highestRatio)
 {
     Row row = timeRow(std::move(name), seconds);
@@ -109,6 +108,23 @@ Row durationRow(std::string name, const Pair &seconds, double longestSeconds)
         fmt::format("<= {} {}", longestSeconds * scaleFor(seconds.value).first, row.unit);
     row.met = seconds.value <= longestSeconds;
     return row;
+}
+
+Row limitRow(std::string name, double value, double floor, std::string unit, double most)
+{
+    return {.name = std::move(name),
+            .value = value,
+            .unit = std::move(unit),
+            .floor = floor,
+            .ratio = value / floor,
+            .goal = fmt::format("<= {}", most),
+            .met = value <= most};
+}
+
+double percentile(std::vector<double> values, double share)
+{
+    std::ranges::sort(values);
+    return values.at(static_cast<std::size_t>(share * static_cast<double>(values.size() - 1)));
 }
 
 Row rateRow(std::string name, const Pair &seconds, std::size_t bytes, double lowestRate)
@@ -149,40 +165,3 @@ void giveUp(const std::string &message)
 }
 
 } // namespace Bench
-
-// With arguments, runs only the suites named.
-int main(int argc, char **argv)
-{
-    if (argc > 2 && std::string_view{argv[1]} == "--peak-memory") {
-        return Bench::printPeakMemory(argv + 2);
-    }
-    const std::pair<std::string_view, Bench::Suite> suites[] = {
-        {"json", Bench::jsonSuite},           {"store", Bench::storeSuite},
-        {"prayer", Bench::prayerSuite},       {"clipboard", Bench::clipboardSuite},
-        {"program", Bench::programSuite},     {"backup", Bench::backupSuite},
-        {"monitor", Bench::monitorSuite},     {"collector", Bench::collectorSuite},
-        {"recording", Bench::recordingSuite}, {"weather", Bench::weatherSuite},
-    };
-    for (int at = 1; at < argc; ++at) {
-        if (std::ranges::none_of(suites, [&](const auto &s) { return s.first == argv[at]; })) {
-            Bench::giveUp(std::string{"there is no suite "} + argv[at]);
-        }
-    }
-    std::vector<Bench::Row> rows;
-    for (const auto &[name, suite] : suites) {
-        const bool isWanted =
-            argc < 2 ||
-            std::any_of(
-                argv + 1, argv + argc, [&](const char *wanted) { return name == wanted; });
-        if (isWanted) {
-            const auto more = suite();
-            rows.insert(rows.end(), more.begin(), more.end());
-        }
-    }
-    Bench::print(rows);
-    if (argc < 2) { // a part of the suites must not take the place of the whole record
-        Bench::save(rows, KEST_BENCH_JSON);
-    }
-    std::filesystem::remove_all(KEST_BENCH_FOLDER);
-    return std::ranges::all_of(rows, &Bench::Row::met) ? 0 : 1;
-}

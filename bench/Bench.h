@@ -43,6 +43,12 @@ Row durationRow(std::string name, const Pair &seconds, double longestSeconds);
 // A row whose goal is to go through `bytes` at so many megabytes a second at least.
 Row rateRow(std::string name, const Pair &seconds, std::size_t bytes, double lowestRate);
 
+// A row whose goal is not to pass `most`; value, floor and goal in the unit.
+Row limitRow(std::string name, double value, double floor, std::string unit, double most);
+
+// The value that this share of them does not pass.
+double percentile(std::vector<double> values, double share);
+
 // A row whose goal is to need less than `most`; all in bytes.
 Row memoryRow(std::string name, double value, double floor, double most);
 
@@ -74,6 +80,9 @@ T must(Base::Result<T> result)
 double peakMemory(const std::vector<std::string> &arguments);
 // That small process: prints the figure.
 int printPeakMemory(char **arguments);
+
+void print(const std::vector<Row> &rows);
+void save(const std::vector<Row> &rows, const std::filesystem::path &file);
 
 using Suite = std::vector<Row> (*)();
 std::vector<Row> storeSuite();

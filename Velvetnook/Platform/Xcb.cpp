@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Platform/Xcb.h"
 
-#include <QGuiApplication>
-
 namespace Velvetnook::Xcb
 {
 
@@ -22,14 +20,6 @@ Owned<xcb_get_property_reply_t> property(xcb_connection_t *server, xcb_window_t 
 }
 
 } // namespace
-
-xcb_connection_t *connection()
-{
-    auto *x11 = qGuiApp == nullptr
-                    ? nullptr
-                    : qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 == nullptr ? nullptr : x11->connection();
-}
 
 xcb_atom_t atom(xcb_connection_t *server, std::string_view name)
 {

@@ -112,7 +112,11 @@ xcb_atom_t XDesktop::atom(const std::string &name) const
     return Xcb::atom(m_server.get(), name);
 }
 
-std::optional<Place> XDesktop::notch() const
+std::optional<Place> XDesktop::notch() const { return find(true); }
+
+std::optional<Place> XDesktop::palette() const { return find(false); }
+
+std::optional<Place> XDesktop::find(bool isAtTop) const
 {
     const auto tree = Xcb::reply(xcb_query_tree_reply, m_server.get(),
                                  xcb_query_tree(m_server.get(), m_root));
@@ -125,7 +129,7 @@ std::optional<Place> XDesktop::notch() const
         const bool isOurs =
             Xcb::text(m_server.get(), window, XCB_ATOM_WM_CLASS).starts_with("velvetnook");
         if (isOurs && looks && place && looks->override_redirect != 0 &&
-            looks->map_state == XCB_MAP_STATE_VIEWABLE && place->y == 0) {
+            looks->map_state == XCB_MAP_STATE_VIEWABLE && (place->y == 0) == isAtTop) {
             return Place{place->x, place->y, place->width, place->height};
         }
     }

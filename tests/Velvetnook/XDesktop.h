@@ -55,6 +55,7 @@ public:
 
     // Where the notch stands, as the server knows it; nothing while it is not shown.
     std::optional<Place> notch() const;
+    std::optional<Place> palette() const;
 
     // An ordinary window of an application.
     xcb_window_t openWindow(const std::string &application, const Place &place);
@@ -64,6 +65,7 @@ public:
     xcb_window_t focus() const;
 
 private:
+    std::optional<Place> find(bool isAtTop) const;
     void tellManager(xcb_window_t window, const char *message, std::uint32_t first,
                      std::uint32_t second);
     xcb_atom_t atom(const std::string &name) const;

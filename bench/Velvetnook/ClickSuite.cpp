@@ -7,9 +7,9 @@
 #include "Velvetnook/Shell/Engine.h"
 #include "Velvetnook/Shell/Theme.h"
 #include "bench/Samples.h"
+#include "bench/Velvetnook/Suites.h"
 
 #include <QElapsedTimer>
-#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -18,13 +18,12 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <algorithm>
-#include <cstdio>
+#include <fmt/format.h>
+
 #include <memory>
 #include <vector>
 
-// VelvetnookBench [CLICKS]: clicks on the ring of the counter in a window that nobody sees,
-// over a store on the disk of the build, and tells how long it takes until the count is
+// Clicks on the ring of the counter, over a store on the disk of the build, until the count is
 // committed and until the number is drawn. Beside it, what the engine and the disk need alone.
 namespace Velvetnook
 {
@@ -32,44 +31,16 @@ namespace Velvetnook
 namespace
 {
 
+using Bench::giveUp;
+using Bench::must;
+
 constexpr double kGoalMs = 16;
-
-[[noreturn]] void giveUp(const std::string &message)
-{
-    std::fprintf(stderr, "%s\n", message.c_str());
-    std::exit(1);
-}
-
-template <class T>
-T must(Result<T> result)
-{
-    if (!result) {
-        giveUp(result.error().message);
-    }
-    if constexpr (!std::is_void_v<T>) {
-        return *std::move(result);
-    }
-}
 
 struct Times {
     std::vector<double> ms{};
 
-    double at(double share) const
-    {
-        std::vector<double> sorted = ms;
-        std::ranges::sort(sorted);
-        const auto last = static_cast<double>(sorted.size() - 1);
-        return sorted.at(static_cast<std::size_t>(last * share));
-    }
+    double p95() const { return Bench::percentile(ms, 0.95); }
 };
-
-void print(const char *name, const Times &times, bool hasGoal)
-{
-    const double p95 = times.at(0.95);
-    const char *verdict = p95 <= kGoalMs ? "met" : "missed";
-    std::printf("  %-44s p50 %6.2f ms   p95 %6.2f ms   worst %6.2f ms   %s\n", name,
-                times.at(0.5), p95, times.at(1), hasGoal ? verdict : "");
-}
 
 double since(const QElapsedTimer &timer)
 {
@@ -209,7 +180,7 @@ private:
     ulong m_time = 1'000;
 };
 
-void measure(std::size_t sessions, bool hasMotion, int clicks)
+std::vector<Bench::Row> measure(std::size_t sessions, bool hasMotion, int clicks)
 {
     const QTemporaryDir folder{QStringLiteral(KEST_BENCH_FOLDER "/click-XXXXXX")};
     const std::filesystem::path file =
@@ -230,30 +201,29 @@ void measure(std::size_t sessions, bool hasMotion, int clicks)
         desk.click(committed, drawn);
         Desk::wait(40);
     }
-    std::printf("%zu finished sessions, %s motion, %d clicks\n", sessions,
-                hasMotion ? "with" : "reduced", clicks);
-    print("engine and disk alone", disk, false);
-    print("click to committed count", committed, false);
-    print(hasMotion ? "click to the first frame of the new number" : "click to number drawn",
-          drawn, true);
-    std::printf("  %d clicks at once until the last is drawn: %.0f ms\n", clicks,
-                desk.burst(clicks));
+    const std::string name = fmt::format("{}, {} motion, {} sessions, p95",
+                                         hasMotion ? "first frame" : "number drawn",
+                                         hasMotion ? "with" : "no", sessions);
+    return {Bench::limitRow(fmt::format("click to count committed, {} sessions, p95", sessions),
+                            committed.p95(), disk.p95(), "ms", kGoalMs),
+            Bench::limitRow("click to " + name, drawn.p95(), disk.p95(), "ms", kGoalMs),
+            Bench::limitRow(fmt::format("each of {} clicks at once until drawn", clicks),
+                            desk.burst(clicks) / clicks, disk.p95(), "ms", kGoalMs)};
 }
 
 } // namespace
 
-} // namespace Velvetnook
-
-int main(int argc, char **argv)
+std::vector<Bench::Row> clickSuite()
 {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    const QGuiApplication application{argc, argv};
-    const int clicks = argc > 1 ? std::max(20, atoi(argv[1])) : 300;
     std::filesystem::create_directories(KEST_BENCH_FOLDER);
-    Velvetnook::measure(0, false, clicks);
-    Velvetnook::measure(0, true, clicks);
-    Velvetnook::measure(1'000, false, clicks);
-    Velvetnook::measure(100'000, false, std::min(clicks, 60));
-    return 0;
+    std::vector<Bench::Row> rows;
+    constexpr int kClicks = 300;
+    for (const auto &more :
+         {measure(0, false, kClicks), measure(0, true, kClicks), measure(1'000, false, kClicks),
+          measure(100'000, false, kClicks / 5)}) {
+        rows.insert(rows.end(), more.begin(), more.end());
+    }
+    return rows;
 }
+
+} // namespace Velvetnook

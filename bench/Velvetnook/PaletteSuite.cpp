@@ -10,25 +10,30 @@
 #include "Velvetnook/Platform/PaletteWindow.h"
 #include "Velvetnook/Shell/Engine.h"
 #include "Velvetnook/Shell/Theme.h"
+#include "bench/Velvetnook/Suites.h"
 #include "bench/XKeys.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <cstring>
 #include <random>
 
 // How long the palette takes to find among 20,000 things, and from its key to the frame that
 // shows it and the frame that shows what is typed.
+namespace Velvetnook
+{
+
 namespace
 {
 
 using Milliseconds = std::vector<double>;
+
+constexpr int kRounds = 60;
 
 class Stopwatch
 {
@@ -43,20 +48,6 @@ public:
 private:
     std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
 };
-
-double percentile(Milliseconds times, double share)
-{
-    std::ranges::sort(times);
-    return times.at(static_cast<std::size_t>(share * static_cast<double>(times.size() - 1)));
-}
-
-void print(const char *what, const Milliseconds &times, double goal)
-{
-    const double p95 = percentile(times, 0.95);
-    std::printf("%-34s median %7.2f ms, p95 %7.2f ms, worst %7.2f ms  (goal p95 %g ms: %s)\n",
-                what, percentile(times, 0.5), p95, percentile(times, 1), goal,
-                p95 <= goal ? "met" : "MISSED");
-}
 
 KestCore::PaletteIndex fullIndex(std::uint32_t size)
 {
@@ -83,7 +74,7 @@ KestCore::PaletteIndex fullIndex(std::uint32_t size)
     return index;
 }
 
-void measureQueries()
+Bench::Row measureQueries()
 {
     constexpr std::uint32_t kThings = 20'000;
     KestCore::PaletteIndex index = fullIndex(kThings);
@@ -101,15 +92,12 @@ void measureQueries()
             const void *none = std::memchr(index.text().data(), '\1', index.bytes());
             floors.push_back(floor.milliseconds());
             if (none != nullptr || found.size() > kThings) {
-                std::puts("the texts are not what they should be");
+                Bench::giveUp("the texts of the palette are not what they should be");
             }
         }
     }
-    print("a query among 20,000 things", queries, 8);
-    std::printf("%-34s median %7.3f ms over %.1f MB: %.0f times that\n",
-                "floor: one pass over the texts", percentile(floors, 0.5),
-                static_cast<double>(index.bytes()) / 1e6,
-                percentile(queries, 0.95) / percentile(floors, 0.5));
+    return Bench::limitRow("a query among 20,000 things, p95", Bench::percentile(queries, 0.95),
+                           Bench::percentile(floors, 0.95), "ms", 8);
 }
 
 class Frames
@@ -148,9 +136,27 @@ void settle(int milliseconds)
     }
 }
 
-void measureShowing(XKeys &keys, Velvetnook::App &app, Velvetnook::PaletteWindow &window)
+// A bare window of the same size that has been made already.
+Milliseconds measureBareWindow(const QSize &size)
 {
-    constexpr int kRounds = 60;
+    QQuickWindow window;
+    window.setFlag(Qt::BypassWindowManagerHint);
+    window.resize(size);
+    window.create();
+    Frames frames{window};
+    Milliseconds shown;
+    for (int round = 0; round < kRounds; ++round) {
+        const Stopwatch watch;
+        window.show();
+        shown.push_back(frames.until(watch, [] { return true; }));
+        window.hide();
+        settle(40);
+    }
+    return shown;
+}
+
+std::vector<Bench::Row> measureShowing(XKeys &keys, App &app, PaletteWindow &window)
+{
     constexpr std::uint32_t kControl = 0xFFE3;
     constexpr std::uint32_t kShift = 0xFFE1;
     constexpr std::uint32_t kEscape = 0xFF1B;
@@ -174,50 +180,45 @@ void measureShowing(XKeys &keys, Velvetnook::App &app, Velvetnook::PaletteWindow
         keys.tap(kEscape);
         settle(60);
         if (window.isVisible()) {
-            std::puts("the palette did not close");
-            return;
+            Bench::giveUp("the palette did not close");
         }
     }
-    std::printf("%-34s %.2f ms\n", "the first of the showings below", shown.front());
-    print("from the key to the first frame", shown, 80);
-    print("from a letter to its results", typed, 80);
+    const double floor = Bench::percentile(measureBareWindow(window.size()), 0.95);
+    return {Bench::limitRow("the palette's key to its frame, p95",
+                            Bench::percentile(shown, 0.95), floor, "ms", 80),
+            Bench::limitRow("a letter to the frame of its results, p95",
+                            Bench::percentile(typed, 0.95), floor, "ms", 80)};
 }
 
 } // namespace
 
-int main(int argc, char **argv)
+std::vector<Bench::Row> paletteSuite()
 {
-    using namespace Velvetnook;
-    measureQueries();
+    std::vector<Bench::Row> rows{measureQueries()};
     XKeys keys;
     if (!keys.isAvailable()) {
-        std::puts("There is no X server that takes keys from tests: showing is not measured.");
-        return 0;
+        Bench::giveUp("there is no X server that takes keys from tests");
     }
-    setenv("QT_QPA_PLATFORM", "xcb", 1);
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    const QGuiApplication application{argc, argv};
     const QTemporaryDir data;
     const std::filesystem::path file =
         data.filePath(QStringLiteral("kest.sqlite")).toStdString();
-    auto store = KestCore::StateStore::open(file);
-    auto snapshot = store ? store->snapshot() : std::unexpected(store.error());
-    if (!snapshot) {
-        std::fprintf(stderr, "%s\n", snapshot.error().message.c_str());
-        return 1;
-    }
-    ApplicationModel model{std::make_unique<StateKeeper>(file, std::move(*store)),
-                           committedAll(std::move(*snapshot)), Base::wallClock};
+    auto store = Bench::must(KestCore::StateStore::open(file));
+    auto first = Bench::must(store.snapshot());
+    ApplicationModel model{std::make_unique<StateKeeper>(file, std::move(store)),
+                           committedAll(std::move(first)), Base::wallClock};
     App app{model};
     Theme theme{model};
     QQmlEngine engine;
     prepareEngine(engine, app, theme);
     PaletteWindow window{engine, app};
     if (!window.prepare()) {
-        return 1;
+        Bench::giveUp("the palette cannot be made");
     }
     const PaletteHotkey hotkey{model, *app.palette()};
     settle(500);
-    measureShowing(keys, app, window);
-    return 0;
+    const auto more = measureShowing(keys, app, window);
+    rows.insert(rows.end(), more.begin(), more.end());
+    return rows;
 }
+
+} // namespace Velvetnook
