@@ -93,6 +93,12 @@ XDesktop::XDesktop()
     run({"xdotool", "mousemove", "640", "600"});
 }
 
+void XDesktop::stopServer()
+{
+    kill(m_serverProgram.id(), SIGKILL);
+    m_serverProgram.wait();
+}
+
 bool XDesktop::waitFor(const std::function<bool()> &holds, std::chrono::milliseconds patience)
 {
     const auto end = std::chrono::steady_clock::now() + patience;

@@ -53,6 +53,9 @@ public:
     // Runs a program such as xdotool to its end.
     static int run(const std::vector<std::string> &command);
 
+    // As when the display's server is killed.
+    void stopServer();
+
     // Where the notch stands, as the server knows it; nothing while it is not shown.
     std::optional<Place> notch() const;
     std::optional<Place> palette() const;
