@@ -149,6 +149,7 @@ TEST_F(FaultsTest, ACountThatCannotBeSavedIsNoneAndTheNextOnesAre)
         const rlimit limit{.rlim_cur = bytes, .rlim_max = RLIM_INFINITY};
         ASSERT_EQ(prlimit(m_program.id(), RLIMIT_FSIZE, &limit, nullptr), 0);
     };
+    std::this_thread::sleep_for(1s); // the store is back from kest: a count would wait for it
     allow(1);
     XDesktop::run({"xdotool", "click", "1"});
     std::this_thread::sleep_for(500ms);

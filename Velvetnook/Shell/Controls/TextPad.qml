@@ -63,6 +63,9 @@ FocusScope {
             selectionColor: Theme.color.soft2
             selectedTextColor: Theme.color.text1
             Accessible.name: root.name
+            // Who has no pointer must be able to leave the page as every other control.
+            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             onCursorRectangleChanged: follow()
             Component.onCompleted: Theme.spaceLines(textDocument, 6)
             onTextChanged: {
