@@ -129,7 +129,7 @@ TEST_F(KeyboardTest, TabComesRoundInEveryViewAndMeetsWhatHasAName)
     }
 }
 
-TEST_F(KeyboardTest, TabComesRoundOnEveryPageOfTheSettings)
+TEST_F(KeyboardTest, TabComesRoundInTheSettings)
 {
     start();
     openTool("dhikr");
@@ -138,14 +138,7 @@ TEST_F(KeyboardTest, TabComesRoundOnEveryPageOfTheSettings)
         return std::ranges::any_of(
             m_spoken.read(), [](const Spoken &one) { return one.name == "Search settings"; });
     })) << "the settings did not open";
-    constexpr int kPages = 8;
-    for (int page = 0; page < kPages; ++page) {
-        expectWalk("page " + std::to_string(page));
-        if (testing::Test::HasFailure()) {
-            break;
-        }
-        press("ctrl+Next");
-    }
+    expectWalk("settings");
 }
 
 TEST_F(KeyboardTest, ThePaletteIsTypedIntoAndRuns)
