@@ -21,6 +21,7 @@
 #include "Velvetnook/Shell/Theme.h"
 
 #include <QGuiApplication>
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QTimer>
@@ -31,6 +32,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <thread>
+#include <utility>
 #include <vector>
 
 namespace Velvetnook
@@ -104,12 +107,26 @@ int showFailure(const KestError &failure, const std::filesystem::path &file)
     return 1;
 }
 
+// The engine, compiling what is shown first while the data is read.
+struct FirstSurface {
+    FirstSurface()
+    {
+        prepareEngine(*engine, singletons);
+        component = std::make_unique<QQmlComponent>(engine.get(), NotchWindow::surface(),
+                                                    QQmlComponent::Asynchronous);
+    }
+
+    std::shared_ptr<Singletons> singletons = std::make_shared<Singletons>();
+    std::unique_ptr<QQmlEngine> engine = std::make_unique<QQmlEngine>();
+    std::unique_ptr<QQmlComponent> component{};
+};
+
 // Everything that stands while the application runs. What can wait is made after the strip has
 // been drawn for the first time.
 class Running
 {
 public:
-    Running(const std::filesystem::path &file, KestCore::StateStore store,
+    Running(FirstSurface surface, const std::filesystem::path &file, KestCore::StateStore store,
             KestCore::Snapshot first);
 
     // Empty, or why nothing can be shown. `activation` is what other starts speak to.
@@ -127,7 +144,8 @@ private:
     App m_app;
     Languages m_languages; // before the view models, which word themselves
     Theme m_theme;
-    QQmlEngine m_engine;
+    FirstSurface m_surface;
+    QQmlEngine &m_engine;
     NotchDriver m_driver;
     CommandServer m_commands;
     std::unique_ptr<NotchWindow> m_notch;
@@ -138,15 +156,16 @@ private:
     std::unique_ptr<SurfaceWindow> m_onboarding;
 };
 
-Running::Running(const std::filesystem::path &file, KestCore::StateStore store,
-                 KestCore::Snapshot first)
+Running::Running(FirstSurface surface, const std::filesystem::path &file,
+                 KestCore::StateStore store, KestCore::Snapshot first)
     : m_model{std::make_unique<StateKeeper>(file, std::move(store)),
               committedAll(std::move(first)), Base::wallClock},
       m_app{m_model}, m_languages{m_model, *m_app.format()}, m_theme{m_model},
+      m_surface{std::move(surface)}, m_engine{*m_surface.engine},
       m_driver{m_model, m_app, steadySeconds}, m_commands{m_model, file},
       m_desktop{m_app, m_model}
 {
-    prepareEngine(m_engine, m_app, m_theme);
+    *m_surface.singletons = {.app = &m_app, .theme = &m_theme};
     QObject::connect(&m_languages, &Languages::changed, &m_engine, &QQmlEngine::retranslate);
 }
 
@@ -253,15 +272,17 @@ void Running::openOnboarding()
     m_onboarding->present();
 }
 
-int run(BusActivation &activation, LastWords &lastWords)
+int run(BusActivation &activation, LastWords &lastWords, std::jthread fonts)
 {
+    FirstSurface surface;
     const std::filesystem::path file = KestCore::dataDirectory() / KestCore::kDatabaseName;
     auto store = KestCore::StateStore::open(file);
     auto first = store ? store->snapshot() : std::unexpected(store.error());
+    fonts.join();
     if (!first) {
         return showFailure(first.error(), file);
     }
-    Running running{file, std::move(*store), std::move(*first)};
+    Running running{std::move(surface), file, std::move(*store), std::move(*first)};
     if (const QString problem = running.begin(activation); !problem.isEmpty()) {
         std::fprintf(stderr, "velvetnook: %s\n", qPrintable(problem));
         return 1;
@@ -291,6 +312,7 @@ int main(int argc, char **argv)
     }
     chooseRenderer();
     prepareText();
+    std::jthread fonts{readFontList};
     LastWords lastWords;
     QGuiApplication application{argc, argv};
     lastWords.displayIsOpen();
@@ -304,5 +326,5 @@ int main(int argc, char **argv)
     if (const auto status = claim(*activation, launch)) {
         return *status;
     }
-    return run(*activation, lastWords);
+    return run(*activation, lastWords, std::move(fonts));
 }

@@ -58,6 +58,11 @@ NotchWindow::NotchWindow(QQmlEngine &engine, ApplicationModel &model, NotchDrive
 
 NotchWindow::~NotchWindow() = default;
 
+QUrl NotchWindow::surface()
+{
+    return QUrl{QStringLiteral("qrc:/Velvetnook/Shell/Surfaces/NotchSurface.qml")};
+}
+
 void NotchWindow::watchDriver()
 {
     connect(&m_driver, &NotchDriver::changed, this, &NotchWindow::place);

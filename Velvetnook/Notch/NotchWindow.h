@@ -33,6 +33,8 @@ public:
 
     // Empty, or why there is nothing to show.
     QString problem() const { return m_problem; }
+    // What it shows, for whoever compiles it ahead.
+    static QUrl surface();
     // Shows itself, from now on whenever there is something to show.
     void begin();
 

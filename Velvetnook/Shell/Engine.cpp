@@ -12,8 +12,27 @@
 
 #include <QQuickWindow>
 
+#include <fontconfig/fontconfig.h>
+
 namespace Velvetnook
 {
+
+namespace
+{
+
+template <class T>
+void registerSingleton(const char *name, const std::shared_ptr<const Singletons> &singletons,
+                       T *Singletons::*which)
+{
+    qmlRegisterSingletonType<T>(
+        "Velvetnook.Application", 1, 0, name, [singletons, which](QQmlEngine *, QJSEngine *) {
+            T *singleton = (*singletons).*which;
+            QJSEngine::setObjectOwnership(singleton, QJSEngine::CppOwnership);
+            return singleton;
+        });
+}
+
+} // namespace
 
 void prepareText()
 {
@@ -26,16 +45,24 @@ void prepareText()
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 }
 
-void prepareEngine(QQmlEngine &engine, App &app, Theme &theme)
+// Qt finds it read. It takes as long as connecting to the display does.
+void readFontList() { FcInit(); }
+
+void prepareEngine(QQmlEngine &engine, const std::shared_ptr<const Singletons> &singletons)
 {
-    registerForQml(app);
-    qmlRegisterSingletonInstance("Velvetnook.Application", 1, 0, "Theme", &theme);
+    registerSingleton("App", singletons, &Singletons::app);
+    registerSingleton("Theme", singletons, &Singletons::theme);
     qmlRegisterType<Beads>("Velvetnook.Application", 1, 0, "Beads");
     qmlRegisterType<DayArc>("Velvetnook.Application", 1, 0, "DayArc");
     qmlRegisterType<QiblaDial>("Velvetnook.Application", 1, 0, "QiblaDial");
     engine.addImageProvider(QStringLiteral("icon"), new IconImages);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowImages);
     engine.addImportPath(QStringLiteral("qrc:/"));
+}
+
+void prepareEngine(QQmlEngine &engine, App &app, Theme &theme)
+{
+    prepareEngine(engine, std::make_shared<const Singletons>(&app, &theme));
 }
 
 } // namespace Velvetnook

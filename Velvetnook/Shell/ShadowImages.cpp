@@ -4,8 +4,8 @@
 
 #include <QColor>
 
-#include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace Velvetnook
@@ -29,11 +29,37 @@ std::vector<Layer> layersOf(const QString &step, bool isDark)
     return {{8, 24, isDark ? 0.35 : 0.16}};
 }
 
-// How much of a soft-edged span from `from` to `to` lies over `at`.
-double coverage(double at, double from, double to, double deviation)
+// How much of a soft-edged span between the margins of the square lies over each of its pixels.
+std::vector<double> coverage(int side, int margin, double fall, double blur)
 {
-    const double scale = deviation * std::sqrt(2.0);
-    return 0.5 * (std::erf((at - from) / scale) - std::erf((at - to) / scale));
+    const double scale = blur / 2 * std::sqrt(2.0);
+    std::vector<double> parts;
+    for (int pixel = 0; pixel < side; ++pixel) {
+        const double at = pixel + 0.5 - fall;
+        parts.push_back(
+            0.5 * (std::erf((at - margin) / scale) - std::erf((at - (side - margin)) / scale)));
+    }
+    return parts;
+}
+
+// What each layer takes of the light: the one part by column, the other by row.
+struct Veil {
+    std::vector<double> across;
+    std::vector<double> down;
+};
+
+std::vector<Veil> veilsOf(const QString &step, bool isDark, int side, int margin)
+{
+    std::vector<Veil> veils;
+    for (const Layer &layer : layersOf(step, isDark)) {
+        Veil veil{.across = coverage(side, margin, 0, layer.blur),
+                  .down = coverage(side, margin, layer.fall, layer.blur)};
+        for (double &part : veil.down) {
+            part *= layer.strength;
+        }
+        veils.push_back(std::move(veil));
+    }
+    return veils;
 }
 
 } // namespace
@@ -56,16 +82,14 @@ QImage ShadowImages::requestImage(const QString &id, QSize *size,
     const int side = 4 * margin + 1;
     QImage image{side, side, QImage::Format_ARGB32_Premultiplied};
     const QColor tone = isDark ? QColor{4, 8, 6} : QColor{20, 30, 24};
-    const auto layers = layersOf(parts.value(0), isDark);
+    const auto veils = veilsOf(parts.value(0), isDark, side, margin);
     for (int y = 0; y < side; ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (int x = 0; x < side; ++x) {
             double light = 1; // what gets through all layers
-            for (const Layer &layer : layers) {
-                const double across = coverage(x + 0.5, margin, side - margin, layer.blur / 2);
-                const double down =
-                    coverage(y + 0.5 - layer.fall, margin, side - margin, layer.blur / 2);
-                light *= 1 - layer.strength * across * down;
+            for (const Veil &veil : veils) {
+                light *= 1 - veil.across[static_cast<std::size_t>(x)] *
+                                 veil.down[static_cast<std::size_t>(y)];
             }
             line[x] = qPremultiply(qRgba(tone.red(), tone.green(), tone.blue(),
                                          static_cast<int>(std::lround(255 * (1 - light)))));

@@ -114,13 +114,21 @@ void Theme::fillFonts()
         }
         font.setHintingPreference(QFont::PreferNoHinting);
         m_type.insert(it.key(), font);
-        QFont large{font};
-        large.setPixelSize(kMeasuredSize);
-        const QFontMetricsF metrics{large};
-        m_extents.insert(it.key(),
-                         {metrics.ascent() / kMeasuredSize, metrics.descent() / kMeasuredSize});
         m_lineHeight.insert(it.key(), role[u"lineHeight"].toInt());
     }
+}
+
+QPair<qreal, qreal> Theme::extentsOf(const QString &role) const
+{
+    auto known = m_extents.constFind(role);
+    if (known == m_extents.constEnd()) {
+        auto font = m_type.value(role).value<QFont>();
+        font.setPixelSize(kMeasuredSize);
+        const QFontMetricsF metrics{font};
+        known = m_extents.insert(
+            role, {metrics.ascent() / kMeasuredSize, metrics.descent() / kMeasuredSize});
+    }
+    return *known;
 }
 
 void Theme::fillColours(QQmlPropertyMap &into, const QString &theme, const QString &accent)
@@ -182,7 +190,7 @@ int Theme::shadowReach(const QString &step) { return ShadowImages::reach(step); 
 
 qreal Theme::baseline(const QString &role, qreal pixelSize, qreal lineHeight) const
 {
-    const auto [ascent, descent] = m_extents.value(role);
+    const auto [ascent, descent] = extentsOf(role);
     return (lineHeight + (ascent - descent) * pixelSize) / 2;
 }
 

@@ -95,6 +95,7 @@ private:
 
     void follow();
     void fillFonts();
+    QPair<qreal, qreal> extentsOf(const QString &role) const;
     void fillColours(QQmlPropertyMap &into, const QString &theme, const QString &accent);
 
     const ApplicationModel &m_model;
@@ -103,7 +104,8 @@ private:
     QQmlPropertyMap m_onStrip;
     QQmlPropertyMap m_type;
     QQmlPropertyMap m_lineHeight;
-    QHash<QString, QPair<qreal, qreal>> m_extents; // of each role in em: ascent, descent
+    // Of each role in em: ascent and descent, measured when they are first wanted.
+    mutable QHash<QString, QPair<qreal, qreal>> m_extents;
     QQmlPropertyMap m_radius;
     QQmlPropertyMap m_motion;
     ArabicInk m_ink;

@@ -14,7 +14,8 @@ BorderImage {
     z: -1
     anchors.fill: parent
     anchors.margins: -reach
-    source: "image://shadow/" + step + "/" + (Theme.isDark ? "dark" : "light")
+    // One that is not shown must not be computed: the strip has none, and starts with it.
+    source: visible ? "image://shadow/" + step + "/" + (Theme.isDark ? "dark" : "light") : ""
     border.left: reach * 2
     border.right: reach * 2
     border.top: reach * 2

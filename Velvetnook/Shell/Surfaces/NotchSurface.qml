@@ -112,12 +112,15 @@ Item {
                 height: 320
                 focus: true
                 active: root.driver.isPrepared || root.driver.state === "hoverOpening" || root.isOpen
-                sourceComponent: PanelSurface {
-                    hasFrame: false
-                    hasKeys: root.isOpen
-                }
+                // By its name: one that stood here would be compiled before the strip is shown.
+                Component.onCompleted: setSource("PanelSurface.qml", {"hasFrame": false})
             }
         }
+    }
+    Binding {
+        target: panel.item
+        property: "hasKeys"
+        value: root.isOpen
     }
     Connections {
         target: root.driver
