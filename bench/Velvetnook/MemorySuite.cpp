@@ -61,12 +61,14 @@ public:
 
     void openEveryView()
     {
-        for (const char *tool : {"home", "dhikr", "history", "names", "prayer", "friday",
-                                 "timers", "units", "notes"}) {
+        for (const char *tool :
+             {"home", "names", "prayer", "friday", "timers", "units", "notes", "dhikr"}) {
             askKest({"notch", "open", tool});
             expect(XDesktop::waitFor([&] { return isOpen(); }), "the panel did not open");
             std::this_thread::sleep_for(500ms);
         }
+        m_keys.tap('h'); // the counter's history
+        std::this_thread::sleep_for(500ms);
         m_keys.press(kControl);
         m_keys.tap(',');
         m_keys.release(kControl);
