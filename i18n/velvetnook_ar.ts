@@ -634,10 +634,6 @@
         <source>find</source>
         <translation>بحث</translation>
     </message>
-    <message>
-        <source>Undo</source>
-        <translation>تراجع</translation>
-    </message>
 </context>
 <context>
     <name>OnboardingDone</name>
@@ -1040,6 +1036,18 @@
         <source>Prayer · %1</source>
         <translation>الصلاة · %1</translation>
     </message>
+    <message>
+        <source>Start %1 again</source>
+        <translation>ابدأ %1 من جديد</translation>
+    </message>
+    <message>
+        <source>Timers · finished</source>
+        <translation>المؤقّتات · انتهى</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>ابدأ من جديد</translation>
+    </message>
 </context>
 <context>
     <name>PaletteLine</name>
@@ -1311,33 +1319,6 @@
     <message>
         <source>Choose a place…</source>
         <translation>اختيار مكان…</translation>
-    </message>
-</context>
-<context>
-    <name>Prayers</name>
-    <message>
-        <source>Fajr</source>
-        <translation>الفجر</translation>
-    </message>
-    <message>
-        <source>Sunrise</source>
-        <translation>الشروق</translation>
-    </message>
-    <message>
-        <source>Dhuhr</source>
-        <translation>الظهر</translation>
-    </message>
-    <message>
-        <source>Asr</source>
-        <translation>العصر</translation>
-    </message>
-    <message>
-        <source>Maghrib</source>
-        <translation>المغرب</translation>
-    </message>
-    <message>
-        <source>Isha</source>
-        <translation>العشاء</translation>
     </message>
 </context>
 <context>
@@ -2000,14 +1981,6 @@
         <translation>المؤقّتات</translation>
     </message>
     <message>
-        <source>%1 removed.</source>
-        <translation>أُزيل %1.</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>تراجع</translation>
-    </message>
-    <message>
         <source>Focus until prayer…</source>
         <translation>تركيز حتى الصلاة…</translation>
     </message>
@@ -2607,6 +2580,17 @@
     </message>
 </context>
 <context>
+    <name>Velvetnook::App</name>
+    <message>
+        <source>%1 removed.</source>
+        <translation>أُزيل %1.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook::AppearanceSettings</name>
     <message>
         <source>Dark</source>
@@ -2712,10 +2696,6 @@
     <message>
         <source>Started %1</source>
         <translation>بدأ في %1</translation>
-    </message>
-    <message>
-        <source>Started %1, %2</source>
-        <translation>بدأ %1، %2</translation>
     </message>
     <message>
         <source>Paused at %1 since %2</source>
@@ -3043,6 +3023,10 @@
         <source>Yesterday</source>
         <translation>أمس</translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::LoginPower</name>
@@ -3204,6 +3188,10 @@
     <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>غير محفوظة</translation>
     </message>
 </context>
 <context>
@@ -3729,6 +3717,25 @@
     <message>
         <source>A kest command is using your data. What you do meanwhile is kept and saved when it ends.</source>
         <translation>أمر kest يستعمل بياناتك. ما تفعله الآن يُحفظ حين ينتهي.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::TargetNotice</name>
+    <message>
+        <source>Target reached</source>
+        <translation>بلغتَ الهدف</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Count on</source>
+        <translation>واصل العدّ</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include "Velvetnook/Application/Alarms/PrayerAlarm.h"
 #include "Velvetnook/Application/Alarms/ReminderAlarm.h"
 #include "Velvetnook/Application/Alarms/RotationAlarm.h"
+#include "Velvetnook/Application/Alarms/TargetNotice.h"
 #include "Velvetnook/Application/Alarms/TimerAlarm.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/ZoneWatch.h"
@@ -21,8 +22,14 @@ constexpr QLatin1String kPreviewId{"kest-preview"};
 
 } // namespace
 
+bool wantsSound(const KestCore::Preferences &preferences, bool KestCore::Preferences::*which)
+{
+    return preferences.soundEnabled && preferences.*which;
+}
+
 Alarms::Alarms(ApplicationModel &model, QObject *parent)
-    : QObject{parent}, m_model{model}, m_reminders{new ReminderAlarm{model, this}},
+    : QObject{parent}, m_model{model},
+      m_reminders{new ReminderAlarm{model, [this] { return m_inView.phrase(); }, this}},
       m_rotation{new RotationAlarm{model, this}}, m_timers{new TimerAlarm{model, this}},
       m_prayers{new PrayerAlarm{model, this}}, m_friday{new FridayAlarm{model, this}}
 {
@@ -33,6 +40,13 @@ Alarms::Alarms(ApplicationModel &model, QObject *parent)
     connect(m_timers, &TimerAlarm::notificationObsolete, this, &Alarms::notificationObsolete);
     connect(m_prayers, &PrayerAlarm::notificationWanted, this, &Alarms::notificationWanted);
     connect(m_friday, &FridayAlarm::notificationWanted, this, &Alarms::notificationWanted);
+    auto *target = new TargetNotice{model, this};
+    connect(target, &TargetNotice::notificationWanted, this, [this](const auto &request) {
+        if (!m_inView.panel()) {
+            emit notificationWanted(request);
+        }
+    });
+    connect(target, &TargetNotice::notificationObsolete, this, &Alarms::notificationObsolete);
     auto *zone = new ZoneWatch{QStringLiteral("/etc/localtime"), this};
     connect(zone, &ZoneWatch::zoneChanged, &model.clock(), &DueClock::wallClockChanged);
 }
@@ -41,7 +55,9 @@ std::optional<Base::Instant> Alarms::nextReminder() const { return m_reminders->
 
 void Alarms::act(const QString &notificationId, const QString &key)
 {
-    if (key == u"later") {
+    if (notificationId == TargetNotice::kId) {
+        actOnTarget(key);
+    } else if (key == u"later") {
         m_reminders->snooze();
     } else if (key == u"again") {
         m_timers->startAgain(notificationId.mid(QLatin1String{"timer-"}.size()).toStdString());
@@ -63,6 +79,15 @@ void Alarms::act(const QString &notificationId, const QString &key)
     }
 }
 
+void Alarms::actOnTarget(const QString &key)
+{
+    if (key == u"finish") {
+        emit finishWanted();
+    } else if (key != u"on") { // counting on needs nothing more
+        emit toolWanted(QStringLiteral("dhikr"));
+    }
+}
+
 void Alarms::reportShown(const QString &notificationId, bool isAllowed)
 {
     const std::string status = isAllowed ? "allowed" : "denied";
@@ -80,12 +105,12 @@ void Alarms::reportShown(const QString &notificationId, bool isAllowed)
 void Alarms::requestPreview()
 {
     const auto preview = KestCore::previewNotification();
-    emit notificationWanted(
-        {.id = kPreviewId,
-         .title = QString::fromStdString(preview.title),
-         .body = QString::fromStdString(preview.body),
-         .actions = {},
-         .withSound = m_model.state().devotional.preferences.reminderSound});
+    emit notificationWanted({.id = kPreviewId,
+                             .title = QString::fromStdString(preview.title),
+                             .body = QString::fromStdString(preview.body),
+                             .actions = {},
+                             .withSound = wantsSound(m_model.state().devotional.preferences,
+                                                     &KestCore::Preferences::reminderSound)});
 }
 
 } // namespace Velvetnook

@@ -7,7 +7,9 @@
 
 #include <QObject>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace Velvetnook
 {
@@ -26,7 +28,15 @@ class Alarms : public QObject
     Q_OBJECT
 
 public:
+    // What the user has in view now, and needs not be told.
+    struct InView {
+        std::function<bool()> phrase = [] { return false; }; // the pinned one, in the strip
+        std::function<bool()> panel = [] { return false; };
+    };
+
     explicit Alarms(ApplicationModel &model, QObject *parent = nullptr);
+
+    void follow(InView inView) { m_inView = std::move(inView); }
 
     // When the next reminder comes; nothing while none is to come.
     std::optional<Base::Instant> nextReminder() const;
@@ -46,12 +56,17 @@ signals:
     void emphasisWanted();
     // The invitation of a Friday was taken.
     void fridayBegun();
+    // What was counted to its target is to be finished.
+    void finishWanted();
     void toolWanted(const QString &toolId);
     void nextReminderChanged();
     void previewReported(bool isAllowed);
 
 private:
+    void actOnTarget(const QString &key);
+
     ApplicationModel &m_model;
+    InView m_inView;
     ReminderAlarm *m_reminders;
     RotationAlarm *m_rotation;
     TimerAlarm *m_timers;

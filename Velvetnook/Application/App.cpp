@@ -29,6 +29,9 @@ Alarms &App::alarms()
     if (m_alarms == nullptr) {
         m_alarms = new Alarms{m_model, this};
         connect(m_alarms, &Alarms::fridayBegun, this, [this] { friday()->beginCounting(); });
+        connect(m_alarms, &Alarms::finishWanted, this, [this] { counter()->finish(); });
+        m_alarms->follow({.phrase = [this] { return strip()->showsPin(); },
+                          .panel = [this] { return panel()->isOpen(); }});
     }
     return *m_alarms;
 }
@@ -55,9 +58,31 @@ RemindersViewModel *App::reminders()
     return m_reminders;
 }
 FridayViewModel *App::friday() { return made(m_friday); }
-TimersViewModel *App::timers() { return made(m_timers); }
+
+// A removal is told, and can be taken back, also when its view has gone.
+TimersViewModel *App::timers()
+{
+    if (m_timers == nullptr) {
+        connect(made(m_timers), &TimersViewModel::removed, this, [this](const QString &title) {
+            panel()->showMessage(tr("%1 removed.").arg(title), tr("Undo"),
+                                 [this] { m_timers->restore(); });
+        });
+    }
+    return m_timers;
+}
+
 UnitsViewModel *App::units() { return made(m_units); }
-NotesViewModel *App::notes() { return made(m_notes); }
+
+NotesViewModel *App::notes()
+{
+    if (m_notes == nullptr) {
+        connect(made(m_notes), &NotesViewModel::removed, this, [this](const QString &message) {
+            panel()->showMessage(message, tr("Undo"), [this] { m_notes->restore(); });
+        });
+    }
+    return m_notes;
+}
+
 SettingsViewModel *App::settings() { return made(m_settings); }
 OnboardingViewModel *App::onboarding() { return made(m_onboarding); }
 PaletteViewModel *App::palette()

@@ -74,11 +74,13 @@ void ApplicationModel::changeRecords(KestCore::RecordChanges changes, Done done)
         std::move(done));
 }
 
-void ApplicationModel::saveCompanion(KestCore::CompanionState companion, Done done)
+void ApplicationModel::changeCompanion(std::function<void(KestCore::CompanionState &)> edit,
+                                       Done done)
 {
     perform(
-        [companion =
-             std::move(companion)](KestCore::StateStore &store) mutable -> Result<Committed> {
+        [edit = std::move(edit)](KestCore::StateStore &store) -> Result<Committed> {
+            KestCore::CompanionState companion = store.companion();
+            edit(companion);
             KEST_TRY(KestCore::Snapshot snapshot, store.saveCompanion(std::move(companion)));
             return committedAll(std::move(snapshot));
         },

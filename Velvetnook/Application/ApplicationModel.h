@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -49,7 +50,8 @@ public:
     void changeSetting(std::string key, std::string value);
     void removeSetting(std::string key);
     void changeRecords(KestCore::RecordChanges changes, Done done = {});
-    void saveCompanion(KestCore::CompanionState companion, Done done = {});
+    // Changes what the store holds at that moment, which another program may have changed.
+    void changeCompanion(std::function<void(KestCore::CompanionState &)> edit, Done done = {});
     // Anything else that the store can do, such as clearing the history.
     void perform(StateKeeper::Operation operation, Done done = {});
 

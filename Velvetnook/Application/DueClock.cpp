@@ -105,7 +105,18 @@ void DueClock::arm()
     const itimerspec alarm{.it_interval = {},
                            .it_value = {.tv_sec = static_cast<std::int64_t>(whole),
                                         .tv_nsec = static_cast<std::int64_t>(fraction * 1e9)}};
-    timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &alarm, nullptr);
+    const int flags = TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET;
+    // This answer, too, can be the one that tells of a clock that was set: the alarm is armed
+    // all the same, and a read says nothing of it any more.
+    if (timerfd_settime(m_timer, flags, &alarm, nullptr) == -1 && errno == ECANCELED) {
+        QMetaObject::invokeMethod(this, &DueClock::followWallClock, Qt::QueuedConnection);
+    }
+}
+
+void DueClock::followWallClock()
+{
+    emit wallClockChanged();
+    reschedule();
 }
 
 void DueClock::readTimer()
@@ -113,8 +124,7 @@ void DueClock::readTimer()
     std::uint64_t expirations = 0;
     const auto got = read(m_timer, &expirations, sizeof expirations);
     if (got == -1 && errno == ECANCELED) {
-        emit wallClockChanged();
-        reschedule();
+        followWallClock();
         return;
     }
     tick();

@@ -61,6 +61,7 @@ private:
 
     void arm();
     void readTimer();
+    void followWallClock();
 
     TimeSource m_now;
     std::vector<Alarm> m_alarms;

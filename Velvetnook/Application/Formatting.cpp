@@ -150,16 +150,34 @@ QString Formatting::duration(double seconds) const
                             : QStringLiteral("%1:%2").arg(minutes).arg(tail));
 }
 
+Countdown Formatting::countdown(double seconds) const
+{
+    constexpr qint64 kMostMinutes = 90; // beyond, hours and minutes are told
+    const auto whole = static_cast<qint64>(std::ceil(std::max(seconds, 0.0)));
+    if (whole < 60) {
+        return {.unit = Countdown::Unit::seconds, .first = number(whole), .rest = {}};
+    }
+    const qint64 minutes = (whole + 59) / 60;
+    if (minutes <= kMostMinutes) {
+        return {.unit = Countdown::Unit::minutes, .first = number(minutes), .rest = {}};
+    }
+    return {.unit = Countdown::Unit::hours,
+            .first = number(minutes / 60),
+            .rest = digits(QStringLiteral("%1").arg(minutes % 60, 2, 10, QLatin1Char{'0'}))};
+}
+
 QString Formatting::remaining(double seconds) const
 {
-    if (seconds < 60) {
-        return digits(tr("%1 s").arg(static_cast<qint64>(std::ceil(std::max(seconds, 0.0)))));
+    const Countdown left = countdown(seconds);
+    switch (left.unit) {
+    case Countdown::Unit::seconds:
+        return tr("%1 s").arg(left.first);
+    case Countdown::Unit::minutes:
+        return tr("%1 min").arg(left.first);
+    case Countdown::Unit::hours:
+        break;
     }
-    const auto minutes = static_cast<qint64>(std::ceil(seconds / 60));
-    if (minutes <= 90) {
-        return digits(tr("%1 min").arg(minutes));
-    }
-    return digits(tr("%1 h %2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char{'0'}));
+    return tr("%1 h %2").arg(left.first, left.rest);
 }
 
 } // namespace Velvetnook

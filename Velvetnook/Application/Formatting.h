@@ -15,6 +15,16 @@ namespace Velvetnook
 
 class ApplicationModel;
 
+// What is left until something, rounded up, in the unit that fits it: "45" seconds, "42"
+// minutes, or "3" hours and "05".
+struct Countdown {
+    enum class Unit : std::uint8_t { seconds, minutes, hours };
+
+    Unit unit{};
+    QString first{};
+    QString rest{}; // minutes beside hours
+};
+
 // Numbers, times and dates as the user reads them: in the language of the interface, with the
 // digits that were chosen, in the user's time zone. QML formats nothing itself.
 class Formatting : public QObject
@@ -44,8 +54,8 @@ public:
     QString date(Base::Instant instant) const;                    // "Friday 14 November"
     QString islamicDate(const KestCore::IslamicDate &date) const; // "23 Jumada I 1447"
     QString duration(double seconds) const;                       // "14:32", "1:02:03"
-    // What is left until something, rounded up: "42 min", "3 h 05", and in the last minute "45
-    // s".
+    Countdown countdown(double seconds) const;
+    // The same as one text: "42 min", "3 h 05", and in the last minute "45 s".
     QString remaining(double seconds) const;
 
 private:

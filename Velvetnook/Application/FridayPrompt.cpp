@@ -3,6 +3,7 @@
 #include "Velvetnook/Application/FridayPrompt.h"
 
 #include "KestCore/Models/TimeOfDay.h"
+#include "Velvetnook/Application/LocalDay.h"
 
 #include <fmt/format.h>
 
@@ -13,17 +14,6 @@ namespace
 {
 
 constexpr int kFriday = 5;
-
-// The instant at which the local clock shows that minute; in the hour that a clock jumps over,
-// the one that it would have been.
-Base::Instant instantOf(std::int64_t day, int minute, const KestCore::Calendar &calendar,
-                        Base::Instant near)
-{
-    const Base::Seconds local{static_cast<double>(day) * 86'400.0 + minute * 60.0};
-    Base::Instant found{local - calendar.offsetAt(near).ahead};
-    found = Base::Instant{local - calendar.offsetAt(found).ahead};
-    return found;
-}
 
 std::string_view valueOf(const KestCore::Settings &settings, const std::string &key)
 {

@@ -60,6 +60,35 @@ QString dayText(Base::Instant instant, const ApplicationModel &model,
                                        formatting.digits(QString::number(year)));
 }
 
+QString momentText(Base::Instant instant, const ApplicationModel &model,
+                   const Formatting &formatting)
+{
+    const auto &calendar = model.calendar();
+    if (calendar.dayNumber(instant) == calendar.dayNumber(model.now())) {
+        return formatting.time(instant);
+    }
+    return translated(QT_TRANSLATE_NOOP("Velvetnook::LocalDay", "%1, %2"))
+        .arg(formatting.date(instant), formatting.time(instant));
+}
+
+Base::Instant instantOf(std::int64_t day, int minute, const KestCore::Calendar &calendar,
+                        Base::Instant near)
+{
+    const Base::Seconds local{static_cast<double>(day) * 86'400.0 + minute * 60.0};
+    Base::Instant found{local - calendar.offsetAt(near).ahead};
+    found = Base::Instant{local - calendar.offsetAt(found).ahead};
+    return found;
+}
+
+std::optional<Base::Instant> endOfPause(const ApplicationModel &model)
+{
+    const auto until = model.state().devotional.pausedUntil;
+    if (!until || Base::fromMilliseconds1970(*until) <= model.now()) {
+        return std::nullopt;
+    }
+    return Base::fromMilliseconds1970(*until);
+}
+
 QString wordingOf(const Formatting &formatting)
 {
     constexpr Base::Instant kAfternoon{Base::Seconds{50'000.0}};

@@ -7,8 +7,16 @@
 
 #include <vector>
 
+namespace KestCore
+{
+struct Preferences;
+} // namespace KestCore
+
 namespace Velvetnook
 {
+
+// Whether something may be heard: all sounds have one switch above their own.
+bool wantsSound(const KestCore::Preferences &preferences, bool KestCore::Preferences::*which);
 
 struct NotificationAction {
     QString key{};

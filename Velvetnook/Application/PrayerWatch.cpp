@@ -37,6 +37,15 @@ bool PrayerWatch::isKnown(const std::optional<Known> &known, Base::Instant after
     return known && known->next && after >= known->since && after < known->next->at;
 }
 
+std::optional<NextPrayer> nextPrayerOf(const KestCore::PrayerInputs &place, Base::Instant after)
+{
+    auto found = PrayerCalculator::next(place, after);
+    if (found && found->prayer == PrayerCore::Prayer::sunrise) {
+        found = PrayerCalculator::next(place, found->at);
+    }
+    return found;
+}
+
 QString prayerName(PrayerCore::Prayer prayer)
 {
     static constexpr std::array kNames{
@@ -116,10 +125,7 @@ std::optional<NextPrayer> PrayerWatch::nextPrayer(Base::Instant after) const
     if (!m_inputs || isKnown(m_nextPrayer, after)) {
         return m_nextPrayer ? m_nextPrayer->next : std::nullopt;
     }
-    auto found = next(after);
-    if (found && found->prayer == PrayerCore::Prayer::sunrise) {
-        found = PrayerCalculator::next(*m_inputs, found->at);
-    }
+    const auto found = nextPrayerOf(*m_inputs, after);
     m_nextPrayer = {.since = after, .next = found};
     return found;
 }
@@ -129,7 +135,7 @@ std::optional<NextPrayer> PrayerWatch::now(Base::Instant now) const
     if (!m_inputs) {
         return std::nullopt;
     }
-    const auto last = PrayerCalculator::next(*m_inputs, now - kNow);
+    const auto last = PrayerCalculator::next(*m_inputs, now - kPrayerNowTime);
     const bool isNow = last && last->at <= now && last->prayer != PrayerCore::Prayer::sunrise;
     return isNow ? last : std::nullopt;
 }
@@ -140,10 +146,15 @@ std::optional<Base::Instant> PrayerWatch::nextBoundary() const
     const auto current = now(m_seen);
     std::optional<Base::Instant> boundary;
     if (current) {
-        boundary = current->at + kNow;
+        boundary = current->at + kPrayerNowTime;
     }
     if (coming) {
         boundary = std::min(boundary.value_or(coming->at), coming->at);
+    }
+    // The day of the place ends at its own midnight, which may be another than the user's.
+    if (m_inputs) {
+        const Base::Instant midnight = m_inputs->calendar.nextDateChange(m_seen);
+        boundary = std::min(boundary.value_or(midnight), midnight);
     }
     return boundary;
 }

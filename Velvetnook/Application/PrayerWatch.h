@@ -14,8 +14,14 @@ namespace Velvetnook
 
 class ApplicationModel;
 
+inline constexpr Base::Seconds kPrayerNowTime{600}; // so long a prayer counts as now
+
 // "Fajr", in the language of the interface.
 QString prayerName(PrayerCore::Prayer prayer);
+
+// The first prayer after `after`; sunrise is none.
+std::optional<KestCore::NextPrayer> nextPrayerOf(const KestCore::PrayerInputs &place,
+                                                 Base::Instant after);
 
 // The prayer times of the place in the settings, and word of when what they say changes. Works
 // nothing out until it is asked.
@@ -24,8 +30,6 @@ class PrayerWatch : public QObject
     Q_OBJECT
 
 public:
-    static constexpr Base::Seconds kNow{600}; // so long a prayer counts as now
-
     explicit PrayerWatch(ApplicationModel &model, QObject *parent = nullptr);
 
     // Fails as prayerInputs does.
@@ -43,7 +47,7 @@ public:
 signals:
     // Other places or rules were chosen.
     void inputsChanged();
-    // A time has come, or the ten minutes after it are over.
+    // A time has come, the ten minutes after it are over, or another day has begun there.
     void timeCame();
 
 private:

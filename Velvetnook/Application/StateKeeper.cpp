@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/StateKeeper.h"
 
+#include <cstdio>
 #include <utility>
 
 namespace Velvetnook
@@ -26,7 +27,11 @@ void StateKeeper::finish()
 {
     if (m_isLent && !m_waiting.empty()) {
         m_isLent = false;
-        const auto reopened = m_slot.ask([](Slot &slot) { return reopen(slot).has_value(); });
+        auto reopened = m_slot.ask([](Slot &slot) { return reopen(slot).has_value(); });
+        if (!reopened.get()) {
+            std::fprintf(stderr, "velvetnook: %zu changes could not be saved: %s\n",
+                         m_waiting.size(), "another program has the data");
+        }
         sendWaiting();
     }
     m_slot.ask([](Slot &) {}).wait();
@@ -95,10 +100,10 @@ void StateKeeper::takeBack(std::function<void(Result<Committed>)> back)
                [this, back = std::move(back)](Result<Committed> held) {
                    const bool isBack = held.has_value();
                    m_isLent = !isBack;
-                   back(std::move(held));
                    if (isBack) {
-                       sendWaiting();
+                       sendWaiting(); // before whatever else the answer makes anybody ask
                    }
+                   back(std::move(held));
                });
 }
 

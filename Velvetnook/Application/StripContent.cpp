@@ -4,6 +4,7 @@
 
 #include "KestCore/Devotional/Content.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/PrayerWatch.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
 #include <QCoreApplication>
@@ -122,10 +123,12 @@ Strip::Content Strip::emphasis()
 
 Strip::Content Strip::message()
 {
-    if (!m_sources.message || m_sources.message->until <= m_now) {
+    if (!m_sources.message || m_sources.message->until.value_or(m_now + kMinute) <= m_now) {
         return std::nullopt;
     }
-    lookAgain(m_sources.message->until);
+    if (const auto &until = m_sources.message->until) {
+        lookAgain(*until);
+    }
     return StripContent{.kind = QStringLiteral("message"),
                         .icon = QStringLiteral("sparkle"),
                         .iconTone = QStringLiteral("accent"),
@@ -143,7 +146,7 @@ Strip::Content Strip::prayerNow()
     return StripContent{.kind = QStringLiteral("prayer"),
                         .icon = QStringLiteral("prayer"),
                         .iconTone = QStringLiteral("accent"),
-                        .text = prayerTitle(last->prayer),
+                        .text = prayerName(last->prayer),
                         .textTone = QStringLiteral("accent"),
                         .trailing = tr("now", "the time of a prayer has come"),
                         .trailingTone = QStringLiteral("text1")};
@@ -271,15 +274,16 @@ StripContent Strip::prayerContent(const KestCore::NextPrayer &next)
 {
     const bool isNear = next.at - m_now <= kPrayerIsNear;
     lookAgain(next.at - kPrayerIsNear);
-    return StripContent{.kind = QStringLiteral("prayer"),
-                        .icon = QStringLiteral("prayer"),
-                        .iconTone = isNear ? QStringLiteral("accent") : QStringLiteral("text2"),
-                        .text = prayerTitle(next.prayer),
-                        .textTone = QStringLiteral("text1"),
-                        .note = m_formatting.time(next.at),
-                        .trailing = tr("in %1", "42 min").arg(minutesUntil(next.at)),
-                        .trailingTone =
-                            isNear ? QStringLiteral("accent") : QStringLiteral("text2")};
+    return StripContent{
+        .kind = QStringLiteral("prayer"),
+        .icon = QStringLiteral("prayer"),
+        .iconTone = isNear ? QStringLiteral("accent") : QStringLiteral("text2"),
+        .text = prayerName(next.prayer),
+        .textTone = QStringLiteral("text1"),
+        .note = m_sources.placeCalendar ? m_formatting.timeIn(*m_sources.placeCalendar, next.at)
+                                        : m_formatting.time(next.at),
+        .trailing = tr("in %1", "42 min").arg(minutesUntil(next.at)),
+        .trailingTone = isNear ? QStringLiteral("accent") : QStringLiteral("text2")};
 }
 
 Strip::Content Strip::prayerSoon()
@@ -346,15 +350,6 @@ StripStep stripStep(const StripSources &sources, const Formatting &formatting,
                     Base::Instant now)
 {
     return Strip{sources, formatting, now}.step();
-}
-
-QString prayerTitle(PrayerCore::Prayer prayer)
-{
-    static constexpr const char *kTitles[]{
-        QT_TRANSLATE_NOOP("Prayers", "Fajr"),    QT_TRANSLATE_NOOP("Prayers", "Sunrise"),
-        QT_TRANSLATE_NOOP("Prayers", "Dhuhr"),   QT_TRANSLATE_NOOP("Prayers", "Asr"),
-        QT_TRANSLATE_NOOP("Prayers", "Maghrib"), QT_TRANSLATE_NOOP("Prayers", "Isha")};
-    return QCoreApplication::translate("Prayers", kTitles[std::to_underlying(prayer)]);
 }
 
 } // namespace Velvetnook

@@ -17,7 +17,6 @@ namespace Velvetnook
 
 class Formatting;
 
-inline constexpr Base::Seconds kPrayerNowTime{600};
 inline constexpr Base::Seconds kCountingTime{120};
 inline constexpr Base::Seconds kReachedTime{4};
 inline constexpr Base::Seconds kShortMessageTime{3};
@@ -51,13 +50,14 @@ struct StripContent {
 struct ShortMessage {
     QString text{};
     KestCore::MessageAnimation animation{};
-    Base::Instant until{};
+    std::optional<Base::Instant> until{}; // absent while nobody can see it
 };
 
 // What there is to show. The prayers are absent without a place.
 struct StripSources {
     const KestCore::NativeState &state;
     std::vector<KestCore::Timer> timers{}; // as sortForList leaves them
+    std::optional<KestCore::Calendar> placeCalendar{};
     std::optional<KestCore::NextPrayer> lastPrayer{};
     std::optional<KestCore::NextPrayer> nextPrayer{};
     std::optional<Base::Instant> countedAt{};
@@ -77,8 +77,5 @@ struct StripStep {
 // minutes, a running timer, a prayer within the hour if that is chosen, what is pinned.
 StripStep stripStep(const StripSources &sources, const Formatting &formatting,
                     Base::Instant now);
-
-// The prayer's name in the language of the interface.
-QString prayerTitle(PrayerCore::Prayer prayer);
 
 } // namespace Velvetnook

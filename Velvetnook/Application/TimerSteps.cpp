@@ -117,6 +117,33 @@ void changeTimer(ApplicationModel &model, std::string id, PastEnd pastEnd, Timer
         std::move(done));
 }
 
+bool isGoing(const TimerState &timer, Base::Instant now)
+{
+    return timer.running && !KestCore::hasEnded(timer, now);
+}
+
+void toggleTimer(ApplicationModel &model, const Timer &timer, ApplicationModel::Done done)
+{
+    if (isGoing(timer.state, model.now())) {
+        // An end that comes in this moment is still announced.
+        changeTimer(
+            model, timer.record.id, PastEnd::left,
+            [](TimerState &state, Base::Instant now) -> Result<void> {
+                KestCore::pauseTimer(state, now);
+                return {};
+            },
+            std::move(done));
+        return;
+    }
+    changeTimer(
+        model, timer.record.id, PastEnd::settled,
+        [](TimerState &state, Base::Instant now) -> Result<void> {
+            KestCore::resumeTimer(state, now);
+            return {};
+        },
+        std::move(done));
+}
+
 void resetTimer(ApplicationModel &model, std::string id, ApplicationModel::Done done)
 {
     changeTimer(

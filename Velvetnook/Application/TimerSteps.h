@@ -23,9 +23,14 @@ std::vector<KestCore::Timer> timersIn(const ApplicationModel &model);
 
 void beginTimer(ApplicationModel &model, KestCore::NewTimer wanted,
                 ApplicationModel::Done done = {});
-// Changes one, whose end so far is settled first where `settlesEnd`.
+// Changes one; its end so far is settled first, or left to be announced.
 enum class PastEnd : std::uint8_t { settled, left };
 void changeTimer(ApplicationModel &model, std::string id, PastEnd pastEnd, TimerChange change,
+                 ApplicationModel::Done done = {});
+// Whether it runs and has not come to its end.
+bool isGoing(const KestCore::TimerState &timer, Base::Instant now);
+// Pauses one that is going, and lets any other go on or begin again.
+void toggleTimer(ApplicationModel &model, const KestCore::Timer &timer,
                  ApplicationModel::Done done = {});
 // Not begun: at its full length again.
 void resetTimer(ApplicationModel &model, std::string id, ApplicationModel::Done done = {});

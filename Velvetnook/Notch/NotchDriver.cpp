@@ -227,6 +227,7 @@ void NotchDriver::announce()
 {
     const bool open = isOpen();
     m_app.panel()->setOpen(open);
+    m_app.strip()->setPanelOpen(open);
     m_app.strip()->setVisible(m_notch.state == InteractionState::compact ||
                               m_notch.state == InteractionState::hoverOpening);
     emit changed();

@@ -5,6 +5,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CounterSteps.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/LocalDay.h"
 #include "Velvetnook/Application/PrayerWatch.h"
 
 #include <QCoreApplication>
@@ -28,12 +29,6 @@ QString countLine(const KestCore::NativeState &state, const Formatting &formatti
         return tr("Count %1 (%2)").arg(phrase, count);
     }
     return tr("Count %1 (%2 of %3)").arg(phrase, count, formatting.number(*session.target));
-}
-
-bool isPaused(const ApplicationModel &model)
-{
-    const auto &until = model.state().devotional.pausedUntil;
-    return until && *until > Base::milliseconds1970(model.now());
 }
 
 } // namespace
@@ -65,8 +60,8 @@ std::vector<TrayItem> trayMenu(const ApplicationModel &model, const Formatting &
             count,
             {},
             line("prayer", nextPrayerLine(model, formatting, prayers)),
-            isPaused(model) ? line("resume-reminders", tr("Resume reminders"))
-                            : line("pause-reminders", tr("Pause reminders for an hour")),
+            endOfPause(model) ? line("resume-reminders", tr("Resume reminders"))
+                              : line("pause-reminders", tr("Pause reminders for an hour")),
             {},
             line("settings", tr("Settings…")),
             line("quit", tr("Quit"))};

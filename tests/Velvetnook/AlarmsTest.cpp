@@ -96,17 +96,92 @@ TEST(ReminderAlarm, IsSilentInAPauseAndNeedsNothingToEndIt)
     EXPECT_THAT(app.taken(), ElementsAre("15:06 kest-remembrance"));
 }
 
-TEST(ReminderAlarm, DrawsTheEyeToAPhraseThatIsInView)
+TEST(ReminderAlarm, DrawsTheEyeToAPhraseOnlyWhereThatIsInView)
 {
+    struct Case {
+        const char *chosen;
+        bool isInView;
+        int emphasised;
+        std::size_t told;
+    };
+    for (const auto &[chosen, isInView, emphasised, told] :
+         {Case{"emphasis", true, 1, 0}, Case{"emphasis", false, 0, 1},
+          Case{"nothing", true, 0, 0}, Case{"nothing", false, 0, 1}}) {
+        SCOPED_TRACE(std::string{chosen} + (isInView ? ", in view" : ", not in view"));
+        AlarmedModel app{[&](NativeState &state) {
+            remindEachHour(state);
+            state.devotional.presentation = !isInView; // as an import may have left it
+            state.devotional.preferences.pinnedReminder = chosen;
+        }};
+        app.alarms().follow({.phrase = [isInView] { return isInView; }});
+        QSignalSpy emphasis{&app.alarms(), &Velvetnook::Alarms::emphasisWanted};
+        app.live(61);
+        EXPECT_EQ(emphasis.count(), emphasised);
+        EXPECT_EQ(app.taken().size(), told);
+    }
+}
+
+TEST(ReminderAlarm, SendsThePinnedPhraseAndKeepsToTheSwitchOfAllSounds)
+{
+    struct Case {
+        const char *tool;
+        bool hasSound;
+        const char *begins;
+    };
+    for (const auto &[tool, hasSound, begins] :
+         {Case{"tasbih", true, "أَسْتَغْفِرُ"}, Case{"dhikr", false, "أَسْتَغْفِرُ"},
+          Case{"prayer", true, "سُبْحَانَ"}}) { // what is counted
+        SCOPED_TRACE(tool);
+        AlarmedModel app{[&](NativeState &state) {
+            remindEachHour(state);
+            state.pin = {.tool = tool, .item = "astaghfirullah"};
+            state.devotional.preferences.reminderSound = true;
+            state.devotional.preferences.soundEnabled = hasSound;
+        }};
+        app.live(60);
+        ASSERT_EQ(app.requests.size(), 1U);
+        EXPECT_TRUE(app.requests.front().body.startsWith(QString::fromUtf8(begins)))
+            << app.requests.front().body.toStdString();
+        EXPECT_EQ(app.requests.front().withSound, hasSound);
+    }
+}
+
+void count(NativeState &state, std::int64_t to, std::vector<std::int64_t> reached)
+{
+    state.devotional.session.count = to;
+    state.devotional.session.startedAt = 0;
+    state.devotional.session.history.clear();
+    state.devotional.session.completedTargets = std::move(reached);
+}
+
+TEST(TargetNotice, TellsOnceOfATargetThatNobodyWatches)
+{
+    bool isOpen = false;
     AlarmedModel app{[](NativeState &state) {
-        remindEachHour(state);
-        state.devotional.presentation = true;
-        state.devotional.preferences.pinnedReminder = "emphasis";
+        state.devotional.session.target = 33;
+        count(state, 32, {});
     }};
-    QSignalSpy emphasis{&app.alarms(), &Velvetnook::Alarms::emphasisWanted};
-    app.live(61);
-    EXPECT_EQ(emphasis.count(), 1);
+    app.alarms().follow({.panel = [&isOpen] { return isOpen; }});
+    QSignalSpy over{&app.alarms(), &Velvetnook::Alarms::notificationObsolete};
+    QSignalSpy finish{&app.alarms(), &Velvetnook::Alarms::finishWanted};
+    app.change([](NativeState &state) { count(state, 33, {33}); });
+    EXPECT_THAT(app.taken(), ElementsAre("13:06 kest-target"));
+    EXPECT_EQ(app.requests.front().actions.size(), 2U);
+    app.change([](NativeState &state) { count(state, 34, {33}); });
+    app.change([](NativeState &state) { count(state, 32, {33}); });
+    EXPECT_EQ(over.count(), 1);
+    app.change([](NativeState &state) { count(state, 33, {33}); });
     EXPECT_THAT(app.taken(), IsEmpty());
+    isOpen = true;
+    app.change([](NativeState &state) {
+        state.devotional.session.target = 34;
+        count(state, 34, {33, 34});
+    });
+    EXPECT_THAT(app.taken(), IsEmpty());
+    app.alarms().act(QStringLiteral("kest-target"), QStringLiteral("on"));
+    EXPECT_EQ(finish.count(), 0);
+    app.alarms().act(QStringLiteral("kest-target"), QStringLiteral("finish"));
+    EXPECT_EQ(finish.count(), 1);
 }
 
 TEST(ReminderAlarm, ComesAgainTenMinutesAfterLater)
@@ -203,6 +278,22 @@ TEST(PrayerWatch, CountsAPrayerAsNowForTenMinutes)
     app.go(Base::Seconds{1});
     EXPECT_EQ(came.count(), 2);
     EXPECT_FALSE(watch.now(app.model().now()));
+}
+
+TEST(PrayerWatch, BeginsADayAtTheMidnightOfThePlace)
+{
+    AlarmedModel app{[](NativeState &state) {
+        state.settings["prayer.latitude"] = "35.6762";
+        state.settings["prayer.longitude"] = "139.6503";
+        state.settings["prayer.timezone"] = "Asia/Tokyo"; // 22:06 there
+    }};
+    Velvetnook::PrayerWatch watch{app.model()};
+    app.rest();
+    QSignalSpy came{&watch, &Velvetnook::PrayerWatch::timeCame};
+    app.go(kMinute * 113);
+    EXPECT_EQ(came.count(), 0);
+    app.go(kMinute * 2);
+    EXPECT_EQ(came.count(), 1);
 }
 
 TEST(FridayAlarm, InvitesOnceAndOnlyWhenThatIsSaved)

@@ -49,6 +49,31 @@ TEST(CounterView, MakesEveryOfManyQuickClicksADurableStep)
     EXPECT_EQ(store.state().devotional.session.count, 200);
 }
 
+// The data is lent to another program, and this one ends before it is back.
+TEST(CounterView, KeepsWhatIsCountedOnLentDataWhenTheProgramEnds)
+{
+    for (const std::int64_t others : {0, 5}) {
+        SCOPED_TRACE(others);
+        Counter counter;
+        countTo(counter, 2);
+        bool isLent = false;
+        counter.model().keeper().lend([&isLent] { isLent = true; });
+        ASSERT_TRUE(RunningModel::waitUntil([&isLent] { return isLent; }));
+        if (others > 0) {
+            auto store = KestCore::StateStore::open(counter.file()).value();
+            ASSERT_TRUE(store.change([&](KestCore::NativeState &state) -> Base::Result<void> {
+                state.devotional.session.count += others;
+                return {};
+            }));
+        }
+        counter.view.increment();
+        counter.view.increment();
+        counter.close();
+        const auto store = KestCore::StateStore::open(counter.file()).value();
+        EXPECT_EQ(store.state().devotional.session.count, 4 + others);
+    }
+}
+
 TEST(CounterView, KeepsTheTrueNumberWhenTheDiskIsFull)
 {
     FaultVfs disk; // before the store is opened

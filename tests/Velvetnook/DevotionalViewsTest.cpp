@@ -3,6 +3,7 @@
 #include "RunningModel.h"
 #include "Velvetnook/Application/FridayPrompt.h"
 #include "Velvetnook/Application/HomeCards.h"
+#include "Velvetnook/Application/TimerSteps.h"
 #include "Velvetnook/Application/ViewModels/HomeViewModel.h"
 #include "Velvetnook/Application/ViewModels/NamesViewModel.h"
 
@@ -136,6 +137,51 @@ TEST(HomeView, CountsDownOnlyWhileItIsShown)
     changed.clear();
     running.pass(Base::Seconds{600});
     EXPECT_EQ(changed.count(), 0);
+}
+
+TEST(HomeView, ShowsTheTimerThatGoesOnAndNotOneThatIsOver)
+{
+    RunningModel running;
+    HomeViewModel home{running.model(), running.formatting()};
+    home.setShown(true);
+    const auto begin = [&](const char *title, double minutes) {
+        Velvetnook::beginTimer(
+            running.model(),
+            {.mode = KestCore::TimerMode::countdown, .minutes = minutes, .title = title});
+        running.settle();
+    };
+    begin("Tea", 1);
+    running.pass(Base::Seconds{120});
+    EXPECT_EQ(home.timerNote(), "finished");
+    begin("Bread", 50);
+    EXPECT_EQ(home.timerTitle(), "Bread");
+    EXPECT_EQ(home.timerText(), "50:00");
+}
+
+// Another alarm of the same moment has all of them asked again before they are called.
+TEST(HomeView, CountsDownThoughAllIsAskedAgainInThatMoment)
+{
+    RunningModel running{[](KestCore::NativeState &state) { state.settings = london(); }};
+    HomeViewModel home{running.model(), running.formatting()};
+    home.setShown(true);
+    running.settle();
+    QSignalSpy changed{&home, &HomeViewModel::changed};
+    for (int minute = 0; minute < 10; ++minute) {
+        running.passAndAskAgain(Base::Seconds{60.01});
+    }
+    EXPECT_GE(changed.count(), 10);
+}
+
+TEST(HomeView, SaysOfWhichDayACountIs)
+{
+    RunningModel running{[](KestCore::NativeState &state) {
+        state.devotional.session.count = 21;
+        state.devotional.session.startedAt =
+            Base::milliseconds1970(RunningModel::kStart - Base::Seconds{3 * 86'400});
+    }};
+    const HomeViewModel home{running.model(), running.formatting()};
+    EXPECT_TRUE(home.counterNote().endsWith("since Tuesday 11 November, 13:06"))
+        << home.counterNote().toStdString();
 }
 
 TEST(HomeView, AsksForAPlaceWhereThereIsNone)

@@ -201,6 +201,32 @@ TEST_F(NotesViewModelTest, ARefusedTextStaysWithItsReasonAndTheStoredOneStaysToo
     EXPECT_EQ(titles(), (QStringList{"Scratchpad", "short again"}));
 }
 
+TEST_F(NotesViewModelTest, NewTextsThatAreRefusedKeepALineEachAndAreTriedAgain)
+{
+    QSignalSpy said{&running.model(), &Velvetnook::ApplicationModel::said};
+    const auto writeTooMuch = [&](QChar letter) {
+        notes->create();
+        notes->edit(QString{3, letter} + QString{1'000'000, u'\n'});
+    };
+    writeTooMuch(u'a');
+    writeTooMuch(u'b');
+    notes->chooseScratchpad();
+    running.settle();
+    EXPECT_EQ(titles(), (QStringList{"aaa", "bbb", "Scratchpad"}));
+    EXPECT_EQ(said.size(), 2);
+
+    const QString first = notes->list()->index(0, 0).data(NoteList::noteId).toString();
+    notes->choose(first);
+    running.settle(); // both were tried again, and nothing new is said
+    EXPECT_TRUE(notes->text().startsWith("aaa"));
+    EXPECT_FALSE(notes->refusal().isEmpty());
+    EXPECT_EQ(said.size(), 2);
+    notes->edit("aaa");
+    notes->chooseScratchpad();
+    running.settle();
+    EXPECT_EQ(titles(), (QStringList{"bbb", "Scratchpad", "aaa"}));
+}
+
 TEST_F(NotesViewModelTest, AnOwnTitleStaysAndAnEmptiedOneFollowsTheTextAgain)
 {
     write("first line");

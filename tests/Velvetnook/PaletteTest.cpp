@@ -271,6 +271,26 @@ TEST_F(PaletteTest, SpeaksTheLanguageOfTheInterface)
     EXPECT_TRUE(rows().front().note.isEmpty()) << qPrintable(rows().front().note);
 }
 
+TEST_F(PaletteTest, ATimerThatIsOverIsBegunAgainAndNotPaused)
+{
+    auto timer = KestCore::makeTimer(
+        {.mode = KestCore::TimerMode::countdown, .minutes = 5, .title = "Tea"}, {}, {},
+        kNow - Base::Seconds{3600});
+    ASSERT_TRUE(timer);
+    m_model->changeRecords({.written = {timer->record}, .removed = {}});
+    ASSERT_TRUE(waitUntil([&] { return m_model->recordsOfKind("timer").size() == 1; }));
+    palette().begin();
+    EXPECT_FALSE(titles().contains(QStringLiteral("Tea")));
+    palette().setQuery(QStringLiteral("tea"));
+    ASSERT_TRUE(titles().contains(QStringLiteral("Start Tea again")));
+    palette().setCurrent(static_cast<int>(titles().indexOf(QStringLiteral("Start Tea again"))));
+    palette().activate();
+    EXPECT_TRUE(waitUntil([&] {
+        const auto timers = KestCore::timersOf(m_model->recordsOfKind("timer")).value();
+        return timers.front().state.running && !KestCore::hasEnded(timers.front().state, kNow);
+    }));
+}
+
 TEST(TypedTimer, ReadsMinutesAndHoursAndNothingElse)
 {
     const struct {

@@ -63,6 +63,14 @@ public:
         settle();
     }
 
+    // The same, but first something else has every alarm asked again.
+    void passAndAskAgain(Base::Seconds seconds)
+    {
+        m_now += seconds;
+        m_model->clock().reschedule();
+        settle();
+    }
+
     void change(const Prepare &prepare)
     {
         m_model->changeState([prepare](KestCore::NativeState &state) -> Base::Result<void> {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
 #include "KestCore/Tools/Messages.h"
+#include "Velvetnook/Application/PrayerWatch.h"
 #include "Velvetnook/Application/StripContent.h"
 #include "Velvetnook/Application/ViewModels/StripViewModel.h"
 #include "tests/Velvetnook/RunningModel.h"
@@ -156,10 +157,37 @@ TEST(StripViewModelTest, SaysWhenATargetIsReachedAndThenCountsOn)
     EXPECT_EQ(strip.kind(), QStringLiteral("pin"));
 }
 
+TEST(StripViewModelTest, AMessageWaitsUntilItCanBeSeenAndGoesInItsTime)
+{
+    RunningModel running;
+    StripViewModel strip{running.model(), running.formatting()};
+    strip.say(QStringLiteral("The disk is full"));
+    running.pass(Base::Seconds{3600});
+    strip.setVisible(true);
+    EXPECT_EQ(strip.text(), QStringLiteral("The disk is full"));
+    running.settle();
+    running.pass(kShortMessageTime);
+    EXPECT_EQ(strip.kind(), QStringLiteral("pin"));
+
+    strip.say(QStringLiteral("again"));
+    running.settle();
+    running.pass(Base::Seconds{-86'400}); // the clock is set back
+    emit running.model().clock().wallClockChanged();
+    running.settle();
+    EXPECT_EQ(strip.kind(), QStringLiteral("message"));
+    running.pass(kShortMessageTime);
+    EXPECT_EQ(strip.kind(), QStringLiteral("pin"));
+    // What the open panel shows is not told a second time.
+    strip.setPanelOpen(true);
+    running.model().say(QStringLiteral("seen"));
+    EXPECT_EQ(strip.kind(), QStringLiteral("pin"));
+}
+
 TEST(StripViewModelTest, ShowsANewMessageOnceAndNotThoseOfBefore)
 {
     RunningModel running;
     StripViewModel strip{running.model(), running.formatting()};
+    strip.setVisible(true);
     const auto write = [&](const char *text, Base::Seconds when) {
         auto message = KestCore::makeMessage({.text = text, .animation = {}}).value();
         message.kind = KestCore::kMessageKind;
@@ -176,6 +204,23 @@ TEST(StripViewModelTest, ShowsANewMessageOnceAndNotThoseOfBefore)
     running.model().changeSetting("appearance.theme", "light");
     running.settle();
     EXPECT_EQ(strip.kind(), QStringLiteral("pin"));
+    write("of tomorrow", Base::Seconds{86'400}); // hides none that comes after it
+    running.pass(kShortMessageTime);
+    write("of now", Base::Seconds{2});
+    EXPECT_EQ(strip.text(), QStringLiteral("of now"));
+}
+
+TEST(StripViewModelTest, TellsAPrayerInTheTimeOfItsPlace)
+{
+    RunningModel running{[](KestCore::NativeState &state) {
+        state.settings["prayer.latitude"] = "35.6762";
+        state.settings["prayer.longitude"] = "139.6503";
+        state.settings["prayer.timezone"] = "Asia/Tokyo";
+        state.pin = {.tool = "prayer", .item = ""};
+    }};
+    StripViewModel strip{running.model(), running.formatting()};
+    EXPECT_EQ(strip.text(), QStringLiteral("Fajr"));
+    EXPECT_TRUE(strip.note().startsWith(u"04:")) << strip.note().toStdString();
 }
 
 } // namespace

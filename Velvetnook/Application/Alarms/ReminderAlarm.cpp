@@ -5,8 +5,10 @@
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Devotional/Reminders.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/LocalDay.h"
 
 #include <tuple>
+#include <utility>
 
 namespace Velvetnook
 {
@@ -26,7 +28,7 @@ const KestCore::Phrase &pinnedPhrase(const KestCore::NativeState &state)
     if (state.pin.tool == "names") {
         return KestCore::phraseById(state.pin.item, content.names, content.names.front());
     }
-    return state.pin.tool == "dhikr"
+    return state.pin.tool == "dhikr" || state.pin.tool == "tasbih"
                ? KestCore::phraseById(state.pin.item, content.dhikr, selected)
                : selected;
 }
@@ -41,8 +43,10 @@ auto schedule(const KestCore::Preferences &preferences)
 
 } // namespace
 
-ReminderAlarm::ReminderAlarm(ApplicationModel &model, QObject *parent)
-    : QObject{parent}, m_model{model}, m_preferences{model.state().devotional.preferences}
+ReminderAlarm::ReminderAlarm(ApplicationModel &model, std::function<bool()> isInView,
+                             QObject *parent)
+    : QObject{parent}, m_model{model}, m_isInView{std::move(isInView)},
+      m_preferences{model.state().devotional.preferences}
 {
     startFrom(model.now());
     connect(&model, &ApplicationModel::stateChanged, this, &ReminderAlarm::followPreferences);
@@ -52,7 +56,7 @@ ReminderAlarm::ReminderAlarm(ApplicationModel &model, QObject *parent)
         [this](Base::Instant now) { ring(now); });
     model.clock().add(
         this, [this](Base::Instant) { return m_snoozedUntil; },
-        [this](Base::Instant now) { ringAgain(now); });
+        [this](Base::Instant) { ringAgain(); });
 }
 
 void ReminderAlarm::snooze()
@@ -100,17 +104,13 @@ void ReminderAlarm::followCalendar()
     }
 }
 
-bool ReminderAlarm::isPaused(Base::Instant now) const
-{
-    const auto until = m_model.state().devotional.pausedUntil;
-    return until && now < Base::fromMilliseconds1970(*until);
-}
-
 void ReminderAlarm::ring(Base::Instant now)
 {
     const auto due = m_next;
-    const auto tick =
-        KestCore::tickReminder(now, due, m_model.state().devotional, m_model.calendar());
+    // What an earlier run or an import left there says nothing of this moment.
+    KestCore::DevotionalState state = m_model.state().devotional;
+    state.presentation = m_isInView();
+    const auto tick = KestCore::tickReminder(now, due, state, m_model.calendar());
     m_after = now;
     m_next = tick.nextReminder;
     m_snoozedUntil.reset();
@@ -127,10 +127,10 @@ void ReminderAlarm::ring(Base::Instant now)
     }
 }
 
-void ReminderAlarm::ringAgain(Base::Instant now)
+void ReminderAlarm::ringAgain()
 {
     m_snoozedUntil.reset();
-    if (!isPaused(now)) {
+    if (!endOfPause(m_model)) {
         emit notificationWanted(request());
     }
 }
@@ -145,7 +145,7 @@ NotificationRequest ReminderAlarm::request() const
             .body = QString::fromStdString(wanted.body),
             .actions = {{.key = QStringLiteral("count"), .label = tr("Count")},
                         {.key = QStringLiteral("later"), .label = tr("Later")}},
-            .withSound = preferences.reminderSound};
+            .withSound = wantsSound(preferences, &KestCore::Preferences::reminderSound)};
 }
 
 } // namespace Velvetnook

@@ -8,6 +8,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <optional>
 
 namespace Velvetnook
@@ -22,7 +23,9 @@ class ReminderAlarm : public QObject
     Q_OBJECT
 
 public:
-    explicit ReminderAlarm(ApplicationModel &model, QObject *parent = nullptr);
+    // `isInView`: whether the pinned phrase can be seen now.
+    ReminderAlarm(ApplicationModel &model, std::function<bool()> isInView,
+                  QObject *parent = nullptr);
 
     std::optional<Base::Instant> next() const { return m_next; }
     // Shows the reminder again a little later, whatever the interval.
@@ -38,11 +41,11 @@ private:
     void followPreferences();
     void followCalendar();
     void ring(Base::Instant now);
-    void ringAgain(Base::Instant now);
-    bool isPaused(Base::Instant now) const;
+    void ringAgain();
     NotificationRequest request() const;
 
     ApplicationModel &m_model;
+    std::function<bool()> m_isInView;
     KestCore::Preferences m_preferences; // that `m_next` was computed from
     Base::Instant m_after{};             // the next one is counted from here
     std::optional<Base::Instant> m_next{};

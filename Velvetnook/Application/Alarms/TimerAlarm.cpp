@@ -105,7 +105,8 @@ NotificationRequest TimerAlarm::request(const KestCore::TimerNotification &poste
                                .body = QString::fromStdString(posted.body),
                                .actions = {},
                                .withSound =
-                                   m_model.state().devotional.preferences.completionSound};
+                                   wantsSound(m_model.state().devotional.preferences,
+                                              &KestCore::Preferences::completionSound)};
     const auto timer = std::ranges::find(
         m_timers, posted.id, [](const Timer &each) { return "timer-" + idOf(each); });
     const bool isKnown = timer != m_timers.end();

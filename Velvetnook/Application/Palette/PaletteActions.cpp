@@ -4,6 +4,7 @@
 
 #include "KestCore/Tools/TimerState.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/LocalDay.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -86,8 +87,7 @@ bool isPossible(const PaletteAction &action, const ApplicationModel &model)
 {
     const auto &devotional = model.state().devotional;
     const std::string_view id{action.id};
-    const bool isQuiet =
-        devotional.pausedUntil.value_or(0) > Base::milliseconds1970(model.now());
+    const bool isQuiet = endOfPause(model).has_value();
     if (id == "count" || id == "pause") {
         return !devotional.session.isPaused;
     }

@@ -219,7 +219,7 @@ void PaletteCatalogue::addTimers()
     }
     for (const KestCore::Timer &timer : *timers) {
         add({.kind = PaletteKind::timer, .group = PaletteGroup::tools, .id = timer.record.id},
-            timerStepTitle(timer, m_formatting), {timer.record.title}, "timer");
+            timerStepTitle(timer, m_formatting, m_model.now()), {timer.record.title}, "timer");
     }
 }
 

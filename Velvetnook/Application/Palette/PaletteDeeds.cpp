@@ -159,11 +159,15 @@ std::vector<PaletteDeed> PaletteDeeds::ofTimer(const PaletteThing &thing)
     PaletteDeed open{.text = paletteTr(QT_TRANSLATE_NOOP("Palette", "Open Timers")),
                      .iconName = QStringLiteral("timers"),
                      .run = [this] { openTool(QStringLiteral("timers")); }};
-    PaletteDeed step{
-        .text = state.running ? paletteTr(QT_TRANSLATE_NOOP("Palette", "Pause"))
-                              : paletteTr(QT_TRANSLATE_NOOP("Palette", "Resume")),
-        .iconName = state.running ? QStringLiteral("pause") : QStringLiteral("play"),
-        .run = [this, id = thing.id, isRunning = state.running] { stepTimer(id, isRunning); }};
+    const bool isRunning = isGoing(state, m_model.now());
+    const char *text = state.running ? QT_TRANSLATE_NOOP("Palette", "Pause")
+                                     : QT_TRANSLATE_NOOP("Palette", "Resume");
+    if (KestCore::hasEnded(state, m_model.now())) {
+        text = QT_TRANSLATE_NOOP("Palette", "Start again");
+    }
+    PaletteDeed step{.text = paletteTr(text),
+                     .iconName = isRunning ? QStringLiteral("pause") : QStringLiteral("play"),
+                     .run = [this, id = thing.id] { stepTimer(id); }};
     return thing.group == PaletteGroup::resume ? std::vector{std::move(open), std::move(step)}
                                                : std::vector{std::move(step), std::move(open)};
 }
@@ -316,17 +320,13 @@ void PaletteDeeds::startTimer(std::string_view mode, double minutes)
     Velvetnook::beginTimer(m_model, std::move(wanted));
 }
 
-void PaletteDeeds::stepTimer(const std::string &id, bool isRunning)
+void PaletteDeeds::stepTimer(const std::string &id)
 {
-    changeTimer(m_model, id, PastEnd::settled,
-                [isRunning](KestCore::TimerState &timer, Base::Instant now) -> Result<void> {
-                    if (isRunning) {
-                        KestCore::pauseTimer(timer, now);
-                    } else {
-                        KestCore::resumeTimer(timer, now);
-                    }
-                    return {};
-                });
+    for (const KestCore::Timer &timer : timersIn(m_model)) {
+        if (timer.record.id == id) {
+            toggleTimer(m_model, timer);
+        }
+    }
 }
 
 void PaletteDeeds::useEmoji(const std::string &text)

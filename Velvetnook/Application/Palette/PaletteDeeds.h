@@ -54,7 +54,7 @@ private:
     PaletteDeed pinning(const std::string &tool, const std::string &item);
     PaletteDeed favouring(const std::string &phrase);
     void startTimer(std::string_view mode, double minutes);
-    void stepTimer(const std::string &id, bool isRunning);
+    void stepTimer(const std::string &id);
     void useEmoji(const std::string &text);
 
     App &m_app;

@@ -65,7 +65,7 @@ QString PaletteText::nextPrayer() const
     if (!inputs) {
         return {};
     }
-    const auto next = KestCore::PrayerCalculator::next(*inputs, m_model.now());
+    const auto next = nextPrayerOf(*inputs, m_model.now());
     return next ? paletteTr(QT_TRANSLATE_NOOP("Palette", "%1 in %2"))
                       .arg(prayerName(next->prayer),
                            m_formatting.remaining((next->at - m_model.now()).count()))

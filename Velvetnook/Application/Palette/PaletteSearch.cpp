@@ -7,6 +7,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/Palette/PaletteActions.h"
+#include "Velvetnook/Application/TimerSteps.h"
 
 #include <algorithm>
 #include <array>
@@ -86,14 +87,11 @@ void PaletteSearch::offerSession()
 
 void PaletteSearch::offerTimers()
 {
-    auto timers = KestCore::timersOf(m_model.recordsOfKind("timer"));
-    if (!timers) {
-        return;
-    }
-    KestCore::sortForList(*timers);
+    auto timers = timersIn(m_model);
+    KestCore::sortForList(timers);
     std::size_t count = 0;
-    for (const KestCore::Timer &timer : *timers) {
-        if (timer.state.running && count++ < kMostTimers) {
+    for (const KestCore::Timer &timer : timers) {
+        if (isGoing(timer.state, m_model.now()) && count++ < kMostTimers) {
             m_offers.push_back({.thing = {.kind = PaletteKind::timer,
                                           .group = PaletteGroup::resume,
                                           .id = timer.record.id}});

@@ -74,10 +74,14 @@ QString timerIcon(const std::string &mode)
 
 QString paletteTr(const char *text) { return QCoreApplication::translate("Palette", text); }
 
-QString timerStepTitle(const KestCore::Timer &timer, const Formatting &formatting)
+QString timerStepTitle(const KestCore::Timer &timer, const Formatting &formatting,
+                       Base::Instant now)
 {
     const char *step = timer.state.running ? QT_TRANSLATE_NOOP("Palette", "Pause %1")
                                            : QT_TRANSLATE_NOOP("Palette", "Resume %1");
+    if (KestCore::hasEnded(timer.state, now)) {
+        step = QT_TRANSLATE_NOOP("Palette", "Start %1 again");
+    }
     return paletteTr(step).arg(timerTitle(timer, formatting));
 }
 
@@ -225,7 +229,11 @@ PaletteRow PaletteText::timerRow(const PaletteThing &thing) const
                        : time;
         return row;
     }
-    row.title = timerStepTitle(timer, m_formatting);
+    row.title = timerStepTitle(timer, m_formatting, m_model.now());
+    if (KestCore::hasEnded(timer.state, m_model.now())) {
+        row.note = paletteTr(QT_TRANSLATE_NOOP("Palette", "Timers · finished"));
+        return row;
+    }
     const char *note = timer.state.running
                            ? QT_TRANSLATE_NOOP("Palette", "Timers · %1")
                            : QT_TRANSLATE_NOOP("Palette", "Timers · paused at %1");

@@ -36,8 +36,10 @@ struct PaletteMoment {
 };
 std::vector<PaletteMoment> momentsOfToday(const ApplicationModel &model);
 
-// "Pause Focus" or "Resume Stopwatch": what choosing it does.
-QString timerStepTitle(const KestCore::Timer &timer, const Formatting &formatting);
+// "Pause Focus", "Resume Stopwatch" or, of one that is over, "Start Focus again": what
+// choosing it does.
+QString timerStepTitle(const KestCore::Timer &timer, const Formatting &formatting,
+                       Base::Instant now);
 
 QString headOf(PaletteGroup group);
 

@@ -5,6 +5,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CounterSteps.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/LocalDay.h"
 
 #include <QRegularExpression>
 #include <QVariantMap>
@@ -144,11 +145,7 @@ QString CounterViewModel::statusOf(const Shown &shown) const
 
 QString CounterViewModel::startedText(Base::Instant at) const
 {
-    const auto &calendar = m_model.calendar();
-    if (calendar.dayNumber(at) == calendar.dayNumber(m_model.now())) {
-        return tr("Started %1").arg(m_formatting.time(at));
-    }
-    return tr("Started %1, %2").arg(m_formatting.date(at), m_formatting.time(at));
+    return tr("Started %1").arg(momentText(at, m_model, m_formatting));
 }
 
 QString CounterViewModel::footerOf(const Shown &shown) const

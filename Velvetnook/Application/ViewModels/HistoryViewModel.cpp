@@ -96,6 +96,7 @@ void HistoryViewModel::addUp()
 void HistoryViewModel::take(HistoryTotals totals)
 {
     m_totals = std::move(totals);
+    m_isKnown = true;
     emit changed();
 }
 
@@ -125,11 +126,15 @@ void HistoryViewModel::setByPhrase(bool byPhrase)
 
 QString HistoryViewModel::total() const
 {
-    return m_formatting.number(m_totals.total.at(indexOf(m_period)).count);
+    return m_isKnown ? m_formatting.number(m_totals.total.at(indexOf(m_period)).count)
+                     : QString{};
 }
 
 QString HistoryViewModel::totalNote() const
 {
+    if (!m_isKnown) {
+        return {};
+    }
     const std::int64_t sessions = m_totals.total.at(indexOf(m_period)).sessions;
     const QString number = m_formatting.number(sessions);
     const bool isOne = sessions == 1;

@@ -64,6 +64,7 @@ private:
     SessionList m_sessions;
     Base::SharedList<KestCore::SessionRecord> m_records; // that m_totals are of, or soon will
     HistoryTotals m_totals;
+    bool m_isKnown = false; // until then there is no total to show
     HistoryPeriod m_period = HistoryPeriod::today;
     bool m_byPhrase = false;
     bool m_isOff = false;

@@ -10,6 +10,7 @@
 #include "Velvetnook/Application/HomeCards.h"
 #include "Velvetnook/Application/LocalDay.h"
 #include "Velvetnook/Application/PrayerWatch.h"
+#include "Velvetnook/Application/TimerSteps.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
 #include <QVariantMap>
@@ -23,19 +24,17 @@ namespace Velvetnook
 namespace
 {
 
-constexpr long long kLongInMinutes = 90; // from there on hours are told
-
 QVariantMap part(const QString &value, const QString &unit)
 {
     return {{QStringLiteral("value"), value}, {QStringLiteral("unit"), unit}};
 }
 
-// How long until a count of `seconds` that is shown in whole units, rounded up, shows one less.
-// A moment later, so that the clock's own roundness does not hold it back.
-Base::Seconds untilOneLess(double seconds, double unit)
+// When a count down to `end`, in whole units and rounded up, shows one less than at `shown`. A
+// moment later, so that the clock's own roundness does not hold it back.
+Base::Instant oneLess(Base::Instant end, Base::Instant shown, double unit)
 {
-    const double rest = std::fmod(seconds, unit);
-    return Base::Seconds{(rest > 0 ? rest : unit) + 0.001};
+    const double steps = std::ceil((end - shown).count() / unit) - 1;
+    return end - Base::Seconds{std::max(steps, 0.0) * unit - 0.001};
 }
 
 const KestCore::Phrase &nameOfToday(const ApplicationModel &model)
@@ -57,15 +56,22 @@ HomeViewModel::HomeViewModel(ApplicationModel &model, const Formatting &formatti
     connect(&m_model, &ApplicationModel::calendarChanged, this, &HomeViewModel::follow);
     m_model.clock().add(
         this,
-        [this](Base::Instant now) {
-            return m_isShown ? nextTick(now) : std::optional<Base::Instant>{};
+        // Counted from what is shown: a tick that another event overtook still comes.
+        [this](Base::Instant) {
+            return m_isShown ? nextTick(m_shownAt) : std::optional<Base::Instant>{};
         },
         [this](Base::Instant now) {
             if (m_next && now >= m_next->at) {
                 followPrayer();
             }
-            emit changed();
+            show();
         });
+}
+
+void HomeViewModel::show()
+{
+    m_shownAt = m_model.now();
+    emit changed();
 }
 
 void HomeViewModel::setShown(bool isShown)
@@ -97,7 +103,7 @@ void HomeViewModel::follow()
         m_cards = std::move(cards);
         emit cardsChanged();
     }
-    emit changed();
+    show();
 }
 
 void HomeViewModel::followPrayer()
@@ -110,37 +116,37 @@ void HomeViewModel::followPrayer()
         return;
     }
     m_prayerCalendar = inputs->calendar;
-    m_next = KestCore::PrayerCalculator::next(*inputs, m_model.now());
-    if (m_next && m_next->prayer == PrayerCore::Prayer::sunrise) { // which is no prayer
-        m_next = KestCore::PrayerCalculator::next(*inputs, m_next->at);
-    }
+    m_next = nextPrayerOf(*inputs, m_model.now());
     m_prayerMessage = m_next ? QString{} : tr("No times on this date here.");
 }
 
-// The one that ends first, or the first that waits.
+// The first that goes on; else one that is over or waits.
 void HomeViewModel::followTimers()
 {
     m_timer.reset();
-    auto timers = KestCore::timersOf(m_model.recordsOfKind("timer"));
-    if (timers && !timers->empty()) {
-        KestCore::sortForList(*timers);
-        m_timer = timers->front();
+    auto timers = timersIn(m_model);
+    if (timers.empty()) {
+        return;
     }
+    KestCore::sortForList(timers);
+    const auto going = std::ranges::find_if(
+        timers, [this](const auto &timer) { return isGoing(timer.state, m_model.now()); });
+    m_timer = going == timers.end() ? timers.front() : *going;
 }
 
-std::optional<Base::Instant> HomeViewModel::nextTick(Base::Instant now) const
+std::optional<Base::Instant> HomeViewModel::nextTick(Base::Instant shown) const
 {
     std::optional<Base::Instant> tick;
     if (m_next) {
-        const double left = (m_next->at - now).count();
-        tick = now + untilOneLess(left, left > 60 ? 60 : 1);
+        tick = oneLess(m_next->at, shown, (m_next->at - shown).count() > 60 ? 60 : 1);
     }
-    if (m_timer && m_timer->state.running && !KestCore::hasEnded(m_timer->state, now)) {
-        const double seconds = KestCore::remaining(m_timer->state, now);
+    if (m_timer && isGoing(m_timer->state, shown)) {
+        const double seconds = KestCore::remaining(m_timer->state, shown);
         const bool isStopwatch = !KestCore::countsDown(m_timer->state);
+        // A stopwatch shows the second that has passed, a moment later than its roundness.
         const Base::Instant second =
-            now + (isStopwatch ? Base::Seconds{std::floor(seconds) + 1.001 - seconds}
-                               : untilOneLess(seconds, 1));
+            isStopwatch ? shown + Base::Seconds{std::floor(seconds) + 1.001 - seconds}
+                        : oneLess(shown + Base::Seconds{seconds}, shown, 1);
         tick = tick ? std::min(*tick, second) : second;
     }
     return tick;
@@ -166,7 +172,7 @@ QString HomeViewModel::counterNote() const
         return progress;
     }
     const auto startedAt = Base::fromMilliseconds1970(*session.startedAt);
-    return tr("%1 · since %2").arg(progress, m_formatting.time(startedAt));
+    return tr("%1 · since %2").arg(progress, momentText(startedAt, m_model, m_formatting));
 }
 
 QString HomeViewModel::prayerTitle() const
@@ -179,17 +185,16 @@ QVariantList HomeViewModel::prayerLeft() const
     if (!m_next) {
         return {};
     }
-    const double left = std::max((m_next->at - m_model.now()).count(), 0.0);
-    if (left < 60) {
-        return {part(m_formatting.number(std::llround(std::ceil(left))), tr("s"))};
+    const auto left = m_formatting.countdown((m_next->at - m_model.now()).count());
+    switch (left.unit) {
+    case Countdown::Unit::seconds:
+        return {part(left.first, tr("s"))};
+    case Countdown::Unit::minutes:
+        return {part(left.first, tr("min"))};
+    case Countdown::Unit::hours:
+        break;
     }
-    const auto minutes = std::llround(std::ceil(left / 60));
-    if (minutes <= kLongInMinutes) {
-        return {part(m_formatting.number(minutes), tr("min"))};
-    }
-    const QString rest =
-        m_formatting.digits(QStringLiteral("%1").arg(minutes % 60, 2, 10, QLatin1Char{'0'}));
-    return {part(m_formatting.number(minutes / 60), tr("h")), part(rest, {})};
+    return {part(left.first, tr("h")), part(left.rest, {})};
 }
 
 QString HomeViewModel::prayerNote() const

@@ -75,8 +75,9 @@ private:
     void follow();
     void followTimers();
     void followPrayer();
-    // When what is shown is another without any change of the data.
-    std::optional<Base::Instant> nextTick(Base::Instant now) const;
+    // When what was shown at `shown` is another without any change of the data.
+    std::optional<Base::Instant> nextTick(Base::Instant shown) const;
+    void show();
     double timerSeconds() const;
 
     ApplicationModel &m_model;
@@ -86,6 +87,7 @@ private:
     std::optional<KestCore::Calendar> m_prayerCalendar; // absent: no place is set
     QString m_prayerMessage;                            // why there is no time
     std::optional<KestCore::Timer> m_timer;
+    Base::Instant m_shownAt{};
     bool m_isShown = false;
 };
 

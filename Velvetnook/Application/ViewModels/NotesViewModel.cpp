@@ -68,8 +68,16 @@ NoteRow NotesViewModel::rowOf(const LocalRecord &record, const std::string &exce
 std::vector<NoteRow> NotesViewModel::rows() const
 {
     std::vector<NoteRow> rows;
+    for (const Open &refused : m_refused) {
+        if (refused.id.isEmpty()) {
+            rows.push_back({.id = refused.key, .title = titleOf(refused), .when = notSaved()});
+        }
+    }
     for (const auto &hit : foundNotes(m_model.records(), m_query.toStdString())) {
         rows.push_back(rowOf(hit.record, hit.excerpt));
+        if (std::ranges::find(m_refused, rows.back().id, &Open::key) != m_refused.end()) {
+            rows.back().when = notSaved();
+        }
     }
     return rows;
 }
@@ -138,8 +146,12 @@ void NotesViewModel::choose(const QString &id)
         return;
     }
     leave();
-    if (const auto refused = m_refused.extract(id); !refused.empty()) {
-        open(std::move(refused.mapped()));
+    const auto refused = std::ranges::find(m_refused, id, &Open::key);
+    if (refused != m_refused.end()) {
+        Open next = std::move(*refused);
+        m_refused.erase(refused);
+        m_list.show(rows());
+        open(std::move(next));
         return;
     }
     const auto record = id == kScratchpad ? std::optional{scratchpadIn(m_model.records())}
@@ -200,14 +212,20 @@ void NotesViewModel::save()
         return;
     }
     m_open.isEdited = false;
+    store(m_open);
+    emit statusChanged();
+}
+
+void NotesViewModel::store(const Open &text)
+{
     ++m_saving;
     const auto storedId = std::make_shared<std::string>();
     m_model.perform(
-        [text = NoteText{.id = m_open.storeId,
-                         .text = m_open.text.toStdString(),
-                         .title = m_open.title.toStdString(),
-                         .isTitleEdited = m_open.isTitleEdited},
-         storedId, isPage = isScratchpad(),
+        [text = NoteText{.id = text.storeId,
+                         .text = text.text.toStdString(),
+                         .title = text.title.toStdString(),
+                         .isTitleEdited = text.isTitleEdited},
+         storedId, isPage = text.id == kScratchpad,
          now = m_model.now()](KestCore::StateStore &store) -> Base::Result<Committed> {
             KEST_CHECK(isPage ? KestCore::replaceScratchpad(store, text.text, now)
                               : storeNote(store, text, now));
@@ -216,44 +234,73 @@ void NotesViewModel::save()
             return committedAll(std::move(snapshot));
         },
         // It may be asked for by a view model that is about to go.
-        [self = QPointer{this}, storedId, saved = m_open](const Base::Result<void> &result) {
+        [self = QPointer{this}, storedId, saved = text](const Base::Result<void> &result) {
             if (self) {
                 --self->m_saving;
                 self->saveFinished(saved, QString::fromStdString(*storedId), result);
             }
         });
-    emit statusChanged();
 }
 
 void NotesViewModel::saveFinished(const Open &saved, const QString &id,
                                   const Base::Result<void> &result)
 {
     const bool isOpen = saved.storeId == m_open.storeId;
-    if (!result) {
-        Open refused = saved;
-        refused.isEdited = true;
-        refused.refusal = QString::fromStdString(result.error().message);
-        if (isOpen) {
-            m_open.isEdited = true;
-            m_open.refusal = refused.refusal;
-        } else {
-            const QString left = refused.id;
-            m_refused.insert_or_assign(left, std::move(refused));
-        }
+    if (!result && isOpen) {
+        m_open.isEdited = true;
+        m_open.refusal = QString::fromStdString(result.error().message);
+    } else if (!result) {
+        keepRefused(saved, QString::fromStdString(result.error().message));
     } else if (isOpen) {
         m_open.saved = Base::milliseconds1970(m_model.now());
+        m_open.refusal.clear();
+        m_open.isEdited = m_open.text != saved.text || m_open.title != saved.title;
         if (!isScratchpad() && m_open.id != id) {
             m_open.id = id;
             emit currentChanged();
             emit listChanged();
         }
+    } else if (std::erase_if(m_refused, [&saved](const Open &refused) {
+                   return refused.storeId == saved.storeId;
+               }) > 0) {
+        m_list.show(rows());
+        emit listChanged();
     }
     followOpen();
     emit statusChanged();
 }
 
+// It has a line of its own until it can be kept, and is tried again whenever one is left.
+void NotesViewModel::keepRefused(Open refused, const QString &reason)
+{
+    std::erase_if(m_refused, [&](const Open &each) { return each.storeId == refused.storeId; });
+    if (refused.refusal != reason) {
+        m_model.say(reason);
+    }
+    if (refused.key.isEmpty()) {
+        refused.key =
+            refused.id.isEmpty() ? QStringLiteral("unsaved-%1").arg(++m_unsaved) : refused.id;
+    }
+    refused.isEdited = true;
+    refused.refusal = reason;
+    m_refused.push_back(std::move(refused));
+    m_list.show(rows());
+    emit listChanged();
+}
+
+QString NotesViewModel::titleOf(const Open &note)
+{
+    const std::string first = KestCore::titleFromText(note.text.toStdString());
+    return note.title.isEmpty() ? QString::fromStdString(first) : note.title;
+}
+
+QString NotesViewModel::notSaved() { return tr("not saved"); }
+
 void NotesViewModel::leave()
 {
+    for (const Open &refused : m_refused) {
+        store(refused);
+    }
     if (m_open.isEdited && isBlank() && isKept()) {
         m_open.isEdited = false;
         remove(m_open.id); // emptied by its owner, who can have it back
@@ -267,80 +314,6 @@ void NotesViewModel::copy()
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr) {
         QGuiApplication::clipboard()->setText(m_open.text);
     }
-}
-
-void NotesViewModel::change(Change change, Done done)
-{
-    m_model.perform(
-        [change = std::move(change),
-         now = m_model.now()](KestCore::StateStore &store) -> Base::Result<Committed> {
-            RecordList list{store, KestCore::kNoteKind, now};
-            KEST_CHECK(change(list));
-            KEST_TRY(KestCore::Snapshot snapshot, store.snapshot());
-            return committedAll(std::move(snapshot));
-        },
-        [self = QPointer{this}, done = std::move(done)](const Base::Result<void> &result) {
-            if (!self) {
-                return;
-            }
-            if (!result) {
-                self->m_model.say(QString::fromStdString(result.error().message));
-            } else if (done) {
-                done();
-            }
-        });
-}
-
-void NotesViewModel::setPinned(const QString &id, bool pinned)
-{
-    change([id = id.toStdString(), pinned](RecordList &list) -> Base::Result<void> {
-        KEST_TRY([[maybe_unused]] const LocalRecord record, list.pin(id, pinned));
-        return {};
-    });
-}
-
-void NotesViewModel::move(const QString &id, int lines)
-{
-    const auto ordered = notesIn(m_model.records());
-    const auto found = std::ranges::find(ordered, id.toStdString(), &LocalRecord::id);
-    if (found == ordered.end()) {
-        return;
-    }
-    const auto at = static_cast<int>(std::distance(ordered.begin(), found));
-    const auto to = std::clamp(at + lines, 0, static_cast<int>(ordered.size()) - 1);
-    change([id = id.toStdString(),
-            to = static_cast<std::size_t>(to)](RecordList &list) -> Base::Result<void> {
-        KEST_TRY([[maybe_unused]] const LocalRecord record, list.move(id, to));
-        return {};
-    });
-}
-
-void NotesViewModel::remove(const QString &id)
-{
-    if (id == kScratchpad || id.isEmpty()) {
-        return;
-    }
-    if (id == m_open.id) {
-        save();
-    }
-    change(
-        [id = id.toStdString()](RecordList &list) -> Base::Result<void> {
-            KEST_TRY([[maybe_unused]] const LocalRecord record, list.remove(id));
-            return {};
-        },
-        [this] { emit removed(tr("Note removed")); });
-}
-
-void NotesViewModel::restore()
-{
-    const auto restored = std::make_shared<std::string>();
-    change(
-        [restored](RecordList &list) -> Base::Result<void> {
-            KEST_TRY(const auto records, list.restore());
-            *restored = records.front().id;
-            return {};
-        },
-        [this, restored] { choose(QString::fromStdString(*restored)); });
 }
 
 QString NotesViewModel::titleHint() const

@@ -8,9 +8,9 @@
 #include <QTimer>
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace KestCore
 {
@@ -25,7 +25,7 @@ class Formatting;
 
 // What QML shows of the notes and the scratchpad. One of them is open and can be written in;
 // what is typed is made durable soon after, and at the latest when it is left. A text that the
-// store refuses stays open, and comes back with its refusal when it is opened again.
+// store refuses stays open. Left, it has a line in the list and comes back from there.
 class NotesViewModel : public QObject
 {
     Q_OBJECT
@@ -95,6 +95,7 @@ private:
     // What is open in the editor.
     struct Open {
         QString id{};
+        QString key{}; // the line of a text that was refused and left
         // The same for the operations of the store, which are the first to know a new one.
         std::shared_ptr<std::string> storeId = std::make_shared<std::string>();
         QString title{}; // empty while it goes by its text
@@ -115,6 +116,10 @@ private:
     void open(Open next);
     void touch();
     void save();
+    void store(const Open &text);
+    void keepRefused(Open refused, const QString &reason);
+    static QString titleOf(const Open &note);
+    static QString notSaved();
     void saveFinished(const Open &saved, const QString &id, const Base::Result<void> &result);
     bool isBlank() const;
     void change(Change change, Done done = {});
@@ -124,9 +129,10 @@ private:
     NoteList m_list;
     QString m_query;
     Open m_open;
-    std::map<QString, Open> m_refused; // texts that were left and could not be kept
-    QTimer m_pause;                    // since the last key
-    QTimer m_longest;                  // since the first that is not durable
+    std::vector<Open> m_refused; // texts that were left and could not be kept
+    int m_unsaved = 0;           // new ones among them, so far
+    QTimer m_pause;              // since the last key
+    QTimer m_longest;            // since the first that is not durable
     int m_saving = 0;
 };
 

@@ -70,6 +70,12 @@ PanelViewModel::PanelViewModel(ApplicationModel &model, const Formatting &, QObj
     connect(&model, &ApplicationModel::said, this, say);
     connect(&model, &ApplicationModel::failed, this, say);
     connect(&model, &ApplicationModel::stateChanged, this, &PanelViewModel::followState);
+    // On a clock that was set back a message stays no longer than it would have.
+    connect(&model.clock(), &DueClock::wallClockChanged, this, [this] {
+        if (m_messageEnd) {
+            m_messageEnd = std::min(*m_messageEnd, m_model.now() + kMessageTime);
+        }
+    });
     model.clock().add(
         this, [this](Base::Instant) { return m_messageEnd; },
         [this](Base::Instant) { dropMessage(); });
@@ -110,10 +116,7 @@ QString PanelViewModel::icon() const
     return described(chosenTab())[QStringLiteral("icon")].toString();
 }
 
-QString PanelViewModel::summary() const
-{
-    return toolSummary(chosenTab());
-}
+QString PanelViewModel::summary() const { return toolSummary(chosenTab()); }
 
 bool PanelViewModel::isFrosted() const
 {

@@ -189,10 +189,10 @@ void PrayerViewModel::askFocus()
 
 void PrayerViewModel::setFocusBuffer(int minutes)
 {
-    KestCore::CompanionState companion = m_model.companion();
-    companion.prayerBufferMinutes =
-        std::clamp<std::int64_t>(minutes, 0, KestCore::kLongestPrayerBuffer);
-    m_model.saveCompanion(std::move(companion));
+    m_model.changeCompanion([minutes](KestCore::CompanionState &companion) {
+        companion.prayerBufferMinutes =
+            std::clamp<std::int64_t>(minutes, 0, KestCore::kLongestPrayerBuffer);
+    });
 }
 
 void PrayerViewModel::acceptFocus()

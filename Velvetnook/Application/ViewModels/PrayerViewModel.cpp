@@ -27,8 +27,6 @@ using PrayerCore::Prayer;
     QT_TRANSLATE_NOOP("Velvetnook::PrayerViewModel",
                       "Allow location access to calculate prayer times for where you are.");
 
-constexpr qint64 kMostMinutes = 90; // beyond, hours and minutes are shown
-
 } // namespace
 
 PrayerViewModel::PrayerViewModel(ApplicationModel &model, const Formatting &formatting,
@@ -172,16 +170,9 @@ QString PrayerViewModel::countdown() const
     if (!coming) {
         return {};
     }
-    const double left = std::max((coming->at - moment().now).count(), 0.0);
-    if (left <= 60) {
-        return m_formatting.number(static_cast<qlonglong>(std::ceil(left)));
-    }
-    const auto minutes = static_cast<qint64>(std::ceil(left / 60));
-    return minutes <= kMostMinutes
-               ? m_formatting.number(minutes)
-               : m_formatting.digits(QStringLiteral("%1:%2")
-                                         .arg(minutes / 60)
-                                         .arg(minutes % 60, 2, 10, QLatin1Char{'0'}));
+    const auto left = m_formatting.countdown((coming->at - moment().now).count());
+    return left.rest.isEmpty() ? left.first
+                               : QStringLiteral("%1:%2").arg(left.first, left.rest);
 }
 
 QString PrayerViewModel::countdownUnit() const
@@ -190,12 +181,15 @@ QString PrayerViewModel::countdownUnit() const
     if (!coming) {
         return {};
     }
-    const double left = (coming->at - moment().now).count();
-    if (left <= 60) {
+    switch (m_formatting.countdown((coming->at - moment().now).count()).unit) {
+    case Countdown::Unit::seconds:
         return tr("s", "seconds until a prayer");
+    case Countdown::Unit::minutes:
+        return tr("min", "minutes until a prayer");
+    case Countdown::Unit::hours:
+        break;
     }
-    return left <= kMostMinutes * 60.0 ? tr("min", "minutes until a prayer")
-                                       : tr("h", "hours until a prayer");
+    return tr("h", "hours until a prayer");
 }
 
 QString PrayerViewModel::spoken() const

@@ -6,6 +6,7 @@
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/LocalDay.h"
 
 #include <QVariantMap>
 
@@ -18,7 +19,6 @@ namespace
 {
 
 constexpr qint64 kMostMinutes = 1440;
-constexpr int kMinutesPerDay = 1440;
 
 // As a person may have typed it, with the digits of any language.
 QString plainDigits(QString text)
@@ -29,15 +29,6 @@ QString plainDigits(QString text)
         }
     }
     return text.trimmed();
-}
-
-std::optional<Base::Instant> endOfPause(const ApplicationModel &model)
-{
-    const auto until = model.state().devotional.pausedUntil;
-    if (!until || Base::fromMilliseconds1970(*until) <= model.now()) {
-        return std::nullopt;
-    }
-    return Base::fromMilliseconds1970(*until);
 }
 
 void choose(std::vector<std::int64_t> &weekdays, int weekday, bool isChosen)
@@ -308,8 +299,9 @@ void RemindersViewModel::pauseForHours(int hours)
 void RemindersViewModel::pauseUntilTomorrow()
 {
     const int start = KestCore::minuteOfDay(preferences().activeHoursStart).value_or(0);
-    const Base::Instant midnight = m_model.calendar().nextDateChange(m_model.now());
-    const Base::Instant until = midnight + Base::Seconds{start * 60.0};
+    const auto &calendar = m_model.calendar();
+    const Base::Instant now = m_model.now();
+    const Base::Instant until = instantOf(calendar.dayNumber(now) + 1, start, calendar, now);
     change([until](auto &state) { state.pausedUntil = Base::milliseconds1970(until); });
 }
 
@@ -320,10 +312,12 @@ QString RemindersViewModel::pauseUntil(const QString &time)
         return m_formatting.digits(tr("Write a time such as 09:00."));
     }
     const Base::Instant now = m_model.now();
-    const KestCore::LocalTime local = m_model.calendar().at(now);
-    int ahead = *minute - (local.hour * 60 + local.minute);
-    ahead += ahead <= 0 ? kMinutesPerDay : 0;
-    const Base::Instant until = now + Base::Seconds{ahead * 60.0 - local.second};
+    const auto &calendar = m_model.calendar();
+    const std::int64_t today = calendar.dayNumber(now);
+    Base::Instant until = instantOf(today, *minute, calendar, now);
+    if (until <= now) {
+        until = instantOf(today + 1, *minute, calendar, now);
+    }
     change([until](auto &state) { state.pausedUntil = Base::milliseconds1970(until); });
     return {};
 }

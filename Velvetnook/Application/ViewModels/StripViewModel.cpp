@@ -7,6 +7,7 @@
 #include "KestCore/Tools/Messages.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/PrayerWatch.h"
 
 #include <algorithm>
 #include <utility>
@@ -39,16 +40,6 @@ std::optional<KestCore::NextPrayer> lastPrayer(const KestCore::PrayerInputs &pla
     return last;
 }
 
-std::optional<KestCore::NextPrayer> nextPrayer(const KestCore::PrayerInputs &place,
-                                               Base::Instant now)
-{
-    auto next = KestCore::PrayerCalculator::next(place, now);
-    if (next && next->prayer == Prayer::sunrise) {
-        next = KestCore::PrayerCalculator::next(place, next->at);
-    }
-    return next;
-}
-
 KestCore::Settings prayerSettings(const KestCore::Settings &all)
 {
     return {all.lower_bound("prayer."), all.lower_bound("prayer/")};
@@ -61,7 +52,7 @@ StripViewModel::StripViewModel(ApplicationModel &model, const Formatting &format
     : QObject{parent}, m_model{model}, m_formatting{formatting},
       m_sources{.state = model.state()}, m_sessionId{model.state().devotional.session.id},
       m_count{model.state().devotional.session.count},
-      m_newestMessage{Base::milliseconds1970(model.now())}
+      m_messagesFrom{Base::milliseconds1970(model.now())}
 {
     connect(&model, &ApplicationModel::stateChanged, this, &StripViewModel::followState);
     connect(&model, &ApplicationModel::recordsChanged, this, &StripViewModel::followRecords);
@@ -69,7 +60,13 @@ StripViewModel::StripViewModel(ApplicationModel &model, const Formatting &format
         m_prayersFrom.reset();
         refresh();
     });
-    const auto tell = [this](const QString &text) { say(text); };
+    connect(&model.clock(), &DueClock::wallClockChanged, this,
+            &StripViewModel::followWallClock);
+    const auto tell = [this](const QString &text) {
+        if (!m_isPanelOpen) {
+            say(text);
+        }
+    };
     connect(&model, &ApplicationModel::said, this, tell);
     connect(&model, &ApplicationModel::failed, this, tell);
     model.clock().add(
@@ -78,6 +75,9 @@ StripViewModel::StripViewModel(ApplicationModel &model, const Formatting &format
     // A count of just now may have come from the command line, before the start.
     if (const auto &began = model.state().devotional.session.startedAt) {
         m_sources.countedAt = Base::fromMilliseconds1970(*began);
+    }
+    for (const KestCore::RecordRef &record : model.records()) {
+        m_seenMessages.emplace(record->id, record->updated); // another run has shown them
     }
     followRecords();
 }
@@ -113,10 +113,13 @@ void StripViewModel::followRecords()
 void StripViewModel::sayNewMessages()
 {
     for (const KestCore::RecordRef &record : m_model.records()) {
-        if (record->kind != KestCore::kMessageKind || record->updated <= m_newestMessage) {
+        if (record->kind != KestCore::kMessageKind || record->updated <= m_messagesFrom) {
             continue;
         }
-        m_newestMessage = record->updated;
+        const auto [seen, isNew] = m_seenMessages.try_emplace(record->id, record->updated);
+        if (!isNew && std::exchange(seen->second, record->updated) == record->updated) {
+            continue;
+        }
         const auto message =
             KestCore::json::decode<KestCore::StripMessage>(std::string_view{record->body});
         if (message) {
@@ -140,7 +143,8 @@ void StripViewModel::followPrayers()
     }
     m_prayersFrom = now;
     m_sources.lastPrayer = m_place ? lastPrayer(*m_place, now) : std::nullopt;
-    m_sources.nextPrayer = m_place ? nextPrayer(*m_place, now) : std::nullopt;
+    m_sources.nextPrayer = m_place ? nextPrayerOf(*m_place, now) : std::nullopt;
+    m_sources.placeCalendar = m_place ? std::optional{m_place->calendar} : std::nullopt;
 }
 
 void StripViewModel::refresh()
@@ -157,22 +161,57 @@ void StripViewModel::say(const QString &text) { say(text, KestCore::MessageAnima
 
 void StripViewModel::say(const QString &text, KestCore::MessageAnimation animation)
 {
-    m_sources.message = ShortMessage{
-        .text = text, .animation = animation, .until = m_model.now() + kShortMessageTime};
+    m_sources.message = ShortMessage{.text = text, .animation = animation, .until = {}};
+    if (m_sources.canBeSeen) {
+        beginMessage();
+    }
     refresh();
     emit messageBegan();
+}
+
+void StripViewModel::beginMessage()
+{
+    if (m_sources.message && !m_sources.message->until) {
+        m_sources.message->until = m_model.now() + kShortMessageTime;
+    }
+}
+
+// On a clock that was set back nothing stays longer than it would have.
+void StripViewModel::followWallClock()
+{
+    const Base::Instant now = m_model.now();
+    const auto cap = [](std::optional<Base::Instant> &at, Base::Instant latest) {
+        if (at && *at > latest) {
+            at = latest;
+        }
+    };
+    cap(m_sources.countedAt, now);
+    cap(m_sources.reachedAt, now);
+    cap(m_sources.emphasisUntil, now + kEmphasisTime);
+    if (m_sources.message) {
+        cap(m_sources.message->until, now + kShortMessageTime);
+    }
+    m_messagesFrom = std::min(m_messagesFrom, Base::milliseconds1970(now));
+    refresh();
+}
+
+bool StripViewModel::showsPin() const
+{
+    return m_sources.canBeSeen && m_content.kind == QLatin1String{"pin"};
 }
 
 void StripViewModel::emphasise()
 {
     m_sources.emphasisUntil = m_model.now() + kEmphasisTime;
     refresh();
-    emit emphasisBegan();
 }
 
 void StripViewModel::setVisible(bool isVisible)
 {
     if (std::exchange(m_sources.canBeSeen, isVisible) != isVisible) {
+        if (isVisible) {
+            beginMessage();
+        }
         refresh();
     }
 }

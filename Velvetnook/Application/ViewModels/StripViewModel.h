@@ -7,7 +7,9 @@
 #include <QObject>
 #include <QVariantMap>
 
+#include <map>
 #include <optional>
+#include <string>
 
 namespace Velvetnook
 {
@@ -67,6 +69,9 @@ public:
     bool isEmphasised() const;
     QString spoken() const;
 
+    // Whether what is pinned is in view now.
+    bool showsPin() const;
+
     // A short message for three seconds, once the strip can be seen.
     Q_INVOKABLE void say(const QString &text);
     void say(const QString &text, KestCore::MessageAnimation animation);
@@ -74,17 +79,20 @@ public:
     Q_INVOKABLE void emphasise();
     // The window says whether the strip can be seen.
     void setVisible(bool isVisible);
+    // What is said while the panel is open stands there, and not here afterwards.
+    void setPanelOpen(bool isOpen) { m_isPanelOpen = isOpen; }
 
 signals:
     void changed();
     void messageBegan();
-    void emphasisBegan();
 
 private:
     void followState();
     void followRecords();
     void followPrayers();
     void sayNewMessages();
+    void followWallClock();
+    void beginMessage();
     void refresh();
 
     ApplicationModel &m_model;
@@ -94,7 +102,10 @@ private:
     std::optional<Base::Instant> m_changesAt;
     std::string m_sessionId;
     std::int64_t m_count = 0;
-    double m_newestMessage = 0;
+    bool m_isPanelOpen = false;
+    // Messages count from here on, each once: by its id, when it was written.
+    double m_messagesFrom = 0;
+    std::map<std::string, double> m_seenMessages;
     KestCore::Settings m_prayerSettings;
     std::optional<KestCore::PrayerInputs> m_place;
     std::optional<Base::Instant> m_prayersFrom;

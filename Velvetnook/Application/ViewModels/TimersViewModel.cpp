@@ -225,26 +225,7 @@ void TimersViewModel::toggle(const QString &id)
     if (timer == nullptr) {
         return;
     }
-    const bool isGoing =
-        timer->state.running && !KestCore::hasEnded(timer->state, m_model.now());
-    const auto done = [this](const Base::Result<void> &result) { tell(result); };
-    if (isGoing) {
-        changeTimer(
-            m_model, timer->record.id, PastEnd::left,
-            [](TimerState &state, Base::Instant now) -> Base::Result<void> {
-                KestCore::pauseTimer(state, now);
-                return {};
-            },
-            done);
-        return;
-    }
-    changeTimer(
-        m_model, timer->record.id, PastEnd::settled,
-        [](TimerState &state, Base::Instant now) -> Base::Result<void> {
-            KestCore::resumeTimer(state, now);
-            return {};
-        },
-        done);
+    toggleTimer(m_model, *timer, [this](const Base::Result<void> &result) { tell(result); });
 }
 
 void TimersViewModel::adjust(int minutes)

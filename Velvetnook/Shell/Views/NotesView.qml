@@ -63,10 +63,4 @@ FocusScope {
         target: App.panel
         function onToolChanged() { root.follow(); }
     }
-    Connections {
-        target: root.model
-        function onRemoved(message) {
-            App.panel.showMessage(message, qsTr("Undo"), () => root.model.restore());
-        }
-    }
 }

@@ -62,13 +62,6 @@ FocusScope {
         property: "watched"
         value: root.isSeen
     }
-    Connections {
-        target: App.timers
-        function onRemoved(title) {
-            App.panel.showMessage(qsTr("%1 removed.").arg(title), qsTr("Undo"),
-                                  () => App.timers.restore());
-        }
-    }
     TimerFigure {
         id: figure
 

@@ -277,14 +277,14 @@ void DataSettings::resetAll()
     begin();
     m_model.perform(
         [](StateStore &store) -> Result<Committed> {
-            KEST_CHECK(store.resetAll());
-            // Whoever resets knows the program: the first steps are not shown again.
-            KEST_TRY(KestCore::Snapshot snapshot,
-                     store.update([](KestCore::NativeState &state) -> Result<void> {
-                         state.devotional.onboardingComplete = true;
-                         return {};
-                     }));
-            return committedAll(std::move(snapshot));
+            KEST_TRY(KestCore::Snapshot reset, store.resetAll());
+            // Whoever resets knows the program: the first steps are not shown again. Where that
+            // cannot be saved the data is reset all the same, and that is what is shown.
+            auto known = store.update([](KestCore::NativeState &state) -> Result<void> {
+                state.devotional.onboardingComplete = true;
+                return {};
+            });
+            return committedAll(known ? *std::move(known) : std::move(reset));
         },
         [this](const Result<void> &result) {
             finish(result ? tr("Everything was reset.") : messageOf(result),

@@ -63,7 +63,10 @@ void GeneralSettings::setCompletionSound(bool on)
 {
     changePreferences([on](KestCore::Preferences &chosen) {
         chosen.completionSound = on;
-        chosen.soundEnabled = on || chosen.reminderSound;
+        if (on && !chosen.soundEnabled) {
+            chosen.soundEnabled = true;
+            chosen.reminderSound = false; // it was not heard, and is shown as off
+        }
     });
 }
 

@@ -30,6 +30,11 @@ const QGuiApplication *desktop()
     return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
 }
 
+QStringList exclusionsIn(const QString &stored)
+{
+    return stored.split(u',', Qt::SkipEmptyParts);
+}
+
 } // namespace
 
 NotchSettings::NotchSettings(ApplicationModel &model, const Formatting &formatting,
@@ -136,7 +141,7 @@ QVariantList NotchSettings::screens() const
 
 QStringList NotchSettings::exclusions() const
 {
-    return setting("notch.exclusions", "").split(u',', Qt::SkipEmptyParts);
+    return exclusionsIn(setting("notch.exclusions", ""));
 }
 
 std::optional<double> NotchSettings::pausedUntil() const
@@ -211,7 +216,7 @@ bool NotchSettings::addExclusion(const QString &name)
     m_exclusionRefusal =
         isName ? QString{} : tr("The name of one application, without a comma");
     if (isName && !exclusions().contains(trimmed, Qt::CaseInsensitive)) {
-        writeExclusions(exclusions() << trimmed);
+        changeExclusions([trimmed](QStringList &names) { names.append(trimmed); });
     }
     emit changed();
     return isName;
@@ -219,14 +224,20 @@ bool NotchSettings::addExclusion(const QString &name)
 
 void NotchSettings::removeExclusion(const QString &name)
 {
-    QStringList names = exclusions();
-    names.removeAll(name);
-    writeExclusions(names);
+    changeExclusions([name](QStringList &names) { names.removeAll(name); });
 }
 
-void NotchSettings::writeExclusions(const QStringList &names)
+// The list as it is in the store at that moment: another change may be on its way.
+void NotchSettings::changeExclusions(std::function<void(QStringList &)> edit)
 {
-    set("notch.exclusions", names.join(u','));
+    model().changeState([edit = std::move(edit)](KestCore::NativeState &state) -> Result<void> {
+        std::string &stored = state.settings["notch.exclusions"];
+        QStringList names = exclusionsIn(QString::fromStdString(stored));
+        edit(names);
+        names.removeDuplicates();
+        stored = names.join(u',').toStdString();
+        return {};
+    });
 }
 
 void NotchSettings::pauseForMinutes(int minutes)

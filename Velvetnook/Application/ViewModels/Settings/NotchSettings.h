@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/ViewModels/Settings/SettingsPage.h"
 
+#include <functional>
 #include <optional>
 
 namespace Velvetnook
@@ -70,7 +71,7 @@ signals:
     void screensChanged();
 
 private:
-    void writeExclusions(const QStringList &names);
+    void changeExclusions(std::function<void(QStringList &)> edit);
     void pauseUntil(double milliseconds);
     std::optional<double> pausedUntil() const; // ms since 1970; nothing once it is over
 
