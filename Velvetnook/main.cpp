@@ -25,6 +25,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QTimer>
+#include <QTranslator>
 
 #include <xcb/xcb.h>
 
@@ -87,9 +88,15 @@ double steadySeconds()
 }
 
 // The data could not be opened: says why, and changes nothing.
-int showFailure(const KestError &failure, const std::filesystem::path &file)
+int showFailure(const KestError &failure, const std::filesystem::path &file,
+                BusActivation &activation)
 {
     std::fprintf(stderr, "velvetnook: %s (%s)\n", failure.message.c_str(), file.c_str());
+    QTranslator words; // what language was chosen lies in that data too
+    const bool isArabic = QLocale::system().language() == QLocale::Arabic;
+    if (speak(words, isArabic ? QStringLiteral("ar") : QStringLiteral("en"))) {
+        QGuiApplication::setLayoutDirection(isArabic ? Qt::RightToLeft : Qt::LeftToRight);
+    }
     QQmlEngine engine;
     QQuickView view{&engine, nullptr};
     view.setTitle(QStringLiteral("Velvetnook"));
@@ -103,6 +110,16 @@ int showFailure(const KestError &failure, const std::filesystem::path &file)
     QObject::connect(view.rootObject(), SIGNAL(closeWanted()), qGuiApp, SLOT(quit()));
     QGuiApplication::setQuitOnLastWindowClosed(true); // this is the only one
     view.show();
+    // Another start asks this process to come forward: this is all that there is to show.
+    QObject::connect(&activation, &Activation::actionWanted, &view,
+                     [&view](const QString &action) {
+                         if (action == QLatin1String{"quit"}) {
+                             QCoreApplication::quit();
+                         }
+                         view.raise();
+                         view.requestActivate();
+                     });
+    activation.begin();
     QGuiApplication::exec();
     return 1;
 }
@@ -129,13 +146,15 @@ public:
     Running(FirstSurface surface, const std::filesystem::path &file, KestCore::StateStore store,
             KestCore::Snapshot first);
 
-    // Empty, or why nothing can be shown. `activation` is what other starts speak to.
-    QString begin(BusActivation &activation);
+    // Empty, or why nothing can be shown. `activation` is what other starts speak to; a quiet
+    // start opens nothing by itself.
+    QString begin(BusActivation &activation, bool isQuiet);
     // What is being written, in the store before this returns.
     void save();
 
 private:
-    void beginTheRest(BusActivation &activation);
+    void needTheRest();
+    void followWishes();
     void listen();
     void openSettings();
     void openOnboarding();
@@ -154,6 +173,9 @@ private:
     Desktop m_desktop;
     std::unique_ptr<SurfaceWindow> m_settings;
     std::unique_ptr<SurfaceWindow> m_onboarding;
+    BusActivation *m_activation = nullptr;
+    bool m_isQuiet = false;
+    bool m_hasRest = false;
 };
 
 Running::Running(FirstSurface surface, const std::filesystem::path &file,
@@ -169,25 +191,28 @@ Running::Running(FirstSurface surface, const std::filesystem::path &file,
     QObject::connect(&m_languages, &Languages::changed, &m_engine, &QQmlEngine::retranslate);
 }
 
-QString Running::begin(BusActivation &activation)
+QString Running::begin(BusActivation &activation, bool isQuiet)
 {
+    m_isQuiet = isQuiet;
     m_notch = std::make_unique<NotchWindow>(m_engine, m_model, m_driver);
     if (!m_notch->problem().isEmpty()) {
         return m_notch->problem();
     }
-    const auto rest = [this, &activation] { beginTheRest(activation); };
+    m_activation = &activation;
+    listen(); // kest finds the data taken from now on
+    const auto rest = [this] { needTheRest(); };
     m_notch->begin();
-    if (m_notch->isVisible()) {
-        QObject::connect(
-            m_notch.get(), &QQuickWindow::frameSwapped, qGuiApp, rest,
-            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
-    } else {
-        QTimer::singleShot(0, qGuiApp, rest); // kept away from the screen: no frame will come
-    }
+    QObject::connect(
+        m_notch.get(), &QQuickWindow::frameSwapped, qGuiApp, rest,
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    // Kept away from the screen, or hidden before its first frame: none will come.
+    constexpr std::chrono::seconds kLongestFrame{2};
+    QTimer::singleShot(m_notch->isVisible() ? kLongestFrame : std::chrono::seconds{}, qGuiApp,
+                       rest);
     return {};
 }
 
-void Running::beginTheRest(BusActivation &activation)
+void Running::followWishes()
 {
     QObject::connect(m_app.panel(), &PanelViewModel::settingsWanted, m_app.settings(), [this] {
         emit m_app.panel()->closeWanted(); // it would lie over them
@@ -197,7 +222,6 @@ void Running::beginTheRest(BusActivation &activation)
                      [this] { openSettings(); });
     QObject::connect(m_app.onboarding(), &OnboardingViewModel::openWanted, qGuiApp,
                      [this] { openOnboarding(); });
-    listen();
     QObject::connect(&m_app.alarms(), &Alarms::emphasisWanted, m_app.strip(),
                      &StripViewModel::emphasise);
     QObject::connect(&m_desktop, &Desktop::lookChanged, &m_theme,
@@ -205,10 +229,27 @@ void Running::beginTheRest(BusActivation &activation)
                          m_theme.setDesktop(isDark, reducesMotion);
                          m_theme.setMoreContrast(wantsContrast);
                      });
+}
+
+void Running::needTheRest()
+{
+    if (std::exchange(m_hasRest, true)) {
+        return;
+    }
+    followWishes();
     m_desktop.begin();
-    m_desktop.follow(activation);
-    activation.begin();
-    m_app.onboarding()->openWhenNeeded();
+    m_desktop.follow(*m_activation);
+    m_activation->begin();
+    if (!m_isQuiet) {
+        m_app.onboarding()->openWhenNeeded();
+    }
+    // Who was not asked at login is asked at the first start by hand.
+    QObject::connect(m_activation, &Activation::actionWanted, m_app.onboarding(),
+                     [onboarding = m_app.onboarding()](const QString &action) {
+                         if (action == QLatin1String{"open"}) {
+                             onboarding->openWhenNeeded();
+                         }
+                     });
     // Made before they are wanted, while nothing else is to be done.
     QTimer::singleShot(1000, qGuiApp, [this] { m_driver.prepare(); });
     m_palette = std::make_unique<PaletteWindow>(m_engine, m_app);
@@ -225,9 +266,14 @@ void Running::save()
 // What kest asks of the surfaces while the application runs.
 void Running::listen()
 {
-    QObject::connect(&m_commands, &CommandServer::notchWanted, m_app.panel(),
-                     [panel = m_app.panel()](const QString &how, const QString &tool) {
+    QObject::connect(&m_commands, &CommandServer::notchWanted, qGuiApp,
+                     [this](const QString &how, const QString &tool) {
+                         needTheRest();
+                         PanelViewModel *panel = m_app.panel();
                          panel->openTool(tool);
+                         if (tool == QLatin1String{"settings"}) {
+                             return; // they have a window of their own
+                         }
                          if (how == QLatin1String{"open"}) {
                              emit panel->openWanted(true);
                          } else if (how == QLatin1String{"close"}) {
@@ -236,8 +282,10 @@ void Running::listen()
                              emit panel->toggleWanted();
                          }
                      });
-    QObject::connect(&m_commands, &CommandServer::paletteWanted, m_app.palette(),
-                     [palette = m_app.palette()](const QString &how) {
+    QObject::connect(&m_commands, &CommandServer::paletteWanted, qGuiApp,
+                     [this](const QString &how) {
+                         needTheRest();
+                         PaletteViewModel *palette = m_app.palette();
                          if (how == QLatin1String{"open"}) {
                              emit palette->openWanted();
                          } else if (how == QLatin1String{"close"}) {
@@ -272,7 +320,8 @@ void Running::openOnboarding()
     m_onboarding->present();
 }
 
-int run(BusActivation &activation, LastWords &lastWords, std::jthread fonts)
+int run(const Launch &launch, BusActivation &activation, LastWords &lastWords,
+        std::jthread fonts)
 {
     FirstSurface surface;
     const std::filesystem::path file = KestCore::dataDirectory() / KestCore::kDatabaseName;
@@ -280,10 +329,10 @@ int run(BusActivation &activation, LastWords &lastWords, std::jthread fonts)
     auto first = store ? store->snapshot() : std::unexpected(store.error());
     fonts.join();
     if (!first) {
-        return showFailure(first.error(), file);
+        return showFailure(first.error(), file, activation);
     }
     Running running{std::move(surface), file, std::move(*store), std::move(*first)};
-    if (const QString problem = running.begin(activation); !problem.isEmpty()) {
+    if (const QString problem = running.begin(activation, launch.isQuiet); !problem.isEmpty()) {
         std::fprintf(stderr, "velvetnook: %s\n", qPrintable(problem));
         return 1;
     }
@@ -318,7 +367,7 @@ int main(int argc, char **argv)
     lastWords.displayIsOpen();
     QGuiApplication::setApplicationName(QStringLiteral("velvetnook"));
     QGuiApplication::setApplicationVersion(QStringLiteral(KEST_VERSION));
-    QGuiApplication::setDesktopFileName(QStringLiteral("app.kest.native"));
+    QGuiApplication::setDesktopFileName(applicationId());
     QGuiApplication::setQuitOnLastWindowClosed(false);
     const EndSignals ends;
     QObject::connect(&ends, &EndSignals::endWanted, &application, &QCoreApplication::quit);
@@ -326,5 +375,5 @@ int main(int argc, char **argv)
     if (const auto status = claim(*activation, launch)) {
         return *status;
     }
-    return run(*activation, lastWords, std::move(fonts));
+    return run(launch, *activation, lastWords, std::move(fonts));
 }

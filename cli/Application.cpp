@@ -32,14 +32,6 @@ KestError noAnswer()
     return KestError::unavailable("Velvetnook is running but does not answer");
 }
 
-bool isOurs(int socket)
-{
-    ucred peer{};
-    socklen_t size = sizeof peer;
-    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
-           peer.uid == geteuid();
-}
-
 } // namespace
 
 std::optional<Application> Application::find(const std::filesystem::path &databaseFile)
@@ -60,7 +52,7 @@ std::optional<Application> Application::find(const std::filesystem::path &databa
     setsockopt(socket.get(), SOL_SOCKET, SO_SNDTIMEO, &kPatience, sizeof kPatience);
     if (connect(socket.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) !=
             0 ||
-        !isOurs(socket.get())) {
+        !KestCore::isOwnProgram(socket.get())) {
         return std::nullopt;
     }
     return Application{std::move(socket)};

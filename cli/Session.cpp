@@ -19,7 +19,15 @@ Result<KestCore::StateStore> Session::openStore() const
 {
     const auto file = databaseFile();
     auto loan = borrowStore(file);
-    KEST_TRY(auto store, KestCore::StateStore::open(file));
+    auto opened = KestCore::StateStore::open(file);
+    if (!opened && !loan) {
+        // An application that was only beginning has it, and can be asked by now.
+        loan = borrowStore(file);
+        if (loan) {
+            opened = KestCore::StateStore::open(file);
+        }
+    }
+    KEST_TRY(auto store, std::move(opened));
     store.holdUntilClosed(std::move(loan));
     return store;
 }

@@ -2375,16 +2375,16 @@
         <translation>عبر XWayland قد تغطّيه نوافذ أخرى وملء الشاشة.</translation>
     </message>
     <message>
-        <source>No window manager runs that keeps it above other windows.</source>
-        <translation>لا يعمل مدير نوافذ يُبقيه فوق النوافذ الأخرى.</translation>
+        <source>No window manager says when a window fills the screen: it stays over it.</source>
+        <translation>لا مدير نوافذ يخبر بنافذة تملأ الشاشة: يبقى فوقها.</translation>
     </message>
     <message>
-        <source>The window manager does not keep windows above others: %1</source>
-        <translation>مدير النوافذ لا يُبقي النوافذ فوق غيرها: %1</translation>
+        <source>%1 does not say when a window fills the screen: it stays over it.</source>
+        <translation>لا يخبر %1 بنافذة تملأ الشاشة: يبقى فوقها.</translation>
     </message>
     <message>
-        <source>Kept above other windows by %1</source>
-        <translation>يُبقيه %1 فوق النوافذ الأخرى</translation>
+        <source>It stands above other windows and gives way to full screens.</source>
+        <translation>يقف فوق النوافذ الأخرى ويُفسح لما يملأ الشاشة.</translation>
     </message>
     <message>
         <source>Shadows and soft edges</source>
@@ -2409,6 +2409,10 @@
     <message>
         <source>Works in every window.</source>
         <translation>يعمل في كل نافذة.</translation>
+    </message>
+    <message>
+        <source>Not tried here: only the running application asks for it.</source>
+        <translation>لم يُجرَّب هنا: لا يطلبه إلا التطبيق وهو يعمل.</translation>
     </message>
     <message>
         <source>On Wayland only X11 windows pass the key on.</source>
@@ -2537,6 +2541,10 @@
     <message>
         <source>off</source>
         <translation>متوقف</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>غير معروف</translation>
     </message>
     <message>
         <source>Count %1 (%2)</source>
@@ -3204,20 +3212,20 @@
 <context>
     <name>Velvetnook::PaletteHotkey</name>
     <message>
-        <source>off: no key is set</source>
-        <translation>متوقف: لا مفتاح معيّن</translation>
+        <source>No key is set.</source>
+        <translation>لا مفتاح معيّن.</translation>
     </message>
     <message>
-        <source>degraded: this kind of session gives no program a key of its own. Bind %1 to “kest palette toggle” in the desktop&apos;s keyboard settings.</source>
-        <translation>منقوص: هذا النوع من الجلسات لا يعطي البرامج مفتاحًا. اربط %1 بالأمر «kest palette toggle» في إعدادات لوحة المفاتيح.</translation>
+        <source>This kind of session gives no program a key of its own. Bind %1 to “kest palette toggle” in the desktop&apos;s keyboard settings.</source>
+        <translation>هذا النوع من الجلسات لا يعطي البرامج مفتاحًا. اربط %1 بالأمر «kest palette toggle» في إعدادات لوحة المفاتيح.</translation>
     </message>
     <message>
-        <source>degraded: this keyboard has no such key. Choose another.</source>
-        <translation>منقوص: لا مفتاح كهذا في لوحة المفاتيح. اختر غيره.</translation>
+        <source>This keyboard has no such key. Choose another.</source>
+        <translation>لا مفتاح كهذا في لوحة المفاتيح. اختر غيره.</translation>
     </message>
     <message>
-        <source>degraded: another program has %1. Choose another key, or bind one to “kest palette toggle” in the desktop&apos;s keyboard settings.</source>
-        <translation>منقوص: %1 عند برنامج آخر. اختر مفتاحًا غيره، أو اربط مفتاحًا بالأمر «kest palette toggle» في إعدادات لوحة المفاتيح.</translation>
+        <source>Another program has %1. Choose another key, or bind one to “kest palette toggle” in the desktop&apos;s keyboard settings.</source>
+        <translation>%1 عند برنامج آخر. اختر مفتاحًا غيره، أو اربط مفتاحًا بالأمر «kest palette toggle» في إعدادات لوحة المفاتيح.</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,9 @@
 
 #include <fmt/format.h>
 
+#include <sys/socket.h>
+#include <unistd.h>
+
 #include <cstdlib>
 
 template Base::Result<std::string> Base::json::encode(const KestCore::ApplicationCommand &);
@@ -35,6 +38,14 @@ std::uint64_t hashOf(std::string_view text)
 }
 
 } // namespace
+
+bool isOwnProgram(int socket)
+{
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
+           peer.uid == geteuid();
+}
 
 fs::path applicationSocket(const fs::path &databaseFile)
 {

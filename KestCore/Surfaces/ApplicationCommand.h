@@ -74,6 +74,9 @@ static_assert(json::coversAllMembers<ApplicationAnswer>());
 // and a tool that nobody knows.
 [[nodiscard]] Result<ApplicationCommand> readApplicationCommand(std::string_view line);
 
+// Whether a program of the same user is at the other end of this socket.
+bool isOwnProgram(int socket);
+
 // Cuts into lines what arrives in pieces. A line is at most a megabyte.
 class CommandLines
 {

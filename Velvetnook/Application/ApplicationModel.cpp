@@ -2,10 +2,30 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/ApplicationModel.h"
 
+#include <tuple>
 #include <utility>
 
 namespace Velvetnook
 {
+
+namespace
+{
+
+// Whether the two differ at most in the session that is counted and those that are finished.
+bool haveSameChoices(const KestCore::NativeState &one, const KestCore::NativeState &other)
+{
+    const auto choices = [](const KestCore::NativeState &state) {
+        const KestCore::DevotionalState &devotional = state.devotional;
+        return std::tie(state.enabled, state.order, state.navigationFavorites, state.pin,
+                        state.displayID, state.settings, devotional.selectedDhikrId,
+                        devotional.selectedNameId, devotional.favorites, devotional.preferences,
+                        devotional.onboardingComplete, devotional.pausedUntil,
+                        devotional.presentation, devotional.notificationStatus);
+    };
+    return choices(one) == choices(other);
+}
+
+} // namespace
 
 ApplicationModel::ApplicationModel(std::unique_ptr<StateKeeper> keeper, Committed first,
                                    TimeSource now, QObject *parent)
@@ -116,8 +136,12 @@ void ApplicationModel::adopt(Committed committed)
         m_companion = std::move(*committed.companion);
     }
     if (committed.state) {
+        const bool isChosen = !haveSameChoices(m_state, *committed.state);
         m_state = std::move(*committed.state);
         emit stateChanged();
+        if (isChosen) {
+            emit choicesChanged();
+        }
     }
     if (committed.companion) {
         emit companionChanged();

@@ -64,6 +64,9 @@ public:
 
 signals:
     void stateChanged();
+    // The same, but for what is merely counted: who shows nothing of that has no work with
+    // each count.
+    void choicesChanged();
     void recordsChanged();
     void companionChanged();
     // The date, the time zone or the wall clock is another now.

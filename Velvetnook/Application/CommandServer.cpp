@@ -5,6 +5,7 @@
 #include "Base/JsonWriter.h"
 
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -14,6 +15,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 
 namespace Velvetnook
@@ -33,14 +35,6 @@ constexpr int kSocketKind = SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK;
 KestError socketError(const std::filesystem::path &file)
 {
     return Base::fileError(file, {errno, std::generic_category()});
-}
-
-bool isOurs(int socket)
-{
-    ucred peer{};
-    socklen_t size = sizeof peer;
-    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
-           peer.uid == geteuid();
 }
 
 Result<sockaddr_un> addressOf(const std::filesystem::path &file)
@@ -117,7 +111,10 @@ void CommandServer::accept()
 {
     Base::FileDescriptor socket{
         accept4(m_socket.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK)};
-    if (!socket.isOpen() || !isOurs(socket.get())) {
+    if (!socket.isOpen() && (errno == EMFILE || errno == ENFILE)) {
+        return restAWhile();
+    }
+    if (!socket.isOpen() || !KestCore::isOwnProgram(socket.get())) {
         return;
     }
     auto client = std::make_unique<Client>();
@@ -128,6 +125,18 @@ void CommandServer::accept()
             [this, id = client->id] { read(id); });
     m_clients.emplace(client->id, std::move(client));
     makeRoom();
+}
+
+// The caller goes on waiting, and the notifier would go on telling of it, until a file
+// descriptor is free again.
+void CommandServer::restAWhile()
+{
+    constexpr std::chrono::milliseconds kRest{500};
+    m_callers->setEnabled(false);
+    QTimer::singleShot(kRest, this, [this] {
+        m_callers->setEnabled(true);
+        makeRoom();
+    });
 }
 
 // Those who wait for the store, or have it, stay; of the others the first that came goes.

@@ -44,6 +44,7 @@ private:
     struct Client;
 
     void accept();
+    void restAWhile();
     void makeRoom();
     void read(int id);
     [[nodiscard]] bool answerLines(Client &client);

@@ -10,6 +10,14 @@
 namespace Velvetnook
 {
 
+// English has a file too: it holds the singular and plural forms.
+bool speak(QTranslator &translator, const QString &language)
+{
+    return translator.load(
+               QStringLiteral(":/velvetnook/i18n/velvetnook_%1.qm").arg(language)) &&
+           QCoreApplication::installTranslator(&translator);
+}
+
 Languages::Languages(const ApplicationModel &model, const Formatting &formatting,
                      QObject *parent)
     : QObject{parent}, m_formatting{formatting}
@@ -28,10 +36,7 @@ void Languages::follow()
     }
     m_language = language;
     QCoreApplication::removeTranslator(&m_translator);
-    // English has a file too: it holds the singular and plural forms.
-    if (m_translator.load(QStringLiteral(":/velvetnook/i18n/velvetnook_%1.qm").arg(language))) {
-        QCoreApplication::installTranslator(&m_translator);
-    } else {
+    if (!speak(m_translator, language)) {
         qWarning("the texts of the language %s are missing", qPrintable(language));
     }
     QGuiApplication::setLayoutDirection(m_formatting.isRightToLeft() ? Qt::RightToLeft

@@ -11,6 +11,10 @@ namespace Velvetnook
 class ApplicationModel;
 class Formatting;
 
+// Takes the texts of a language ("en", "ar") into use until `translator` goes; false where they
+// are missing.
+bool speak(QTranslator &translator, const QString &language);
+
 // Gives the application the texts and the direction of the interface's language, also when it
 // is changed. To be made before the view models: they word anew when the state changes, and
 // then the texts must be there.

@@ -34,7 +34,7 @@ NotchDriver::NotchDriver(ApplicationModel &model, App &app, SteadyTime steady, Q
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &NotchDriver::passTime);
-    connect(&model, &ApplicationModel::stateChanged, this, &NotchDriver::settle);
+    connect(&model, &ApplicationModel::choicesChanged, this, &NotchDriver::settle);
     PanelViewModel *panel = app.panel();
     connect(panel, &PanelViewModel::openWanted, this, &NotchDriver::open);
     connect(panel, &PanelViewModel::closeWanted, this, &NotchDriver::close);

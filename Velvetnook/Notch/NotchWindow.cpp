@@ -56,7 +56,12 @@ NotchWindow::NotchWindow(QQmlEngine &engine, ApplicationModel &model, NotchDrive
     watchDesktop();
 }
 
-NotchWindow::~NotchWindow() = default;
+// The surface may close a dialog of its own while it goes, and that would place the window.
+NotchWindow::~NotchWindow()
+{
+    disconnect(&m_driver, nullptr, this, nullptr);
+    m_surface.reset();
+}
 
 QUrl NotchWindow::surface()
 {
@@ -87,7 +92,7 @@ void NotchWindow::watchDesktop()
 {
     connect(&m_foreground, &ForegroundWatch::changed, this, &NotchWindow::followForeground);
     connect(&m_foreground, &ForegroundWatch::restacked, this, [this] { raiseAboveAll(*this); });
-    connect(&m_model, &ApplicationModel::stateChanged, this, &NotchWindow::followScreen);
+    connect(&m_model, &ApplicationModel::choicesChanged, this, &NotchWindow::followScreen);
     connect(qGuiApp, &QGuiApplication::screenAdded, this, &NotchWindow::followScreen);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &NotchWindow::followScreen);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &NotchWindow::followScreen);
@@ -163,7 +168,7 @@ void NotchWindow::place()
     }
     if (const QRegion region = outline(size); region != m_outline) {
         m_outline = region;
-        setWindowOutline(*this, region);
+        setWindowOutline(*this, region, m_hasCompositor);
     }
     const bool isWanted = !m_driver.isSuppressed();
     if (isWanted != isVisible()) {
@@ -194,15 +199,13 @@ void NotchWindow::readPointer(const QEvent &event)
 {
     switch (event.type()) {
     case QEvent::Enter:
-        m_isInside = true;
         m_driver.pointer(true, false);
         break;
     case QEvent::Leave:
-        m_isInside = false;
-        m_driver.pointer(false, false);
+        // While a button is down, something is being dragged out of the panel.
+        m_driver.pointer(false, QGuiApplication::mouseButtons() != Qt::NoButton);
         break;
     case QEvent::MouseButtonPress:
-        m_isInside = true;
         m_driver.pointer(true, true);
         if (m_driver.isOpen()) {
             takeKeyboard();
@@ -211,8 +214,7 @@ void NotchWindow::readPointer(const QEvent &event)
     case QEvent::MouseButtonRelease: {
         const auto &mouse = static_cast<const QMouseEvent &>(event);
         const QPointF at = mouse.position() * devicePixelRatio();
-        m_isInside = m_outline.contains(at.toPoint());
-        m_driver.pointer(m_isInside, mouse.buttons() != Qt::NoButton);
+        m_driver.pointer(m_outline.contains(at.toPoint()), mouse.buttons() != Qt::NoButton);
         break;
     }
     case QEvent::DragEnter:

@@ -64,7 +64,6 @@ private:
     QRegion m_outline;         // in pixels of the window
     quint32 m_focusBefore = 0; // who had the keyboard
     bool m_hasCompositor = false;
-    bool m_isInside = false;
     bool m_hasBegun = false;
 };
 

@@ -45,15 +45,17 @@ Capability edgePanel(const SessionFacts &facts)
         found.level = Level::degraded;
         found.reason = tr("Through XWayland other windows and full screens may cover it.");
         found.wayOut = tr("Choose an X11 session when you log in.");
-    } else if (!facts.keepsAbove) {
+    } else if (!facts.tellsFullScreen) {
+        // It keeps itself above the others; what to give way to it must be told.
         found.level = Level::degraded;
-        found.reason = facts.windowManager.isEmpty()
-                           ? tr("No window manager runs that keeps it above other windows.")
-                           : tr("The window manager does not keep windows above others: %1")
-                                 .arg(facts.windowManager);
+        found.reason =
+            facts.windowManager.isEmpty()
+                ? tr("No window manager says when a window fills the screen: it stays over it.")
+                : tr("%1 does not say when a window fills the screen: it stays over it.")
+                      .arg(facts.windowManager);
     } else {
         found.level = Level::full;
-        found.reason = tr("Kept above other windows by %1").arg(facts.windowManager);
+        found.reason = tr("It stands above other windows and gives way to full screens.");
     }
     return found;
 }
@@ -75,13 +77,32 @@ Capability compositing(const SessionFacts &facts)
     return found;
 }
 
+Level levelOf(HotkeyState::Level level)
+{
+    switch (level) {
+    case HotkeyState::Level::full:
+        return Level::full;
+    case HotkeyState::Level::degraded:
+        return Level::degraded;
+    case HotkeyState::Level::off:
+        return Level::off;
+    case HotkeyState::Level::untried:
+        break;
+    }
+    return Level::unknown;
+}
+
 Capability hotkey(const SessionFacts &facts)
 {
     Capability found{.id = QStringLiteral("hotkey"), .name = tr("Key for the palette")};
     if (facts.hasXServer && !isWayland(facts)) {
-        const bool isFree = facts.hotkeyProblem.isEmpty();
-        found.level = isFree ? Level::full : Level::degraded;
-        found.reason = isFree ? tr("Works in every window.") : facts.hotkeyProblem;
+        found.level = levelOf(facts.hotkey.level);
+        found.reason = facts.hotkey.reason;
+        if (found.level == Level::full) {
+            found.reason = tr("Works in every window.");
+        } else if (found.level == Level::unknown) {
+            found.reason = tr("Not tried here: only the running application asks for it.");
+        }
         return found;
     }
     found.level = facts.hasXServer ? Level::degraded : Level::off;
@@ -187,9 +208,11 @@ QString textOf(Capability::Level level)
     case Level::degraded:
         return tr("degraded");
     case Level::off:
+        return tr("off");
+    case Level::unknown:
         break;
     }
-    return tr("off");
+    return tr("unknown");
 }
 
 std::vector<Capability> capabilitiesOf(const SessionFacts &facts)

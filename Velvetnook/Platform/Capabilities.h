@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Velvetnook/Application/HotkeyState.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -17,7 +19,7 @@ struct SessionFacts {
     QString desktop{};     // "GNOME", "KDE", as the session itself says
     bool hasXServer{};
     QString windowManager{}; // of the X server; empty: none that says so
-    bool keepsAbove{};       // it promises to keep a window above the others
+    bool tellsFullScreen{};  // it says which window is in front, and which fills the screen
     bool composites{};       // the X server's screen is blended
 
     bool hasSessionBus{};
@@ -28,15 +30,15 @@ struct SessionFacts {
     bool hasSecrets{};
     bool hasSettingsPortal{};
     bool hasLogin{};
-    QString soundServer{};   // empty: none
-    QString hotkeyProblem{}; // what the palette's key met; empty: nothing that is known
+    QString soundServer{}; // empty: none
+    HotkeyState hotkey{};  // of the palette's key
 
     bool operator==(const SessionFacts &) const = default;
 };
 
 // One thing that the application can do as far as the session lets it.
 struct Capability {
-    enum class Level : std::uint8_t { full, degraded, off };
+    enum class Level : std::uint8_t { full, degraded, off, unknown };
 
     QString id{};
     QString name{};

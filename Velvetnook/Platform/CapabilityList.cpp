@@ -34,7 +34,7 @@ QVariant CapabilityList::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
-    static constexpr const char *kLevels[]{"full", "degraded", "off"};
+    static constexpr const char *kLevels[]{"full", "degraded", "off", "unknown"};
     const Capability &row = m_rows[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Platform/Desktop.h"
 
-#include "KestCore/Store/StoreLocation.h"
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
@@ -17,6 +16,7 @@
 #include "Velvetnook/Platform/Linux/PortalLook.h"
 #include "Velvetnook/Platform/Linux/PulseSounds.h"
 #include "Velvetnook/Platform/Linux/SessionProbe.h"
+#include "Velvetnook/Platform/StartUp.h"
 #include "Velvetnook/Platform/TrayMenu.h"
 
 #include <QGuiApplication>
@@ -36,12 +36,6 @@ namespace
 constexpr const char *kLaunchAtLogin = "general.launchAtLogin";
 // The tray may be this much behind: each of its changes goes over the bus, each count must not.
 constexpr std::chrono::seconds kTrayPatience{2};
-
-QString applicationId()
-{
-    const auto id = KestCore::bundleIdentifier();
-    return QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size()));
-}
 
 QList<QImage> trayPictures()
 {
@@ -220,10 +214,7 @@ void Desktop::followCapabilities()
     m_probe = new SessionProbe{m_session, m_system, this};
     connect(m_probe, &SessionProbe::done, this, [this] {
         SessionFacts facts = m_probe->facts();
-        const QString key = m_app.palette()->hotkeyState();
-        if (key != u"full") {
-            facts.hotkeyProblem = key;
-        }
+        facts.hotkey = m_app.palette()->hotkey();
         m_capabilities->show(capabilitiesOf(facts));
     });
     SettingsViewModel *settings = m_app.settings();

@@ -65,8 +65,20 @@ void ForegroundWatch::follow(xcb_window_t window, std::uint32_t events)
 
 void ForegroundWatch::readEvents()
 {
+    const bool isNews = takeNews(xcb_poll_for_event);
+    if (xcb_connection_has_error(m_server.get()) != 0) {
+        m_notifier->setEnabled(false); // the server is gone, and Qt will see it as well
+        return;
+    }
+    if (isNews) {
+        look();
+    }
+}
+
+bool ForegroundWatch::takeNews(xcb_generic_event_t *(*poll)(xcb_connection_t *))
+{
     bool isNews = false;
-    while (const Xcb::Owned<xcb_generic_event_t> event{xcb_poll_for_event(m_server.get())}) {
+    while (const Xcb::Owned<xcb_generic_event_t> event{poll(m_server.get())}) {
         const auto kind = event->response_type & 0x7f;
         if (kind == XCB_PROPERTY_NOTIFY) {
             const auto *change =
@@ -77,13 +89,7 @@ void ForegroundWatch::readEvents()
             isNews = true;
         }
     }
-    if (xcb_connection_has_error(m_server.get()) != 0) {
-        m_notifier->setEnabled(false); // the server is gone, and Qt will see it as well
-        return;
-    }
-    if (isNews) {
-        look();
-    }
+    return isNews;
 }
 
 bool ForegroundWatch::isOnScreen(xcb_window_t window) const
@@ -132,6 +138,16 @@ void ForegroundWatch::look()
         }
         m_covering = front;
     }
+    // Events that came along with the answers are in our memory now: the socket that wakes us
+    // will not tell of them.
+    if (takeNews(xcb_poll_for_queued_event)) {
+        QMetaObject::invokeMethod(this, &ForegroundWatch::look, Qt::QueuedConnection);
+    }
+    tell(front, isOtherFront);
+}
+
+void ForegroundWatch::tell(xcb_window_t front, bool isOtherFront)
+{
     const bool isFullScreen = m_covering != XCB_NONE && fillsScreen(m_covering);
     QStringList application;
     if (front != XCB_NONE) {

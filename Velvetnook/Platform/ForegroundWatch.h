@@ -41,7 +41,10 @@ signals:
 private:
     void connectToServer();
     void readEvents();
+    // Whether one of the events that `poll` hands out may have changed what is known.
+    bool takeNews(xcb_generic_event_t *(*poll)(xcb_connection_t *));
     void look();
+    void tell(xcb_window_t front, bool isOtherFront);
     void follow(xcb_window_t window, std::uint32_t events);
     bool fillsScreen(xcb_window_t window) const;
     bool isOnScreen(xcb_window_t window) const;

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Velvetnook
 {
@@ -20,6 +21,7 @@ namespace
 
 using KestCore::ShortcutBinding;
 using KestCore::ShortcutModifier;
+using Level = HotkeyState::Level;
 
 constexpr std::uint32_t kNumLock = 0xFF7F; // its keysym
 constexpr std::uint16_t kLocks = XCB_MOD_MASK_LOCK;
@@ -134,48 +136,59 @@ void PaletteHotkey::follow()
     m_binding = storedBinding();
     if (!m_binding) {
         release();
-        return tell({}, tr("off: no key is set"));
+        return tell({}, {.level = Level::off, .reason = tr("No key is set.")});
     }
     const QString text = shortcutText(*m_binding);
     const bool isWayland = qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String{"wayland"};
     if (m_server == nullptr || isWayland) {
-        return tell(text, tr("degraded: this kind of session gives no program a key of its "
-                             "own. Bind %1 to “kest palette toggle” in the desktop's keyboard "
-                             "settings.")
-                              .arg(text));
+        return tell(text, {.level = Level::degraded,
+                           .reason = tr("This kind of session gives no program a key of its "
+                                        "own. Bind %1 to “kest palette toggle” in the "
+                                        "desktop's keyboard settings.")
+                                         .arg(text)});
     }
     release();
-    const auto grab = grabFor(*m_binding);
-    if (!grab) {
-        return tell(text, tr("degraded: this keyboard has no such key. Choose another."));
+    const Keyboard keyboard = readKeyboard(m_server);
+    const auto key = shortcutKey(m_binding->keyCode);
+    const std::uint8_t keycode = key ? keyboard.keycodeOf(key->keysym) : std::uint8_t{0};
+    if (keycode == 0) {
+        return tell(text, {.level = Level::degraded,
+                           .reason = tr("This keyboard has no such key. Choose another.")});
     }
-    if (!take(*grab)) {
-        return tell(text, tr("degraded: another program has %1. Choose another key, or bind "
-                             "one to “kest palette toggle” in the desktop's keyboard settings.")
-                              .arg(text));
+    if (!take({.keycode = keycode, .modifiers = masksOf(*m_binding)},
+              numLockMask(m_server, keyboard))) {
+        return tell(text, {.level = Level::degraded,
+                           .reason = tr("Another program has %1. Choose another key, or bind "
+                                        "one to “kest palette toggle” in the desktop's "
+                                        "keyboard settings.")
+                                         .arg(text)});
     }
-    tell(text, QStringLiteral("full"));
+    tell(text, {.level = Level::full, .reason = {}});
 }
 
-void PaletteHotkey::tell(const QString &text, const QString &state)
+// A change of the layout comes as many events.
+void PaletteHotkey::followSoon()
 {
-    if (m_palette.hotkeyText() != text || m_palette.hotkeyState() != state) {
+    if (!std::exchange(m_isFollowDue, true)) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_isFollowDue = false;
+                follow();
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+void PaletteHotkey::tell(const QString &text, const HotkeyState &state)
+{
+    if (m_palette.hotkeyText() != text || m_palette.hotkey() != state) {
         m_palette.setHotkey(text, state);
     }
 }
 
-std::optional<PaletteHotkey::Grab> PaletteHotkey::grabFor(const ShortcutBinding &binding) const
+bool PaletteHotkey::take(const Grab &grab, std::uint16_t numLock)
 {
-    const auto key = shortcutKey(binding.keyCode);
-    const auto keycode = key ? readKeyboard(m_server).keycodeOf(key->keysym) : std::uint8_t{0};
-    return keycode == 0
-               ? std::nullopt
-               : std::optional{Grab{.keycode = keycode, .modifiers = masksOf(binding)}};
-}
-
-bool PaletteHotkey::take(const Grab &grab)
-{
-    const std::uint16_t numLock = numLockMask(m_server, readKeyboard(m_server));
     m_locks = {0, kLocks, numLock, static_cast<std::uint16_t>(kLocks | numLock)};
     m_grab = grab;
     std::vector<xcb_void_cookie_t> asked;
@@ -218,13 +231,16 @@ bool PaletteHotkey::nativeEventFilter(const QByteArray &kind, void *message, qin
     if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
         const auto &key = *static_cast<const xcb_key_press_event_t *>(message);
         const bool isPress = type == XCB_KEY_PRESS;
-        return m_heldKey != 0 ? whileHeld(key, isPress) : isPress && press(key);
+        if (m_heldKey != 0) {
+            return whileHeld(key, isPress);
+        }
+        return (isPress && press(key)) || letGo(key, isPress);
     }
     // Another layout may have the key elsewhere. Its first two events tell of one.
     const bool isNewLayout =
         m_keyboardEvents != 0 && type == m_keyboardEvents && event->pad0 <= 1;
     if (type == XCB_MAPPING_NOTIFY || isNewLayout) {
-        QMetaObject::invokeMethod(this, &PaletteHotkey::follow, Qt::QueuedConnection);
+        followSoon();
     }
     return false;
 }
@@ -238,6 +254,17 @@ bool PaletteHotkey::press(const xcb_key_press_event_t &event)
     m_heldKey = event.detail;
     emit m_palette.toggleWanted();
     goOn(XCB_ALLOW_SYNC_KEYBOARD, event);
+    return true;
+}
+
+// A key of ours that is the wrong one when it arrives, as the grab was changed while it was on
+// its way: the keyboard of every program stands still until the server hears of it.
+bool PaletteHotkey::letGo(const xcb_key_press_event_t &event, bool isPress)
+{
+    if (event.event != m_root) {
+        return false;
+    }
+    goOn(isPress ? XCB_ALLOW_REPLAY_KEYBOARD : XCB_ALLOW_ASYNC_KEYBOARD, event);
     return true;
 }
 

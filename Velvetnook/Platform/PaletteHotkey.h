@@ -19,6 +19,7 @@ namespace Velvetnook
 
 class ApplicationModel;
 class PaletteViewModel;
+struct HotkeyState;
 
 // The key that opens the palette wherever the user is: the shortcut of the companion whose
 // target is "command". Only an X server gives it; what is in the way, and the way round it,
@@ -52,14 +53,15 @@ private:
 
     std::optional<KestCore::ShortcutBinding> storedBinding() const;
     void follow();
+    void followSoon();
     void release();
     // Whether the server gave all of it.
-    bool take(const Grab &grab);
-    std::optional<Grab> grabFor(const KestCore::ShortcutBinding &binding) const;
+    bool take(const Grab &grab, std::uint16_t numLock);
     bool press(const xcb_key_press_event_t &event);
     bool whileHeld(const xcb_key_press_event_t &event, bool isPress);
+    bool letGo(const xcb_key_press_event_t &event, bool isPress);
     void goOn(std::uint8_t how, const xcb_key_press_event_t &event);
-    void tell(const QString &text, const QString &state);
+    void tell(const QString &text, const HotkeyState &state);
 
     ApplicationModel &m_model;
     PaletteViewModel &m_palette;
@@ -69,6 +71,7 @@ private:
     std::vector<std::uint16_t> m_locks;
     std::optional<KestCore::ShortcutBinding> m_binding;
     std::optional<Grab> m_grab;
+    bool m_isFollowDue = false;
     std::uint8_t m_heldKey = 0; // down since it was pressed; 0: none
 };
 

@@ -29,6 +29,12 @@ int printCapabilities(int argc, char **argv)
 
 } // namespace
 
+QString applicationId()
+{
+    const auto id = KestCore::bundleIdentifier();
+    return QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size()));
+}
+
 std::optional<int> answerWithoutWindow(const Launch &launch, int argc, char **argv)
 {
     switch (launch.wish) {
@@ -52,10 +58,7 @@ std::optional<int> answerWithoutWindow(const Launch &launch, int argc, char **ar
 
 std::unique_ptr<BusActivation> makeActivation()
 {
-    const auto name = KestCore::bundleIdentifier();
-    return std::make_unique<BusActivation>(
-        QDBusConnection::sessionBus(),
-        QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    return std::make_unique<BusActivation>(QDBusConnection::sessionBus(), applicationId());
 }
 
 std::optional<int> claim(Activation &activation, const Launch &launch)

@@ -13,6 +13,9 @@ namespace Velvetnook
 class Activation;
 class BusActivation;
 
+// The name that the application has on the bus and for desktops; that of the build.
+QString applicationId();
+
 // Answers what needs no window: help, the version, the capabilities, and what nobody
 // understands. The status to end with, or nothing when the application is to start.
 std::optional<int> answerWithoutWindow(const Launch &launch, int argc, char **argv);

@@ -81,7 +81,7 @@ bool hasCompositor()
     return owner && owner->owner != XCB_NONE;
 }
 
-void setWindowOutline(QWindow &window, const QRegion &outline)
+void setWindowOutline(QWindow &window, const QRegion &outline, bool isBlended)
 {
     xcb_connection_t *server = Xcb::connection();
     if (server == nullptr) {
@@ -89,7 +89,7 @@ void setWindowOutline(QWindow &window, const QRegion &outline)
     }
     const auto id = static_cast<xcb_window_t>(window.winId());
     setShape(server, id, XCB_SHAPE_SK_INPUT, outline);
-    if (hasCompositor()) {
+    if (isBlended) {
         xcb_shape_mask(server, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id, 0, 0, XCB_NONE);
     } else {
         setShape(server, id, XCB_SHAPE_SK_BOUNDING, outline);

@@ -24,8 +24,9 @@ QRegion roundOutline(const QSize &size, int radius);
 bool hasCompositor();
 
 // Lets the pointer through everywhere but in `outline`, in device pixels of the window. What
-// lies around is drawn, such as a shadow, only where it can be mixed with what is below.
-void setWindowOutline(QWindow &window, const QRegion &outline);
+// lies around is drawn, such as a shadow, only where it is blended with what is below. Waits
+// for nobody, as it is called for each frame of a motion.
+void setWindowOutline(QWindow &window, const QRegion &outline, bool isBlended);
 
 // When the window changes its size, what was drawn stays at its top centre until it is drawn
 // again: nothing jumps.

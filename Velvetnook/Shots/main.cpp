@@ -85,6 +85,54 @@ void settle()
     }
 }
 
+QString nameOf(const Shot &shot, const Variant &variant)
+{
+    return QStringLiteral("%1-%2-%3")
+        .arg(shot.name, QLatin1String{variant.theme}, QLatin1String{variant.language});
+}
+
+bool say(const Shot &shot, const QString &problem)
+{
+    std::fprintf(stderr, "%s: %s\n", qPrintable(shot.name), qPrintable(problem));
+    return false;
+}
+
+bool save(QQuickItem &surface, const Shot &shot, const Variant &variant, const QDir &folder)
+{
+    QQuickWindow window;
+    window.setColor(QColor{variant.theme == std::string_view{"dark"} ? "#3A4A42" : "#B9C7BD"});
+    window.resize(static_cast<int>(surface.implicitWidth()) + 80,
+                  static_cast<int>(surface.implicitHeight()) + 80);
+    surface.setParentItem(window.contentItem());
+    surface.setX(40);
+    surface.setSize({surface.implicitWidth(), surface.implicitHeight()});
+    window.show();
+    settle();
+    const QString name = QStringLiteral("%1-%2.png")
+                             .arg(nameOf(shot, variant))
+                             .arg(qRound(window.devicePixelRatio() * 100));
+    const bool isSaved = window.grabWindow().save(folder.filePath(name));
+    std::printf("%s%s\n", qPrintable(name), isSaved ? "" : " COULD NOT BE WRITTEN");
+    surface.setParentItem(nullptr);
+    return isSaved;
+}
+
+bool drawSurface(QQmlEngine &engine, const Shot &shot, const Variant &variant,
+                 const QDir &folder)
+{
+    QQmlComponent component{
+        &engine,
+        QStringLiteral("qrc:/Velvetnook/Shell/Surfaces/%1Surface.qml").arg(shot.surface)};
+    QVariantMap properties;
+    if (!shot.view.isEmpty()) {
+        properties.insert(QStringLiteral("view"), shot.view);
+    }
+    const std::unique_ptr<QObject> made{component.createWithInitialProperties(properties)};
+    auto *surface = qobject_cast<QQuickItem *>(made.get());
+    return surface == nullptr ? say(shot, component.errorString())
+                              : save(*surface, shot, variant, folder);
+}
+
 bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
 {
     const QTemporaryDir data;
@@ -93,9 +141,7 @@ bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
     auto store = KestCore::StateStore::open(file);
     auto snapshot = store ? fill(*store, shot, variant) : std::unexpected(store.error());
     if (!snapshot) {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(shot.name),
-                     snapshot.error().message.c_str());
-        return false;
+        return say(shot, QString::fromStdString(snapshot.error().message));
     }
     ApplicationModel model{std::make_unique<StateKeeper>(file, std::move(*store)),
                            committedAll(std::move(*snapshot)),
@@ -110,42 +156,7 @@ bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
         shot.arrange(app);
     }
     settle();
-    QQmlComponent component{
-        &engine,
-        QStringLiteral("qrc:/Velvetnook/Shell/Surfaces/%1Surface.qml").arg(shot.surface)};
-    if (!component.isReady()) {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(shot.name),
-                     qPrintable(component.errorString()));
-        return false;
-    }
-    QVariantMap properties;
-    if (!shot.view.isEmpty()) {
-        properties.insert(QStringLiteral("view"), shot.view);
-    }
-    std::unique_ptr<QObject> made{component.createWithInitialProperties(properties)};
-    auto *surface = qobject_cast<QQuickItem *>(made.get());
-    if (surface == nullptr) {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(shot.name),
-                     qPrintable(component.errorString()));
-        return false;
-    }
-    QQuickWindow window;
-    window.setColor(QColor{variant.theme == std::string_view{"dark"} ? "#3A4A42" : "#B9C7BD"});
-    window.resize(static_cast<int>(surface->implicitWidth()) + 80,
-                  static_cast<int>(surface->implicitHeight()) + 80);
-    surface->setParentItem(window.contentItem());
-    surface->setX(40);
-    surface->setSize({surface->implicitWidth(), surface->implicitHeight()});
-    window.show();
-    settle();
-    const QString name =
-        QStringLiteral("%1-%2-%3-%4.png")
-            .arg(shot.name, QLatin1String{variant.theme}, QLatin1String{variant.language})
-            .arg(qRound(window.devicePixelRatio() * 100));
-    const bool isSaved = window.grabWindow().save(folder.filePath(name));
-    std::printf("%s%s\n", qPrintable(name), isSaved ? "" : " COULD NOT BE WRITTEN");
-    surface->setParentItem(nullptr);
-    return isSaved;
+    return drawSurface(engine, shot, variant, folder);
 }
 
 } // namespace
@@ -170,10 +181,7 @@ int main(int argc, char **argv)
     bool isWhole = true;
     for (const Shot &shot : allShots()) {
         for (const Variant &variant : kVariants) {
-            const QString whole = QStringLiteral("%1-%2-%3")
-                                      .arg(shot.name, QLatin1String{variant.theme},
-                                           QLatin1String{variant.language});
-            if (whole.contains(pattern)) {
+            if (nameOf(shot, variant).contains(pattern)) {
                 isWhole = draw(shot, variant, folder) && isWhole;
             }
         }

@@ -25,7 +25,7 @@ SessionFacts wholeDesktop()
     return {.sessionType = QStringLiteral("x11"),
             .hasXServer = true,
             .windowManager = QStringLiteral("Openbox"),
-            .keepsAbove = true,
+            .tellsFullScreen = true,
             .composites = true,
             .hasSessionBus = true,
             .hasNotifications = true,
@@ -34,7 +34,8 @@ SessionFacts wholeDesktop()
             .hasSecrets = true,
             .hasSettingsPortal = true,
             .hasLogin = true,
-            .soundServer = QStringLiteral("/run/pulse")};
+            .soundServer = QStringLiteral("/run/pulse"),
+            .hotkey = {.level = HotkeyState::Level::full, .reason = {}}};
 }
 
 Capability find(const std::vector<Capability> &all, const char *id)
@@ -51,9 +52,15 @@ TEST(Capabilities, EachLackIsSeenWhereItCountsAndNowhereElse)
         void (*spoil)(SessionFacts &);
     };
     for (const auto &[id, level, spoil] : {
-             Case{"edge", Level::degraded, [](auto &facts) { facts.keepsAbove = false; }},
+             Case{"edge", Level::degraded, [](auto &facts) { facts.tellsFullScreen = false; }},
              Case{"compositing", Level::degraded,
                   [](auto &facts) { facts.composites = false; }},
+             Case{"hotkey", Level::unknown, [](auto &facts) { facts.hotkey = {}; }},
+             Case{"hotkey", Level::off,
+                  [](auto &facts) {
+                      facts.hotkey = {.level = HotkeyState::Level::off,
+                                      .reason = QStringLiteral("none")};
+                  }},
              Case{"notifications", Level::off,
                   [](auto &facts) { facts.hasNotifications = false; }},
              Case{"notifications", Level::degraded,

@@ -8,12 +8,14 @@
 #include "tests/EndToEnd/Program.h"
 #include "tests/TemporaryFolder.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -301,6 +303,49 @@ TEST_F(CommandServerTest, OpensSurfacesForKest)
     const Outcome alone = run({"palette", "toggle"});
     EXPECT_EQ(alone.status, 1);
     EXPECT_TRUE(alone.err.contains("Velvetnook is not running")) << alone.err;
+}
+
+// As when kest comes between the application's taking of the data and its first listening.
+TEST_F(CommandServerTest, LendsToOneThatCameBeforeItListened)
+{
+    m_server.reset();
+    std::atomic<bool> isDone = false;
+    Outcome outcome;
+    const std::jthread kest{[&] {
+        outcome = runKest(m_folder.path(), {"count"});
+        isDone = true;
+    }};
+    std::this_thread::sleep_for(std::chrono::seconds{1});
+    m_server = std::make_unique<CommandServer>(*m_model, database());
+    ASSERT_TRUE(m_server->listen());
+    ASSERT_TRUE(waitUntil([&] { return isDone.load(); }));
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_TRUE(waitUntil([&] { return shown() == 1; }));
+}
+
+// Without a free descriptor a caller cannot be let in: it waits, and so does the loop.
+TEST_F(CommandServerTest, SleepsWhileThereIsNoDescriptorForACaller)
+{
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+    const Caller caller{database()};
+    ASSERT_TRUE(caller.isConnected());
+    const int next = dup(0);
+    ASSERT_GE(next, 0);
+    close(next);
+    rlimit full = before;
+    full.rlim_cur = static_cast<rlim_t>(next);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &full), 0);
+    constexpr int kRounds = 1000;
+    int rounds = 0;
+    while (rounds < kRounds && QCoreApplication::eventDispatcher()->processEvents({})) {
+        ++rounds;
+    }
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
+    EXPECT_LT(rounds, kRounds) << "the loop goes round and round";
+    Caller again{database()};
+    ASSERT_TRUE(again.say("{\"do\":\"borrow\"}\n"));
+    EXPECT_EQ(again.hear(), "{\"lent\":true}\n");
 }
 
 TEST_F(CommandServerTest, IsAloneAtItsPlaceAndOpenToItsUserOnly)

@@ -15,6 +15,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 #include <fstream>
 
 namespace Velvetnook
@@ -147,6 +149,12 @@ TEST(Autostart, WritesAFileThatStartsThisProgramAndTakesItAwayAgain)
     EXPECT_THAT(text, HasSubstr("\n"
                                 R"(TryExec=/opt/a b/50%/$x\\y/velvetnook)"
                                 "\n"));
+    struct stat first{};
+    struct stat again{};
+    ASSERT_EQ(stat(autostart.file().c_str(), &first), 0);
+    ASSERT_TRUE(autostart.set(true));
+    ASSERT_EQ(stat(autostart.file().c_str(), &again), 0);
+    EXPECT_EQ(first.st_ino, again.st_ino) << "each start writes it anew";
     ASSERT_TRUE(autostart.set(false));
     EXPECT_FALSE(std::filesystem::exists(autostart.file()));
     EXPECT_TRUE(autostart.set(false)) << "there is nothing left to take away";

@@ -39,10 +39,17 @@ protected:
         }));
     }
 
-    void start()
+    void start(std::vector<std::string> arguments = {})
     {
-        m_program = Child{{VELVETNOOK_PROGRAM}};
+        arguments.insert(arguments.begin(), VELVETNOOK_PROGRAM);
+        m_program = Child{arguments};
         ASSERT_TRUE(XDesktop::waitFor([&] { return isStrip(); })) << "no strip was shown";
+    }
+
+    // Whether a window with this title is in sight.
+    static bool isInSight(const std::string &title)
+    {
+        return XDesktop::run({"xdotool", "search", "--onlyvisible", "--name", title}) == 0;
     }
 
     bool isStrip() const
@@ -201,6 +208,37 @@ int wakeUps(pid_t program)
         }
     }
     return sum;
+}
+
+// Something that is dragged out of the panel must not close it on the way.
+TEST_F(NotchWindowTest, StaysOpenWhileAButtonIsHeldOutsideOfIt)
+{
+    start();
+    enter();
+    ASSERT_TRUE(XDesktop::waitFor([&] { return isOpen(); }));
+    movePointer(640, 200);
+    XDesktop::run({"xdotool", "mousedown", "1"});
+    leave();
+    EXPECT_FALSE(XDesktop::waitFor([&] { return isStrip(); }, 1500ms)) << "closed in a drag";
+    XDesktop::run({"xdotool", "mouseup", "1"});
+}
+
+TEST_F(NotchWindowTest, AQuietStartOpensNothingAndAnOrdinaryOneTheFirstSteps)
+{
+    for (const bool isQuiet : {true, false}) {
+        {
+            auto store = KestCore::StateStore::open(m_data.database()).value();
+            ASSERT_TRUE(store.change([](KestCore::NativeState &state) -> Base::Result<void> {
+                state.devotional.onboardingComplete = false;
+                return {};
+            }));
+        }
+        start(isQuiet ? std::vector<std::string>{"--background"} : std::vector<std::string>{});
+        EXPECT_EQ(XDesktop::waitFor([] { return isInSight("Welcome to Velvetnook"); },
+                                    isQuiet ? 3000ms : 20'000ms),
+                  !isQuiet);
+        m_program = {};
+    }
 }
 
 TEST_F(NotchWindowTest, AtRestItSleeps)

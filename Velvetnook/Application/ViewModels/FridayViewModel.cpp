@@ -24,7 +24,7 @@ FridayViewModel::FridayViewModel(ApplicationModel &model, const Formatting &form
                                  QObject *parent)
     : QObject{parent}, m_model{model}, m_formatting{formatting}
 {
-    connect(&m_model, &ApplicationModel::stateChanged, this, &FridayViewModel::changed);
+    connect(&m_model, &ApplicationModel::choicesChanged, this, &FridayViewModel::changed);
     connect(&m_model, &ApplicationModel::calendarChanged, this, &FridayViewModel::changed);
 }
 

@@ -41,7 +41,7 @@ NamesViewModel::NamesViewModel(ApplicationModel &model, const Formatting &format
       m_current{&nameOf(KestCore::nameOfTheDay(model.now(), model.calendar()))},
       m_wording{wordingOf(formatting)}
 {
-    connect(&m_model, &ApplicationModel::stateChanged, this, &NamesViewModel::follow);
+    connect(&m_model, &ApplicationModel::choicesChanged, this, &NamesViewModel::follow);
     connect(&m_model, &ApplicationModel::calendarChanged, this,
             &NamesViewModel::currentChanged);
     showList();

@@ -278,10 +278,10 @@ bool PaletteViewModel::back()
     return hadQuery;
 }
 
-void PaletteViewModel::setHotkey(const QString &text, const QString &state)
+void PaletteViewModel::setHotkey(const QString &text, HotkeyState state)
 {
     m_hotkeyText = text;
-    m_hotkeyState = state;
+    m_hotkey = std::move(state);
     emit hotkeyChanged();
 }
 

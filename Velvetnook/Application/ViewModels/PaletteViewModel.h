@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Velvetnook/Application/HotkeyState.h"
+
 #include <QAbstractItemModel>
 #include <QObject>
 #include <QString>
@@ -41,9 +43,11 @@ class PaletteViewModel : public QObject
     Q_PROPERTY(QVariantList keys READ keys NOTIFY rowsChanged) // [{key, text}]
     // What the rows are the actions of; empty while they are what was found.
     Q_PROPERTY(QString subject READ subject NOTIFY rowsChanged)
-    // "Ctrl+Shift+Space", and "full" or "degraded: " and why.
+    // "Ctrl+Shift+Space"; empty while there is none.
     Q_PROPERTY(QString hotkeyText READ hotkeyText NOTIFY hotkeyChanged)
-    Q_PROPERTY(QString hotkeyState READ hotkeyState NOTIFY hotkeyChanged)
+    // Whether it works in every window; `hotkeyProblem` says why it does not.
+    Q_PROPERTY(bool isHotkeyFull READ isHotkeyFull NOTIFY hotkeyChanged)
+    Q_PROPERTY(QString hotkeyProblem READ hotkeyProblem NOTIFY hotkeyChanged)
 
 public:
     PaletteViewModel(App &app, ApplicationModel &model, const Formatting &formatting);
@@ -62,12 +66,14 @@ public:
     QVariantList keys() const;
     QString subject() const { return m_subject; }
     QString hotkeyText() const { return m_hotkeyText; }
-    QString hotkeyState() const { return m_hotkeyState; }
+    bool isHotkeyFull() const { return m_hotkey.level == HotkeyState::Level::full; }
+    QString hotkeyProblem() const { return m_hotkey.reason; }
+    const HotkeyState &hotkey() const { return m_hotkey; }
 
     void setQuery(const QString &query);
     void setCurrent(int row);
     // What the desktop has made of the key.
-    void setHotkey(const QString &text, const QString &state);
+    void setHotkey(const QString &text, HotkeyState state);
 
     // Takes in what has changed since the last time. Call it when the palette is about to be
     // shown; it is then at its beginning.
@@ -116,7 +122,7 @@ private:
     std::unique_ptr<PaletteOffer> m_subjectOffer;
     int m_subjectRow = 0;
     QString m_hotkeyText;
-    QString m_hotkeyState;
+    HotkeyState m_hotkey;
 };
 
 } // namespace Velvetnook

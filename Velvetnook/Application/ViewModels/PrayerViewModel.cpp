@@ -37,7 +37,7 @@ PrayerViewModel::PrayerViewModel(ApplicationModel &model, const Formatting &form
     const auto follow = [this] { refresh(); };
     connect(&m_watch, &PrayerWatch::timeCame, this, follow);
     connect(&m_watch, &PrayerWatch::inputsChanged, this, follow);
-    connect(&model, &ApplicationModel::stateChanged, this, follow);
+    connect(&model, &ApplicationModel::choicesChanged, this, follow);
     connect(&model, &ApplicationModel::recordsChanged, this, follow);
     connect(&model, &ApplicationModel::companionChanged, this, &PrayerViewModel::focusChanged);
     connect(&model, &ApplicationModel::calendarChanged, this, follow);

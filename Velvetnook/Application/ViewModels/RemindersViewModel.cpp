@@ -46,7 +46,7 @@ RemindersViewModel::RemindersViewModel(ApplicationModel &model, const Formatting
                                        Alarms &alarms, QObject *parent)
     : QObject{parent}, m_model{model}, m_formatting{formatting}, m_alarms{alarms}
 {
-    connect(&model, &ApplicationModel::stateChanged, this, &RemindersViewModel::changed);
+    connect(&model, &ApplicationModel::choicesChanged, this, &RemindersViewModel::changed);
     connect(&model, &ApplicationModel::calendarChanged, this, &RemindersViewModel::changed);
     connect(&alarms, &Alarms::nextReminderChanged, this, &RemindersViewModel::changed);
     connect(&alarms, &Alarms::previewReported, this, &RemindersViewModel::changed);

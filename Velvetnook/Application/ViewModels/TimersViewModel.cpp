@@ -66,7 +66,7 @@ TimersViewModel::TimersViewModel(ApplicationModel &model, const Formatting &form
 {
     follow();
     connect(&model, &ApplicationModel::recordsChanged, this, &TimersViewModel::follow);
-    connect(&model, &ApplicationModel::stateChanged, this, &TimersViewModel::refresh);
+    connect(&model, &ApplicationModel::choicesChanged, this, &TimersViewModel::refresh);
     connect(&model, &ApplicationModel::calendarChanged, this, &TimersViewModel::refresh);
     // Counted from what is shown: a tick that was overtaken by another event still comes.
     model.clock().add(

@@ -9,6 +9,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QVariantMap>
 
 #include <algorithm>
@@ -81,7 +82,7 @@ UnitsViewModel::UnitsViewModel(ApplicationModel &model, const Formatting &format
 {
     read();
     m_shownCategory = effective().category;
-    connect(&model, &ApplicationModel::stateChanged, this, &UnitsViewModel::follow);
+    connect(&model, &ApplicationModel::choicesChanged, this, &UnitsViewModel::follow);
 }
 
 // What stands in the field and is not kept yet is not overwritten.
@@ -320,12 +321,19 @@ void UnitsViewModel::write()
         return;
     }
     m_isChanged = false;
-    m_model.changeState([conversion = *conversion,
-                         recent = *recent](KestCore::NativeState &state) -> Result<void> {
-        state.settings[kConversionKey] = conversion;
-        state.settings[kRecentKey] = recent;
-        return {};
-    });
+    m_model.changeState(
+        [conversion = *conversion,
+         recent = *recent](KestCore::NativeState &state) -> Result<void> {
+            state.settings[kConversionKey] = conversion;
+            state.settings[kRecentKey] = recent;
+            return {};
+        },
+        [self = QPointer{this}](const Result<void> &result) {
+            if (!result && self != nullptr) {
+                self->m_isChanged = true; // it stands in the field, and is tried again
+                emit self->m_model.failed(QString::fromStdString(result.error().message));
+            }
+        });
 }
 
 } // namespace Velvetnook

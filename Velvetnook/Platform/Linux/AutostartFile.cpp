@@ -13,6 +13,8 @@ namespace Velvetnook
 namespace
 {
 
+constexpr std::size_t kLongest = 64 * 1024;
+
 // A text in a desktop file: a backslash is doubled.
 std::string asValue(const std::string &text)
 {
@@ -64,7 +66,7 @@ std::filesystem::path AutostartFile::userFolder()
 
 Autostart::Standing AutostartFile::standing() const
 {
-    const auto text = Base::readFile(m_file, 64 * 1024);
+    const auto text = Base::readFile(m_file, kLongest);
     if (!text) {
         return Standing::off;
     }
@@ -86,9 +88,13 @@ Base::Result<void> AutostartFile::set(bool isOn)
         return error ? Base::Result<void>{std::unexpected(Base::fileError(m_file, error))}
                      : Base::Result<void>{};
     }
+    const std::string wanted = text();
+    if (const auto present = Base::readFile(m_file, kLongest); present && *present == wanted) {
+        return {}; // writing it anew, at each start, would wait for the disk
+    }
     KEST_CHECK(Base::makePrivateDirectory(m_file.parent_path()));
     KEST_TRY(Base::ReplacingFile written, Base::ReplacingFile::create(m_file));
-    KEST_CHECK(written.write(text()));
+    KEST_CHECK(written.write(wanted));
     return written.commit();
 }
 

@@ -12,7 +12,8 @@ namespace Velvetnook
 {
 
 // Plays through the sound server on a thread of its own, which comes into being with the first
-// sound, and so does the library below it.
+// sound, and so does the library below it. Its end waits for the sound that is being played,
+// and with a server that has stopped answering for the few seconds after which it is given up.
 class PulseSounds : public Sounds
 {
     Q_OBJECT

@@ -16,6 +16,8 @@ Rectangle {
     implicitHeight: words.implicitHeight + 44
     color: "#0B0D0C"
     focus: true
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     Keys.onEscapePressed: closeWanted()
     Keys.onReturnPressed: closeWanted()
     Keys.onEnterPressed: closeWanted()

@@ -16,7 +16,7 @@ Item {
     required property string wayOut
 
     readonly property color tone: level === "full" ? Theme.color.accent
-                                : level === "degraded" ? Theme.color.warn : Theme.color.danger
+                                : level === "off" ? Theme.color.danger : Theme.color.warn
 
     implicitWidth: parent ? parent.width : 480
     implicitHeight: Math.max(50, words.implicitHeight + 20)
@@ -31,7 +31,7 @@ Item {
         anchors.left: parent.left
         anchors.leftMargin: 16
         y: 12
-        name: root.level === "full" ? "check" : root.level === "degraded" ? "alert" : "x"
+        name: root.level === "full" ? "check" : root.level === "off" ? "x" : "alert"
         size: 16
         color: root.tone
     }

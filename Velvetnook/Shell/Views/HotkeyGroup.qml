@@ -9,14 +9,12 @@ SettingsGroup {
     id: root
 
     readonly property string key: App.palette.hotkeyText
-    // "full", or how far it works and why.
-    readonly property string hotkeyState: App.palette.hotkeyState
-    readonly property bool isFull: hotkeyState === "full"
+    readonly property bool isFull: App.palette.isHotkeyFull
 
     SettingsRow {
         title: qsTr("Open the palette from anywhere")
         note: root.isFull ? qsTr("It works over every application.")
-                          : root.hotkeyState.replace(/^[^:]+: /, "")
+                          : App.palette.hotkeyProblem
         noteColor: root.isFull ? Theme.color.text3 : Theme.color.warn
         Row {
             anchors.verticalCenter: parent.verticalCenter

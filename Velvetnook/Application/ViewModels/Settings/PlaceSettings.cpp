@@ -75,7 +75,7 @@ PlaceSettings::PlaceSettings(ApplicationModel &model, const Formatting &formatti
                Field{.name = "country", .key = "prayer.country"}}
 {
     readFields();
-    connect(&model, &ApplicationModel::stateChanged, this, &PlaceSettings::readFields);
+    connect(&model, &ApplicationModel::choicesChanged, this, &PlaceSettings::readFields);
 }
 
 bool PlaceSettings::isSet() const

@@ -15,7 +15,7 @@ SettingsPage::SettingsPage(ApplicationModel &model, const Formatting &formatting
     : QObject{parent}, m_model{model}, m_formatting{formatting}
 {
     m_words = words();
-    connect(&model, &ApplicationModel::stateChanged, this, &SettingsPage::follow);
+    connect(&model, &ApplicationModel::choicesChanged, this, &SettingsPage::follow);
 }
 
 // What the words depend on.

@@ -6,7 +6,6 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
-
 #include <algorithm>
 #include <array>
 
@@ -59,7 +58,7 @@ ToolSettings::ToolSettings(ApplicationModel &model, QObject *parent)
     : QAbstractListModel{parent}, m_model{model}
 {
     follow();
-    connect(&model, &ApplicationModel::stateChanged, this, &ToolSettings::follow);
+    connect(&model, &ApplicationModel::choicesChanged, this, &ToolSettings::follow);
 }
 
 void ToolSettings::follow()

@@ -1,2 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The Velvetnook developers
-// SPDX-License-Identifier: MIT
