@@ -6,6 +6,7 @@
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CommandServer.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Languages.h"
 #include "Velvetnook/Notch/NotchDriver.h"
 #include "Velvetnook/Notch/NotchWindow.h"
@@ -214,12 +215,12 @@ QString Running::begin(BusActivation &activation, bool isQuiet)
 
 void Running::followWishes()
 {
-    QObject::connect(m_app.panel(), &PanelViewModel::settingsWanted, m_app.settings(), [this] {
+    QObject::connect(m_app.panel(), &PanelViewModel::settingsWanted, m_app.settings(),
+                     [this] { m_app.settings()->open(); });
+    QObject::connect(m_app.settings(), &SettingsViewModel::openWanted, qGuiApp, [this] {
         emit m_app.panel()->closeWanted(); // it would lie over them
-        m_app.settings()->open();
+        openSettings();
     });
-    QObject::connect(m_app.settings(), &SettingsViewModel::openWanted, qGuiApp,
-                     [this] { openSettings(); });
     QObject::connect(m_app.onboarding(), &OnboardingViewModel::openWanted, qGuiApp,
                      [this] { openOnboarding(); });
     QObject::connect(&m_app.alarms(), &Alarms::emphasisWanted, m_app.strip(),
@@ -295,7 +296,7 @@ void Running::listen()
                          }
                      });
     if (const auto listening = m_commands.listen(); !listening) {
-        m_model.say(QString::fromStdString(listening.error().message));
+        m_model.say(engineText(listening.error().message));
     }
 }
 

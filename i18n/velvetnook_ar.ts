@@ -202,6 +202,180 @@
     </message>
 </context>
 <context>
+    <name>Engine</name>
+    <message>
+        <source>Allow location access to calculate prayer times for where you are.</source>
+        <translation>اسمح بالوصول إلى الموقع لحساب مواقيت الصلاة حيث أنت.</translation>
+    </message>
+    <message>
+        <source>The next prayer is too close for this buffer. Try an ordinary timer or reduce the buffer.</source>
+        <translation>الصلاة القادمة أقرب من هذه المهلة. جرّب مؤقّتًا عاديًا أو قلّل المهلة.</translation>
+    </message>
+    <message>
+        <source>This item was removed.</source>
+        <translation>أُزيل هذا العنصر.</translation>
+    </message>
+    <message>
+        <source>Total timer duration cannot exceed 365 days.</source>
+        <translation>لا تتجاوز مدة المؤقّت كلها ٣٦٥ يومًا.</translation>
+    </message>
+    <message>
+        <source>A title is one line of at most 200 characters</source>
+        <translation>العنوان سطر واحد من ٢٠٠ حرف على الأكثر</translation>
+    </message>
+    <message>
+        <source>Choose a city or use your location.</source>
+        <translation>اختر مدينة أو استعمل موقعك.</translation>
+    </message>
+    <message>
+        <source>The header has room for eight. Take one out first.</source>
+        <translation>تتسع الترويسة لثمانية. أخرج واحدة أولًا.</translation>
+    </message>
+    <message>
+        <source>Choose between 1 minute and 365 days.</source>
+        <translation>اختر بين دقيقة واحدة و٣٦٥ يومًا.</translation>
+    </message>
+    <message>
+        <source>Target must be between 1 and 1,000,000</source>
+        <translation>يجب أن يكون الهدف بين ١ و١٬٠٠٠٬٠٠٠</translation>
+    </message>
+    <message>
+        <source>Confirm before resetting a nonempty session</source>
+        <translation>أكّد قبل تصفير جلسة غير فارغة</translation>
+    </message>
+    <message>
+        <source>Nothing was removed in the last 30 seconds</source>
+        <translation>لم يُحذف شيء في آخر ٣٠ ثانية</translation>
+    </message>
+    <message>
+        <source>A note needs a title or a text</source>
+        <translation>تحتاج الملاحظة إلى عنوان أو نص</translation>
+    </message>
+    <message>
+        <source>Invalid timer</source>
+        <translation>مؤقّت غير صالح</translation>
+    </message>
+    <message>
+        <source>A stopwatch has no length.</source>
+        <translation>ساعة الإيقاف لا مدة لها.</translation>
+    </message>
+    <message>
+        <source>Prayer times are known for dates from 1900 to 2200</source>
+        <translation>تُعرف أوقات الصلاة للتواريخ من ١٩٠٠ إلى ٢٢٠٠</translation>
+    </message>
+    <message>
+        <source>The buffer must be between 0 and 120 minutes</source>
+        <translation>يجب أن تكون المهلة بين ٠ و١٢٠ دقيقة</translation>
+    </message>
+    <message>
+        <source>Write a number and two units, such as 5 km to mi</source>
+        <translation>اكتب عددًا ووحدتين، مثل 5 km to mi</translation>
+    </message>
+    <message>
+        <source>Choose compatible units and a finite number</source>
+        <translation>اختر وحدات متوافقة وعددًا محدودًا</translation>
+    </message>
+    <message>
+        <source>Invalid backup</source>
+        <translation>نسخة احتياطية غير صالحة</translation>
+    </message>
+    <message>
+        <source>Backup exceeds 50 MB</source>
+        <translation>تتجاوز النسخة الاحتياطية ٥٠ ميغابايت</translation>
+    </message>
+    <message>
+        <source>Invalid native settings</source>
+        <translation>إعدادات غير صالحة</translation>
+    </message>
+    <message>
+        <source>database or disk is full</source>
+        <translation>القرص ممتلئ</translation>
+    </message>
+    <message>
+        <source>disk I/O error</source>
+        <translation>خطأ في القراءة من القرص أو الكتابة عليه</translation>
+    </message>
+    <message>
+        <source>database is locked</source>
+        <translation>قاعدة البيانات مقفلة</translation>
+    </message>
+    <message>
+        <source>attempt to write a readonly database</source>
+        <translation>قاعدة البيانات للقراءة فقط</translation>
+    </message>
+    <message>
+        <source>A little remembrance</source>
+        <translation>شيء من الذِّكر</translation>
+    </message>
+    <message>
+        <source>Velvetnook — Preview</source>
+        <translation>Velvetnook — معاينة</translation>
+    </message>
+    <message>
+        <source>A quiet moment for remembrance.</source>
+        <translation>لحظة هادئة للذِّكر.</translation>
+    </message>
+    <message>
+        <source>Velvetnook timer</source>
+        <translation>مؤقّت Velvetnook</translation>
+    </message>
+    <message>
+        <source>A note</source>
+        <translation>الملاحظة</translation>
+    </message>
+    <message>
+        <source>The scratchpad</source>
+        <translation>المسوّدة</translation>
+    </message>
+    <message>
+        <source>There is no unit “%1”; the nearest: %2</source>
+        <translation>لا توجد وحدة «%1»؛ أقربها: %2</translation>
+    </message>
+    <message>
+        <source>There is no unit “%1”; there are: %2</source>
+        <translation>لا توجد وحدة «%1»؛ الموجود: %2</translation>
+    </message>
+    <message>
+        <source>There is no time zone “%1”</source>
+        <translation>لا توجد منطقة زمنية «%1»</translation>
+    </message>
+    <message>
+        <source>%1 holds at most 1,000,000 bytes</source>
+        <translation>%1: بحد أقصى ١٬٠٠٠٬٠٠٠ بايت</translation>
+    </message>
+    <message>
+        <source>%1 finished.</source>
+        <translation>انتهى: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EventGroup</name>
+    <message>
+        <source>When it happens</source>
+        <translation>عند وقوعه</translation>
+    </message>
+    <message>
+        <source>When a timer ends</source>
+        <translation>عند انتهاء مؤقّت</translation>
+    </message>
+    <message>
+        <source>A notification, also while the panel is closed.</source>
+        <translation>إشعار، حتى واللوحة مغلقة.</translation>
+    </message>
+    <message>
+        <source>Friday invitation</source>
+        <translation>دعوة الجمعة</translation>
+    </message>
+    <message>
+        <source>Once each Friday, to send blessings upon the Prophet.</source>
+        <translation>مرة كل جمعة، للصلاة على النبي ﷺ.</translation>
+    </message>
+    <message>
+        <source>On Fridays at</source>
+        <translation>أيام الجمعة عند</translation>
+    </message>
+</context>
+<context>
     <name>ExclusionGroup</name>
     <message>
         <source>Keeping away</source>
@@ -1597,6 +1771,22 @@
         <source>Screen</source>
         <translation>الشاشة</translation>
     </message>
+    <message>
+        <source>A new favourite every</source>
+        <translation>ذِكر مفضّل جديد كل</translation>
+    </message>
+    <message>
+        <source>1 to 1440 minutes</source>
+        <translation>من ١ إلى ١٤٤٠ دقيقة</translation>
+    </message>
+    <message>
+        <source>Minutes between favourites</source>
+        <translation>الدقائق بين المفضّلات</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>دقيقة</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPrayer</name>
@@ -2887,10 +3077,6 @@
         <source>Not shown by itself on Fridays</source>
         <translation>لا تظهر من نفسها أيام الجمعة</translation>
     </message>
-    <message>
-        <source>Choose a city or use your location.</source>
-        <translation>اختر مدينة أو استعمل موقعك.</translation>
-    </message>
 </context>
 <context>
     <name>Velvetnook::GeneralSettings</name>
@@ -3304,6 +3490,10 @@
         <source>All tools</source>
         <translation>كل الأدوات</translation>
     </message>
+    <message>
+        <source>%1 is turned off. The settings turn it on again.</source>
+        <translation>%1: متوقف. يمكن تشغيله من الإعدادات.</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::PlaceSettings</name>
@@ -3478,10 +3668,6 @@
 <context>
     <name>Velvetnook::PrayerViewModel</name>
     <message>
-        <source>The next prayer is too close for this buffer. Try an ordinary timer or reduce the buffer.</source>
-        <translation>الصلاة القادمة أقرب من هذه المهلة. جرّب مؤقّتًا عاديًا أو قلّل المهلة.</translation>
-    </message>
-    <message>
         <source>Prayer settings changed. Your current deadline is unchanged.</source>
         <translation>تغيّرت إعدادات الصلاة. موعدك الحالي لم يتغيّر.</translation>
     </message>
@@ -3508,10 +3694,6 @@
     <message>
         <source>%1 min</source>
         <translation>%1 د</translation>
-    </message>
-    <message>
-        <source>Allow location access to calculate prayer times for where you are.</source>
-        <translation>اسمح بالوصول إلى الموقع لحساب مواقيت الصلاة حيث أنت.</translation>
     </message>
     <message>
         <source>There are no times to calculate for this date here: the Sun does not rise or set as usual, or the place skipped the date. Follow your local authority.</source>
@@ -3760,6 +3942,10 @@
         <source>Break</source>
         <translation>استراحة</translation>
     </message>
+    <message>
+        <source>%1 finished.</source>
+        <translation>انتهى: %1</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::TimersViewModel</name>
@@ -3852,18 +4038,6 @@
         <translation>ماء</translation>
     </message>
     <message>
-        <source>This item was removed.</source>
-        <translation>أُزيل هذا العنصر.</translation>
-    </message>
-    <message>
-        <source>Total timer duration cannot exceed 365 days.</source>
-        <translation>لا تتجاوز مدة المؤقّت كلها ٣٦٥ يومًا.</translation>
-    </message>
-    <message>
-        <source>A title is one line of at most 200 characters</source>
-        <translation>العنوان سطر واحد من ٢٠٠ حرف على الأكثر</translation>
-    </message>
-    <message>
         <source>Break</source>
         <translation>استراحة</translation>
     </message>
@@ -3875,10 +4049,6 @@
 <context>
     <name>Velvetnook::ToolSettings</name>
     <message>
-        <source>The header has room for eight. Take one out first.</source>
-        <translation>تتسع الترويسة لثمانية. أخرج واحدة أولًا.</translation>
-    </message>
-    <message>
         <source>Starred tools have a tab in the panel’s header, up to eight.</source>
         <translation>للأدوات ذات النجمة لسان في ترويسة اللوحة، حتى ثمانية.</translation>
     </message>
@@ -3887,7 +4057,7 @@
     <name>Velvetnook::UnitsViewModel</name>
     <message>
         <source>Length</source>
-        <translation>المدة</translation>
+        <translation>الطول</translation>
     </message>
     <message>
         <source>Mass</source>

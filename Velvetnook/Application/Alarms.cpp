@@ -10,6 +10,7 @@
 #include "Velvetnook/Application/Alarms/TargetNotice.h"
 #include "Velvetnook/Application/Alarms/TimerAlarm.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/ZoneWatch.h"
 
 namespace Velvetnook
@@ -106,8 +107,8 @@ void Alarms::requestPreview()
 {
     const auto preview = KestCore::previewNotification();
     emit notificationWanted({.id = kPreviewId,
-                             .title = QString::fromStdString(preview.title),
-                             .body = QString::fromStdString(preview.body),
+                             .title = engineText(preview.title),
+                             .body = engineText(preview.body),
                              .actions = {},
                              .withSound = wantsSound(m_model.state().devotional.preferences,
                                                      &KestCore::Preferences::reminderSound)});

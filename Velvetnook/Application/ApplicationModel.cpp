@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/ApplicationModel.h"
 
+#include "Velvetnook/Application/EngineText.h"
+
 #include <tuple>
 #include <utility>
 
@@ -123,7 +125,7 @@ void ApplicationModel::finish(Result<Committed> committed, Done done)
     if (done) {
         done(committed ? Result<void>{} : std::unexpected(committed.error()));
     } else if (!committed) {
-        emit failed(QString::fromStdString(committed.error().message));
+        emit failed(engineText(committed.error().message));
     }
 }
 

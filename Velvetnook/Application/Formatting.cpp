@@ -3,6 +3,7 @@
 #include "Velvetnook/Application/Formatting.h"
 
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/LocalDay.h"
 
 #include <QDate>
 
@@ -30,8 +31,18 @@ QLocale numbers(bool areArabic)
 } // namespace
 
 Formatting::Formatting(const ApplicationModel &model, QObject *parent)
-    : QObject{parent}, m_model{model}
+    : QObject{parent}, m_model{model}, m_wording{wordingOf(*this)}
 {
+    connect(&model, &ApplicationModel::stateChanged, this, &Formatting::follow);
+}
+
+void Formatting::follow()
+{
+    if (const QString wording = wordingOf(*this); wording != m_wording) {
+        m_wording = wording;
+        // Once whoever loads the texts of the language has done so.
+        QMetaObject::invokeMethod(this, &Formatting::wordsChanged, Qt::QueuedConnection);
+    }
 }
 
 QString Formatting::language() const

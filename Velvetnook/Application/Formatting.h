@@ -58,8 +58,16 @@ public:
     // The same as one text: "42 min", "3 h 05", and in the last minute "45 s".
     QString remaining(double seconds) const;
 
+signals:
+    // The same day, time or number is put into other words now, and the texts of the language
+    // are loaded. For what C++ words by itself; QML does what it has worded anew.
+    void wordsChanged();
+
 private:
+    void follow();
+
     const ApplicationModel &m_model;
+    QString m_wording;
 };
 
 } // namespace Velvetnook

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/HomeCards.h"
 
+#include "Velvetnook/Application/ToolChoice.h"
+
 #include <algorithm>
 #include <array>
 #include <set>
@@ -98,18 +100,18 @@ private:
 
 } // namespace
 
-std::vector<HomeCard> homeCards(const KestCore::Settings &settings,
+std::vector<HomeCard> homeCards(const KestCore::NativeState &state,
                                 const KestCore::CompanionState &companion)
 {
-    const auto named = settings.find("home.widgets");
+    const auto named = state.settings.find("home.widgets");
     const auto tools =
-        named == settings.end() ? usualCards(companion) : piecesOf(named->second);
+        named == state.settings.end() ? usualCards(companion) : piecesOf(named->second);
     Grid grid;
     std::vector<HomeCard> cards;
     for (const std::string &tool : tools) {
         const auto kind = std::ranges::find(kKinds, tool, &Kind::tool);
         const bool isThere = std::ranges::find(cards, tool, &HomeCard::tool) != cards.end();
-        if (kind != kKinds.end() && !isThere) {
+        if (kind != kKinds.end() && !isThere && isToolOn(state, tool)) {
             cards.push_back(grid.place(tool, kind->columns));
         }
     }

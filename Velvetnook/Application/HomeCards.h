@@ -23,9 +23,9 @@ struct HomeCard {
 
 // The cards in their places. Setting "home.widgets" names them in the user's order, with
 // commas between; else the devotional ones and the timer stand beside the widgets of the
-// chosen workspace. A tool that has no card is left out. Each takes the first place that is
-// wide enough.
-std::vector<HomeCard> homeCards(const KestCore::Settings &settings,
+// chosen workspace. A tool that has no card or is turned off is left out. Each takes the first
+// place that is wide enough.
+std::vector<HomeCard> homeCards(const KestCore::NativeState &state,
                                 const KestCore::CompanionState &companion);
 
 } // namespace Velvetnook

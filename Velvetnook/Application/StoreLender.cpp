@@ -3,6 +3,7 @@
 #include "Velvetnook/Application/StoreLender.h"
 
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 
 #include <algorithm>
 
@@ -78,7 +79,7 @@ void StoreLender::finish(Result<Committed> held)
 {
     if (!held) {
         if (m_pause == kFirstTry) {
-            emit m_model.failed(QString::fromStdString(held.error().message));
+            emit m_model.failed(engineText(held.error().message));
         }
         m_nextTry.start(m_pause);
         m_pause = std::min<std::chrono::milliseconds>(m_pause * 2, kLastTry);

@@ -69,6 +69,15 @@ Result<LocalRecord> recordOf(const PrayerFocusPlan &plan, const std::string &tim
                        .extra = {{kTimerOfPlan, timerId}}};
 }
 
+// The rule of the engine asks for a setting that says so. Whoever begins a timer wants to hear
+// of its end, so here it stays silent only where the user has turned that off. Kept out of the
+// store: what nobody chose is not written as a choice, and kest goes on by its own rule.
+KestCore::NativeState withNotifications(KestCore::NativeState state)
+{
+    state.settings.try_emplace(kTimerNotifications, "true");
+    return state;
+}
+
 void setDeadline(TimerState &timer, Base::Instant deadline, Base::Instant now)
 {
     timer.duration = timer.elapsed + (deadline - timer.started.value_or(now)).count();
@@ -198,7 +207,8 @@ void settleEnds(
     model.perform(
         [posted, now = model.now()](StateStore &store) -> Result<Committed> {
             KEST_TRY(const auto timers, timersIn(store));
-            KEST_TRY(auto settlement, KestCore::settleTimers(timers, store.state(), now));
+            KEST_TRY(auto settlement,
+                     KestCore::settleTimers(timers, withNotifications(store.state()), now));
             if (!settlement.written.empty()) {
                 KEST_CHECK(store.changeRecords(
                     {.written = std::move(settlement.written), .removed = {}}));

@@ -16,6 +16,9 @@
 namespace Velvetnook
 {
 
+// Whether the end of a timer is announced: unless it says "false".
+inline constexpr const char *kTimerNotifications = "timers.notifications";
+
 using TimerChange = std::function<Result<void>(KestCore::TimerState &, Base::Instant now)>;
 
 // The timers of the model's records; none where one does not decode.

@@ -6,6 +6,7 @@
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CounterSteps.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/PrayerWatch.h"
 #include "Velvetnook/Platform/Activation.h"
 #include "Velvetnook/Platform/CapabilityList.h"
@@ -205,8 +206,8 @@ void Desktop::followAutostart()
 void Desktop::carryOutLaunchAtLogin()
 {
     const auto done = m_autostart->set(m_launchAtLogin == "true");
-    m_app.settings()->general()->setLaunchRefusal(
-        done ? QString{} : QString::fromStdString(done.error().message));
+    m_app.settings()->general()->setLaunchRefusal(done ? QString{}
+                                                       : engineText(done.error().message));
 }
 
 void Desktop::followCapabilities()

@@ -77,8 +77,9 @@ TEST(HomeCards, StandWhereTheyHaveRoom)
         const char *widgets; // nullptr: not set
         const char *workspace;
         const char *cards;
+        const char *off = "";
     };
-    for (const auto &[name, widgets, workspace, cards] : {
+    for (const auto &[name, widgets, workspace, cards, off] : {
              Case{"the first workspace", nullptr, "faith",
                   "dhikr@0,0 prayer@0,2 weather@0,3 names@1,0 timers@1,1 stats@1,2 "},
              Case{"no such workspace", nullptr, "none",
@@ -90,15 +91,18 @@ TEST(HomeCards, StandWhereTheyHaveRoom)
              Case{"twice, unknown and empty ones", ",names,,screen-time,names,", "faith",
                   "names@0,0 "},
              Case{"none", "", "faith", ""},
+             Case{"a tool that is off", "prayer,names,timers", "faith",
+                  "prayer@0,0 timers@0,1 ", "names"},
          }) {
         SCOPED_TRACE(name);
-        Settings settings;
+        auto state = KestCore::defaultNativeState();
+        std::erase(state.enabled, off);
         if (widgets != nullptr) {
-            settings["home.widgets"] = widgets;
+            state.settings["home.widgets"] = widgets;
         }
         auto companion = KestCore::defaultCompanionState();
         companion.selectedWorkspaceID = workspace;
-        EXPECT_EQ(drawn(Velvetnook::homeCards(settings, companion)), cards);
+        EXPECT_EQ(drawn(Velvetnook::homeCards(state, companion)), cards);
     }
 }
 

@@ -17,12 +17,10 @@ using KestCore::TimerMode;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-void announceEnds(NativeState &state) { state.settings["timers.notifications"] = "true"; }
-
 class Timers : public AlarmedModel
 {
 public:
-    explicit Timers(const Prepare &prepare = announceEnds)
+    explicit Timers(const Prepare &prepare = {})
         : AlarmedModel{prepare}, view{model(), formatting()}
     {
     }
@@ -69,10 +67,10 @@ TEST(TimerAlarm, AnnouncesEachEndOnceAndMarksIt)
 
 TEST(TimerAlarm, AnnouncesOldEndsNeverThatWereSilentWhenTheyCame)
 {
-    Timers app{[](NativeState &) {}};
+    Timers app{[](NativeState &state) { state.settings["timers.notifications"] = "false"; }};
     app.begin(TimerMode::countdown, 10, "Tea");
     app.live(11);
-    app.change(announceEnds);
+    app.change([](NativeState &state) { state.settings["timers.notifications"] = "true"; });
     app.live(5);
     EXPECT_THAT(app.said(), IsEmpty());
 }

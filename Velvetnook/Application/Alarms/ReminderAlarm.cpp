@@ -5,6 +5,7 @@
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Devotional/Reminders.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/LocalDay.h"
 
 #include <tuple>
@@ -141,7 +142,7 @@ NotificationRequest ReminderAlarm::request() const
     const KestCore::Preferences &preferences = state.devotional.preferences;
     const auto wanted = KestCore::reminderNotification(pinnedPhrase(state), preferences);
     return {.id = QString::fromStdString(wanted.identifier),
-            .title = QString::fromStdString(wanted.title),
+            .title = engineText(wanted.title),
             .body = QString::fromStdString(wanted.body),
             .actions = {{.key = QStringLiteral("count"), .label = tr("Count")},
                         {.key = QStringLiteral("later"), .label = tr("Later")}},

@@ -3,7 +3,10 @@
 #include "Velvetnook/Application/Alarms/TimerAlarm.h"
 
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
+#include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/TimerSteps.h"
+#include "Velvetnook/Application/ToolTitles.h"
 
 #include <algorithm>
 
@@ -89,7 +92,7 @@ void TimerAlarm::finish(const std::vector<KestCore::TimerNotification> &posted,
 {
     m_retryAt = result ? std::nullopt : std::optional{m_model.now() + kRetry};
     if (!result && !m_hasToldFailure) {
-        emit m_model.failed(QString::fromStdString(result.error().message));
+        emit m_model.failed(engineText(result.error().message));
     }
     m_hasToldFailure = !result;
     for (const KestCore::TimerNotification &notification : posted) {
@@ -101,8 +104,8 @@ void TimerAlarm::finish(const std::vector<KestCore::TimerNotification> &posted,
 NotificationRequest TimerAlarm::request(const KestCore::TimerNotification &posted) const
 {
     NotificationRequest wanted{.id = QString::fromStdString(posted.id),
-                               .title = QString::fromStdString(posted.title),
-                               .body = QString::fromStdString(posted.body),
+                               .title = engineText(posted.title),
+                               .body = engineText(posted.body),
                                .actions = {},
                                .withSound =
                                    wantsSound(m_model.state().devotional.preferences,
@@ -110,6 +113,9 @@ NotificationRequest TimerAlarm::request(const KestCore::TimerNotification &poste
     const auto timer = std::ranges::find(
         m_timers, posted.id, [](const Timer &each) { return "timer-" + idOf(each); });
     const bool isKnown = timer != m_timers.end();
+    if (isKnown) {
+        wanted.body = tr("%1 finished.").arg(timerTitle(*timer, Formatting{m_model}));
+    }
     if (isKnown && timer->state.mode == "pomodoro") {
         wanted.actions.push_back({.key = QStringLiteral("break"), .label = tr("Take a break")});
     }

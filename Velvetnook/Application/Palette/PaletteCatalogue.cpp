@@ -15,10 +15,10 @@
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/Palette/PaletteActions.h"
 #include "Velvetnook/Application/Palette/PaletteText.h"
+#include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
 #include <algorithm>
-#include <array>
 #include <unordered_map>
 
 namespace Velvetnook
@@ -28,10 +28,6 @@ namespace
 {
 
 constexpr std::size_t kSearchedText = 400; // characters of a note
-
-// The tools that have a view.
-constexpr std::array kTools{"home",   "dhikr",  "prayer",     "names", "tasbih",
-                            "friday", "timers", "scratchpad", "notes", "units"};
 
 bool isListed(const KestCore::LocalRecord &record)
 {
@@ -57,8 +53,9 @@ std::string keywordsOf(const KestCore::Emoji &emoji)
 
 void PaletteCatalogue::refresh()
 {
-    if (m_language != m_formatting.language()) {
+    if (m_language != m_formatting.language() || m_enabled != m_model.state().enabled) {
         m_language = m_formatting.language();
+        m_enabled = m_model.state().enabled;
         truncate(0);
         addFixed();
         m_fixed = m_things.size();
@@ -108,21 +105,18 @@ void PaletteCatalogue::addFixed()
     addEmoji();
 }
 
-bool PaletteCatalogue::hasView(std::string_view tool)
-{
-    return std::ranges::find(kTools, tool) != kTools.end();
-}
-
 void PaletteCatalogue::addTools()
 {
     for (const auto &tool : KestCore::ToolRegistry::tools()) {
-        if (hasView(tool.id)) {
+        if (hasView(tool.id) && isToolOn(m_model.state(), tool.id)) {
             add({.kind = PaletteKind::tool, .group = PaletteGroup::tools, .id = tool.id},
                 toolTitle(QString::fromStdString(tool.id)), {tool.title}, tool.summary);
         }
     }
-    add({.kind = PaletteKind::tool, .group = PaletteGroup::tools, .id = "history"},
-        paletteTr("History"), {"History"}, "sessions finished counts");
+    if (isToolOn(m_model.state(), "history")) {
+        add({.kind = PaletteKind::tool, .group = PaletteGroup::tools, .id = "history"},
+            paletteTr("History"), {"History"}, "sessions finished counts");
+    }
 }
 
 void PaletteCatalogue::addPages()

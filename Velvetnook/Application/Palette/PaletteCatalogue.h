@@ -39,9 +39,6 @@ public:
     std::vector<PaletteFound> search(const QString &query);
     std::size_t size() const { return m_things.size(); }
 
-    // Whether the panel can show this tool.
-    static bool hasView(std::string_view tool);
-
 private:
     void add(PaletteThing thing, const QString &title, std::vector<std::string> names = {},
              std::string_view keywords = {});
@@ -63,6 +60,7 @@ private:
     KestCore::PaletteIndex m_index;
     std::vector<PaletteThing> m_things;
     QString m_language;
+    std::vector<std::string> m_enabled; // the tools that were on
     std::size_t m_fixed = 0;
     std::size_t m_withRecords = 0;
     std::vector<bool> m_habits;                 // of each thing, where there are any

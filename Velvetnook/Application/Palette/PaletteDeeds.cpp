@@ -17,6 +17,7 @@
 #include "Velvetnook/Application/CounterSteps.h"
 #include "Velvetnook/Application/Palette/PaletteText.h"
 #include "Velvetnook/Application/TimerSteps.h"
+#include "Velvetnook/Application/ToolChoice.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -133,19 +134,14 @@ std::vector<PaletteDeed> PaletteDeeds::ofTool(const std::string &id)
     if (!KestCore::ToolRegistry::knows(id)) {
         return deeds;
     }
-    const auto &favourites = m_model.state().navigationFavorites;
-    const bool isInHeader = std::ranges::find(favourites, id) != favourites.end();
+    const bool isInHeader = isFavourite(m_model.state(), id);
     deeds.push_back(
         {.text = isInHeader ? paletteTr(QT_TRANSLATE_NOOP("Palette", "Remove from the header"))
                             : paletteTr(QT_TRANSLATE_NOOP("Palette", "Add to the header")),
          .iconName = QStringLiteral("star"),
-         .run = [this, id] {
-             m_model.changeState([id](KestCore::NativeState &state) -> Result<void> {
-                 auto &list = state.navigationFavorites;
-                 if (std::erase(list, id) == 0) {
-                     list.push_back(id);
-                 }
-                 return {};
+         .run = [this, id, isInHeader] {
+             m_model.changeState([id, isInHeader](KestCore::NativeState &state) {
+                 return setFavourite(state, id, !isInHeader);
              });
          }});
     return deeds;

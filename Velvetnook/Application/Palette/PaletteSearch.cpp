@@ -8,6 +8,7 @@
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/Palette/PaletteActions.h"
 #include "Velvetnook/Application/TimerSteps.h"
+#include "Velvetnook/Application/ToolChoice.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +24,6 @@ constexpr std::size_t kOfBestGroup = 5;
 constexpr std::size_t kOfGroup = 3;
 constexpr std::size_t kEnough = 9; // of a better fit: then letters in a row are no match
 constexpr std::size_t kMostTimers = 3;
-constexpr std::size_t kMostTabs = 8;
 constexpr std::size_t kMostOpen = 4;
 
 std::size_t numberOf(PaletteGroup group) { return static_cast<std::size_t>(group); }
@@ -111,10 +111,13 @@ void PaletteSearch::offerTabs()
     int tab = 0;
     std::size_t offered = 0;
     for (const std::string &id : m_model.state().navigationFavorites) {
+        if (!hasTab(m_model.state(), id)) {
+            continue;
+        }
         ++tab;
         const bool isAbove = (counts && id == "dhikr") || (hasTimers && id == "timers");
-        if (id == "home" || isAbove || !PaletteCatalogue::hasView(id) ||
-            tab > static_cast<int>(kMostTabs) || offered >= kMostOpen) {
+        if (id == "home" || isAbove || tab > static_cast<int>(kMostFavourites) ||
+            offered >= kMostOpen) {
             continue;
         }
         ++offered;

@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CounterSteps.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/LocalDay.h"
 
@@ -47,6 +48,11 @@ CounterViewModel::CounterViewModel(ApplicationModel &model, const Formatting &fo
     m_shown = shownNow();
     connect(&m_model, &ApplicationModel::stateChanged, this, &CounterViewModel::follow);
     connect(&m_model, &ApplicationModel::calendarChanged, this, &CounterViewModel::follow);
+    connect(&formatting, &Formatting::wordsChanged, this, [this] {
+        follow();
+        emit countChanged(); // its sentence is another one also where its digits are the same
+        emit targetsChanged();
+    });
 }
 
 void CounterViewModel::showPhrase(Shown &shown) const
@@ -207,7 +213,7 @@ void CounterViewModel::step(const KestCore::CountAction &action)
 {
     stepCounter(m_model, action, [this](Result<bool> reached) {
         if (!reached) {
-            emit m_model.failed(QString::fromStdString(reached.error().message));
+            emit m_model.failed(engineText(reached.error().message));
             return;
         }
         if (*reached) {
@@ -229,7 +235,7 @@ void CounterViewModel::finish()
     stepCounter(m_model, KestCore::Finish{}, [this, before](Result<bool> done) {
         const auto &records = m_model.state().devotional.records;
         if (!done) {
-            emit m_model.failed(QString::fromStdString(done.error().message));
+            emit m_model.failed(engineText(done.error().message));
         } else if (records.size() > before) {
             const std::int64_t count = records[records.size() - 1].count;
             m_model.say(tr("%1 kept in the history.").arg(m_formatting.number(count)));
@@ -249,7 +255,7 @@ void CounterViewModel::enterTarget(const QString &text)
     const KestCore::SetTarget action{typedNumber(text)};
     stepCounter(m_model, action, [this](Result<bool> done) {
         if (!done) {
-            showTargetError(QString::fromStdString(done.error().message));
+            showTargetError(engineText(done.error().message));
             return;
         }
         setEnteringTarget(false);

@@ -6,6 +6,7 @@
 #include "KestCore/Prayer/PrayerInputs.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CounterSteps.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/FridayPrompt.h"
 #include "Velvetnook/Application/LocalDay.h"
@@ -68,10 +69,7 @@ QString FridayViewModel::dhuhrNote() const
 {
     const auto inputs = KestCore::prayerInputs(m_model.state().settings);
     if (!inputs) {
-        // What is missing where nothing was set wrongly, in the user's language.
-        return inputs.error().kind == Base::KestError::Kind::unavailable
-                   ? tr("Choose a city or use your location.")
-                   : QString::fromStdString(inputs.error().message);
+        return engineText(inputs.error().message);
     }
     return dhuhr().isEmpty() ? tr("No times on this date here.")
                              : tr("Your mosque may differ.");
@@ -86,11 +84,6 @@ QString FridayViewModel::footer() const
 {
     return m_model.isOn("friday.enabled") ? tr("Shown once each Friday, quietly")
                                           : tr("Not shown by itself on Fridays");
-}
-
-std::optional<Base::Instant> FridayViewModel::dueAt(Base::Instant now) const
-{
-    return fridayDue(now, m_model.state().settings, m_model.calendar());
 }
 
 void FridayViewModel::markShown()

@@ -2,12 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/Instant.h"
-
 #include <QObject>
 #include <QString>
-
-#include <optional>
 
 namespace Velvetnook
 {
@@ -43,8 +39,6 @@ public:
     bool isFriday() const;
     QString footer() const;
 
-    // When the invitation is to be shown, seen from `now`; see fridayDue.
-    std::optional<Base::Instant> dueAt(Base::Instant now) const;
     // It is being shown, or the user wants none today: not again before the next Friday.
     Q_INVOKABLE void markShown();
     // Makes the blessings the phrase that is counted.

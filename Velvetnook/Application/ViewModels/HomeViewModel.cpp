@@ -6,6 +6,7 @@
 #include "KestCore/Prayer/PrayerInputs.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CounterSteps.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/HomeCards.h"
 #include "Velvetnook/Application/LocalDay.h"
@@ -93,7 +94,7 @@ void HomeViewModel::follow()
     followPrayer();
     followTimers();
     QVariantList cards;
-    for (const HomeCard &card : homeCards(m_model.state().settings, m_model.companion())) {
+    for (const HomeCard &card : homeCards(m_model.state(), m_model.companion())) {
         cards.append(QVariantMap{{QStringLiteral("tool"), QString::fromStdString(card.tool)},
                                  {QStringLiteral("row"), card.row},
                                  {QStringLiteral("column"), card.column},
@@ -270,7 +271,7 @@ void HomeViewModel::resumeCounter()
     if (m_model.state().devotional.session.isPaused) {
         stepCounter(m_model, KestCore::TogglePause{}, [this](Result<bool> done) {
             if (!done) {
-                emit m_model.failed(QString::fromStdString(done.error().message));
+                emit m_model.failed(engineText(done.error().message));
             }
         });
     }

@@ -5,6 +5,7 @@
 #include "KestCore/Tools/Notes.h"
 #include "KestCore/Tools/Texts.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/ViewModels/Notes/NoteStorage.h"
 
@@ -44,6 +45,10 @@ NotesViewModel::NotesViewModel(ApplicationModel &model, const Formatting &format
     connect(&m_longest, &QTimer::timeout, this, &NotesViewModel::save);
     connect(&model, &ApplicationModel::recordsChanged, this, &NotesViewModel::follow);
     connect(&model, &ApplicationModel::calendarChanged, this, &NotesViewModel::follow);
+    connect(&formatting, &Formatting::wordsChanged, this, [this] {
+        follow();
+        emit statusChanged(); // also of what is being written
+    });
     connect(qApp, &QCoreApplication::aboutToQuit, this, &NotesViewModel::leave);
     m_list.show(rows());
     m_open = opened(scratchpadIn(m_model.records()));
@@ -248,9 +253,9 @@ void NotesViewModel::saveFinished(const Open &saved, const QString &id,
     const bool isOpen = saved.storeId == m_open.storeId;
     if (!result && isOpen) {
         m_open.isEdited = true;
-        m_open.refusal = QString::fromStdString(result.error().message);
+        m_open.refusal = engineText(result.error().message);
     } else if (!result) {
-        keepRefused(saved, QString::fromStdString(result.error().message));
+        keepRefused(saved, engineText(result.error().message));
     } else if (isOpen) {
         m_open.saved = Base::milliseconds1970(m_model.now());
         m_open.refusal.clear();
@@ -337,7 +342,7 @@ QString NotesViewModel::findings() const
 
 QString NotesViewModel::footer() const
 {
-    const auto count = static_cast<int>(notesIn(m_model.records()).size());
+    const auto count = static_cast<int>(noteCount(m_model.records()));
     return count == 0 ? tr("Notes stay on this computer")
                       : m_formatting.digits(tr("%n note(s) on this computer", nullptr, count));
 }

@@ -26,6 +26,7 @@ OnboardingViewModel::OnboardingViewModel(ApplicationModel &model, const Formatti
     : QObject{parent}, m_model{model}, m_formatting{formatting}
 {
     connect(&model, &ApplicationModel::stateChanged, this, &OnboardingViewModel::changed);
+    connect(&formatting, &Formatting::wordsChanged, this, &OnboardingViewModel::wordsChanged);
 }
 
 bool OnboardingViewModel::isNeeded() const

@@ -21,10 +21,10 @@ class OnboardingViewModel : public QObject
     Q_PROPERTY(int step READ step NOTIFY stepChanged) // 0 to 4
     Q_PROPERTY(int stepCount READ stepCount CONSTANT)
     // [{phrase, arabic, transliteration, translation}]
-    Q_PROPERTY(QVariantList phrases READ phrases CONSTANT)
-    Q_PROPERTY(QString phrase READ phrase NOTIFY changed)  // the chosen one
-    Q_PROPERTY(QVariantList targets READ targets CONSTANT) // [{value, label}]
-    Q_PROPERTY(int target READ target NOTIFY changed)      // 0: open
+    Q_PROPERTY(QVariantList phrases READ phrases NOTIFY wordsChanged)
+    Q_PROPERTY(QString phrase READ phrase NOTIFY changed)             // the chosen one
+    Q_PROPERTY(QVariantList targets READ targets NOTIFY wordsChanged) // [{value, label}]
+    Q_PROPERTY(int target READ target NOTIFY changed)                 // 0: open
 
 public:
     static constexpr int kSteps = 5;
@@ -51,6 +51,7 @@ public:
 signals:
     void changed();
     void stepChanged();
+    void wordsChanged();
     void openWanted();
     void closeWanted();
 

@@ -4,12 +4,13 @@
 
 #include "KestCore/Registry/ToolRegistry.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
 #include <QVariantMap>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace Velvetnook
@@ -18,28 +19,14 @@ namespace Velvetnook
 namespace
 {
 
-constexpr qsizetype kMostTabs = 8;
 constexpr Base::Seconds kMessageTime{5};
 constexpr auto kAllTools = "tools";
-
-struct ToolView {
-    const char *tool;
-    const char *view; // Views/<view>View.qml
-};
-constexpr std::array kViews{
-    ToolView{"home", "Home"},        ToolView{"dhikr", "Counter"},
-    ToolView{"history", "History"},  ToolView{"names", "Names"},
-    ToolView{"tasbih", "Names"},     ToolView{"prayer", "Prayer"},
-    ToolView{"friday", "Friday"},    ToolView{"timers", "Timers"},
-    ToolView{"units", "Units"},      ToolView{"notes", "Notes"},
-    ToolView{"scratchpad", "Notes"},
-};
+const QString kHome = QStringLiteral("home");
 
 QString viewOf(const QString &tool)
 {
-    const auto *const found = std::ranges::find_if(
-        kViews, [&](const ToolView &view) { return tool == QLatin1String{view.tool}; });
-    return found == kViews.end() ? QString{} : QString::fromLatin1(found->view);
+    const std::string_view view = viewOfTool(tool.toStdString());
+    return QString::fromLatin1(view.data(), static_cast<qsizetype>(view.size()));
 }
 
 const KestCore::ToolDescriptor *descriptorOf(const QString &id)
@@ -61,7 +48,8 @@ QVariantMap described(const QString &id)
 
 } // namespace
 
-PanelViewModel::PanelViewModel(ApplicationModel &model, const Formatting &, QObject *parent)
+PanelViewModel::PanelViewModel(ApplicationModel &model, const Formatting &formatting,
+                               QObject *parent)
     : QObject{parent}, m_model{model}, m_tool{QStringLiteral("dhikr")}, m_before{m_tool}
 {
     const auto say = [this](const QString &text) {
@@ -76,6 +64,11 @@ PanelViewModel::PanelViewModel(ApplicationModel &model, const Formatting &, QObj
             m_messageEnd = std::min(*m_messageEnd, m_model.now() + kMessageTime);
         }
     });
+    connect(&formatting, &Formatting::wordsChanged, this, [this] {
+        emit tabsChanged();
+        emit wordsChanged();
+    });
+    leaveTurnedOff();
     model.clock().add(
         this, [this](Base::Instant) { return m_messageEnd; },
         [this](Base::Instant) { dropMessage(); });
@@ -85,8 +78,8 @@ PanelViewModel::PanelViewModel(ApplicationModel &model, const Formatting &, QObj
 void PanelViewModel::followState()
 {
     const KestCore::NativeState &state = m_model.state();
-    QStringList seen{tr("All tools"), isFrosted() ? QStringLiteral("frosted") : QString{}};
-    for (const auto *list : {&state.navigationFavorites, &state.order}) {
+    QStringList seen{isFrosted() ? QStringLiteral("frosted") : QString{}};
+    for (const auto *list : {&state.navigationFavorites, &state.order, &state.enabled}) {
         for (const std::string &id : *list) {
             seen.append(QString::fromStdString(id));
         }
@@ -94,7 +87,22 @@ void PanelViewModel::followState()
     }
     if (seen != m_seen) {
         m_seen = std::move(seen);
+        leaveTurnedOff();
         emit tabsChanged();
+    }
+}
+
+// The view of a tool that has just been turned off does not stay.
+void PanelViewModel::leaveTurnedOff()
+{
+    const auto isOff = [this](const QString &id) {
+        return !isToolOn(m_model.state(), id.toStdString());
+    };
+    if (isOff(m_before)) {
+        m_before = kHome;
+    }
+    if (isOff(m_tool)) {
+        show(kHome);
     }
 }
 
@@ -132,9 +140,9 @@ QStringList PanelViewModel::tabIds() const
 {
     QStringList ids;
     for (const std::string &id : m_model.state().navigationFavorites) {
-        const QString favourite = QString::fromStdString(id);
-        if (ids.size() < kMostTabs && favourite != QLatin1String{"settings"}) {
-            ids.append(favourite);
+        const bool hasRoom = ids.size() < static_cast<qsizetype>(kMostFavourites);
+        if (hasRoom && hasTab(m_model.state(), id)) {
+            ids.append(QString::fromStdString(id));
         }
     }
     if (!ids.contains(chosenTab())) {
@@ -157,7 +165,7 @@ QVariantList PanelViewModel::allTools() const
     QVariantList list;
     for (const std::string &each : m_model.state().order) {
         const QString id = QString::fromStdString(each);
-        if (id == QLatin1String{"settings"}) {
+        if (id == QLatin1String{"settings"} || !isToolOn(m_model.state(), each)) {
             continue;
         }
         QVariantMap tool = described(id);
@@ -171,6 +179,8 @@ void PanelViewModel::openTool(const QString &id)
 {
     if (id == QLatin1String{"settings"}) {
         emit settingsWanted();
+    } else if (!isToolOn(m_model.state(), id.toStdString())) {
+        m_model.say(tr("%1 is turned off. The settings turn it on again.").arg(toolTitle(id)));
     } else if (descriptorOf(id) != nullptr || !viewOf(id).isEmpty()) {
         show(id);
     }
@@ -189,6 +199,7 @@ void PanelViewModel::show(const QString &id)
     m_direction = to >= 0 && to < from ? -1 : 1;
     emit tabsChanged();
     emit toolChanged();
+    emit wordsChanged();
 }
 
 void PanelViewModel::openTab(int index)

@@ -26,21 +26,21 @@ class PanelViewModel : public QObject
     // The id of the tool that is shown; "history" and "tools" are views of their own.
     Q_PROPERTY(QString tool READ tool NOTIFY toolChanged)
     Q_PROPERTY(QString chosenTab READ chosenTab NOTIFY toolChanged)
-    Q_PROPERTY(QString title READ title NOTIFY toolChanged)
+    Q_PROPERTY(QString title READ title NOTIFY wordsChanged)
     Q_PROPERTY(QString icon READ icon NOTIFY toolChanged)
-    Q_PROPERTY(QString summary READ summary NOTIFY toolChanged)
+    Q_PROPERTY(QString summary READ summary NOTIFY wordsChanged)
     Q_PROPERTY(QString viewName READ viewName NOTIFY toolChanged) // empty: not built yet
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY toolChanged)
     // Where the content comes from when the view changes: 1 from the end, -1 from the start.
     Q_PROPERTY(int direction READ direction NOTIFY toolChanged)
     Q_PROPERTY(
         bool isFrosted READ isFrosted NOTIFY tabsChanged) // the ground lets a little through
-    // Maps of id, title and icon; those of allTools also say summary and isBuilt.
+    // Maps of id, title and icon; those of allTools also say isBuilt.
     Q_PROPERTY(QVariantList tabs READ tabs NOTIFY tabsChanged)
     Q_PROPERTY(QVariantList allTools READ allTools NOTIFY tabsChanged)
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
     Q_PROPERTY(QString messageAction READ messageAction NOTIFY messageChanged)
-    // While more than none is open over the panel, or beside it, the panel stays.
+    // How many dialogs are open over the panel, or beside it. While there is one it stays.
     Q_PROPERTY(int dialogDepth READ dialogDepth NOTIFY dialogDepthChanged)
     // Whether the panel can be seen. The window says so.
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
@@ -88,6 +88,7 @@ public:
 signals:
     void toolChanged();
     void tabsChanged();
+    void wordsChanged(); // of what is shown: with another tool or in another language
     void messageChanged();
     void dialogDepthChanged();
     void isOpenChanged();
@@ -100,6 +101,7 @@ signals:
 private:
     QStringList tabIds() const;
     void followState();
+    void leaveTurnedOff();
     void show(const QString &id);
     void dropMessage();
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Prayer/PrayerFocusPlan.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/PrayerTable.h"
 #include "Velvetnook/Application/ViewModels/PrayerViewModel.h"
@@ -21,11 +22,6 @@ namespace chrono = std::chrono;
 using KestCore::LocalDate;
 using KestCore::PrayerCalculator;
 using KestCore::PrayerFocusPlan;
-
-// The engine's refusal, which is shown translated.
-[[maybe_unused]] constexpr const char *kTooClose = QT_TRANSLATE_NOOP(
-    "Velvetnook::PrayerViewModel", "The next prayer is too close for this buffer. Try an "
-                                   "ordinary timer or reduce the buffer.");
 
 LocalDate turned(LocalDate from, bool byMonth, int distance)
 {
@@ -150,7 +146,7 @@ QString PrayerViewModel::focusBody() const
 {
     const auto plan = offeredPlan();
     if (!plan) {
-        return tr(plan.error().message.c_str());
+        return engineText(plan.error().message);
     }
     const auto prayer = Base::fromText<PrayerCore::Prayer>(plan->prayer);
     const QString name = prayer ? prayerName(*prayer) : QString{};
@@ -204,7 +200,7 @@ void PrayerViewModel::acceptFocus()
     }
     const auto done = [this](const Result<void> &result) {
         if (!result) {
-            emit m_model.failed(QString::fromStdString(result.error().message));
+            emit m_model.failed(engineText(result.error().message));
             return;
         }
         setPage(QStringLiteral("day"));

@@ -4,6 +4,7 @@
 
 #include "PrayerCore/Qibla.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/PrayerTable.h"
 
@@ -22,11 +23,6 @@ namespace
 using KestCore::PrayerCalculator;
 using PrayerCore::Prayer;
 
-// The engine's refusal, which is shown translated.
-[[maybe_unused]] constexpr const char *kNoInputs =
-    QT_TRANSLATE_NOOP("Velvetnook::PrayerViewModel",
-                      "Allow location access to calculate prayer times for where you are.");
-
 } // namespace
 
 PrayerViewModel::PrayerViewModel(ApplicationModel &model, const Formatting &formatting,
@@ -41,6 +37,7 @@ PrayerViewModel::PrayerViewModel(ApplicationModel &model, const Formatting &form
     connect(&model, &ApplicationModel::recordsChanged, this, follow);
     connect(&model, &ApplicationModel::companionChanged, this, &PrayerViewModel::focusChanged);
     connect(&model, &ApplicationModel::calendarChanged, this, follow);
+    connect(&formatting, &Formatting::wordsChanged, this, follow);
     // Counted from what is shown: a tick that was overtaken by another event still comes.
     model.clock().add(
         this,
@@ -124,7 +121,7 @@ QString PrayerViewModel::message() const
     }
     return m_watch.hasNoPlace()
                ? tr("Add a location to see your next prayer. You can set it manually.")
-               : tr(inputs.error().message.c_str());
+               : engineText(inputs.error().message);
 }
 
 QString PrayerViewModel::note() const

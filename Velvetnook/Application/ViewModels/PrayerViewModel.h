@@ -51,7 +51,7 @@ class PrayerViewModel : public QObject
         QString page READ page WRITE setPage NOTIFY pageChanged) // day, week, month, focus
     Q_PROPERTY(QString tableTitle READ tableTitle NOTIFY pageChanged)
     Q_PROPERTY(QVariantList tableRows READ tableRows NOTIFY pageChanged)
-    Q_PROPERTY(QStringList names READ names CONSTANT)
+    Q_PROPERTY(QStringList names READ names NOTIFY changed)
     Q_PROPERTY(bool isTodayShown READ isTodayShown NOTIFY pageChanged)
 
     // The way to a period of focus, and the one that runs.

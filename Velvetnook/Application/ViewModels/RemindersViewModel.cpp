@@ -6,9 +6,13 @@
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/FridayPrompt.h"
 #include "Velvetnook/Application/LocalDay.h"
+#include "Velvetnook/Application/TimerSteps.h"
 
 #include <QVariantMap>
+
+#include <fmt/format.h>
 
 #include <algorithm>
 
@@ -29,6 +33,11 @@ QString plainDigits(QString text)
         }
     }
     return text.trimmed();
+}
+
+std::string timeText(int minute)
+{
+    return fmt::format("{:02}:{:02}", minute / 60, minute % 60);
 }
 
 void choose(std::vector<std::int64_t> &weekdays, int weekday, bool isChosen)
@@ -69,10 +78,6 @@ QString RemindersViewModel::intervalDigits() const
 {
     return m_formatting.digits(QString::number(interval()));
 }
-QString RemindersViewModel::intervalText() const
-{
-    return m_formatting.digits(tr("%n minute(s)", nullptr, interval()));
-}
 QString RemindersViewModel::activeStart() const
 {
     return m_formatting.digits(QString::fromStdString(preferences().activeHoursStart));
@@ -81,27 +86,19 @@ QString RemindersViewModel::activeEnd() const
 {
     return m_formatting.digits(QString::fromStdString(preferences().activeHoursEnd));
 }
-QList<int> RemindersViewModel::weekdays() const
-{
-    QList<int> chosen;
-    for (const std::int64_t weekday : preferences().weekdays) {
-        chosen.append(static_cast<int>(weekday));
-    }
-    return chosen;
-}
-
 QVariantList RemindersViewModel::days() const
 {
     const QLocale locale = m_formatting.locale();
-    const QList<int> chosen = weekdays();
+    const auto &chosen = preferences().weekdays;
     QVariantList days;
     for (int weekday = 0; weekday < 7; ++weekday) {
         const int isoDay = weekday == 0 ? 7 : weekday;
         const QString letter = locale.standaloneDayName(isoDay, QLocale::NarrowFormat);
-        days.append(QVariantMap{{QStringLiteral("value"), weekday},
-                                {QStringLiteral("letter"), letter},
-                                {QStringLiteral("name"), locale.standaloneDayName(isoDay)},
-                                {QStringLiteral("chosen"), chosen.contains(weekday)}});
+        days.append(QVariantMap{
+            {QStringLiteral("value"), weekday},
+            {QStringLiteral("letter"), letter},
+            {QStringLiteral("name"), locale.standaloneDayName(isoDay)},
+            {QStringLiteral("chosen"), std::ranges::find(chosen, weekday) != chosen.end()}});
     }
     return days;
 }
@@ -110,17 +107,23 @@ QString RemindersViewModel::pinnedReminder() const
 {
     return QString::fromStdString(preferences().pinnedReminder);
 }
-QString RemindersViewModel::pinMode() const
+QString RemindersViewModel::rotationDigits() const
 {
-    return QString::fromStdString(preferences().pinMode);
-}
-int RemindersViewModel::rotationMinutes() const
-{
-    return static_cast<int>(preferences().rotationMinutes);
+    return m_formatting.digits(QString::number(preferences().rotationMinutes));
 }
 bool RemindersViewModel::reminderSound() const { return preferences().reminderSound; }
 bool RemindersViewModel::soundEnabled() const { return preferences().soundEnabled; }
-bool RemindersViewModel::completionSound() const { return preferences().completionSound; }
+bool RemindersViewModel::timersAreAnnounced() const
+{
+    return m_model.setting(kTimerNotifications) != "false";
+}
+bool RemindersViewModel::fridayEnabled() const { return m_model.isOn("friday.enabled"); }
+QString RemindersViewModel::fridayTime() const
+{
+    const int minute =
+        KestCore::minuteOfDay(m_model.setting("friday.time")).value_or(kFridayMinute);
+    return m_formatting.digits(QString::fromStdString(timeText(minute)));
+}
 
 QString RemindersViewModel::nextText() const
 {
@@ -194,19 +197,13 @@ QString RemindersViewModel::setMinutes(const QString &text,
     return {};
 }
 
-QString
-RemindersViewModel::setHours(const QString &text,
-                             std::function<void(KestCore::Preferences &, std::string)> set)
+QString RemindersViewModel::setHours(const QString &text, std::function<void(std::string)> set)
 {
     const auto minute = KestCore::minuteOfDay(plainDigits(text).toStdString());
     if (!minute) {
         return m_formatting.digits(tr("Write a time such as 09:00."));
     }
-    const QString written = QStringLiteral("%1:%2")
-                                .arg(*minute / 60, 2, 10, QLatin1Char{'0'})
-                                .arg(*minute % 60, 2, 10, QLatin1Char{'0'});
-    change([set = std::move(set), time = written.toStdString()](
-               KestCore::DevotionalState &state) { set(state.preferences, time); });
+    set(timeText(*minute));
     return {};
 }
 
@@ -224,15 +221,19 @@ QString RemindersViewModel::setInterval(const QString &minutes)
 
 QString RemindersViewModel::setActiveStart(const QString &time)
 {
-    return setHours(time, [](auto &preferences, std::string value) {
-        preferences.activeHoursStart = std::move(value);
+    return setHours(time, [this](std::string written) {
+        change([written = std::move(written)](auto &state) {
+            state.preferences.activeHoursStart = written;
+        });
     });
 }
 
 QString RemindersViewModel::setActiveEnd(const QString &time)
 {
-    return setHours(time, [](auto &preferences, std::string value) {
-        preferences.activeHoursEnd = std::move(value);
+    return setHours(time, [this](std::string written) {
+        change([written = std::move(written)](auto &state) {
+            state.preferences.activeHoursEnd = written;
+        });
     });
 }
 
@@ -257,15 +258,6 @@ QString RemindersViewModel::setPinnedReminder(const QString &value)
     return {};
 }
 
-QString RemindersViewModel::setPinMode(const QString &value)
-{
-    if (value != u"single" && value != u"favourites" && value != u"daily") {
-        return tr("There is no such choice.");
-    }
-    change([text = value.toStdString()](auto &state) { state.preferences.pinMode = text; });
-    return {};
-}
-
 QString RemindersViewModel::setRotationMinutes(const QString &minutes)
 {
     return setMinutes(
@@ -284,10 +276,21 @@ QString RemindersViewModel::setSoundEnabled(bool isOn)
     return {};
 }
 
-QString RemindersViewModel::setCompletionSound(bool isOn)
+void RemindersViewModel::setTimersAreAnnounced(bool isOn)
 {
-    change([isOn](auto &state) { state.preferences.completionSound = isOn; });
-    return {};
+    m_model.changeSetting(kTimerNotifications, isOn ? "true" : "false");
+}
+
+void RemindersViewModel::setFridayEnabled(bool isOn)
+{
+    m_model.changeSetting("friday.enabled", isOn ? "true" : "false");
+}
+
+QString RemindersViewModel::setFridayTime(const QString &time)
+{
+    return setHours(time, [this](std::string written) {
+        m_model.changeSetting("friday.time", std::move(written));
+    });
 }
 
 void RemindersViewModel::pauseForHours(int hours)

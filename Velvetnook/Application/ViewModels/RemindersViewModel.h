@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QList>
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 
 #include <functional>
 
@@ -30,18 +30,18 @@ class RemindersViewModel : public QObject
     Q_PROPERTY(bool reminderEnabled READ reminderEnabled NOTIFY changed)
     Q_PROPERTY(int interval READ interval NOTIFY changed)
     Q_PROPERTY(QString intervalDigits READ intervalDigits NOTIFY changed) // as it is typed
-    Q_PROPERTY(QString intervalText READ intervalText NOTIFY changed) // "60 minutes"
-    Q_PROPERTY(QString activeStart READ activeStart NOTIFY changed)   // "09:00"
+    Q_PROPERTY(QString activeStart READ activeStart NOTIFY changed)       // "09:00"
     Q_PROPERTY(QString activeEnd READ activeEnd NOTIFY changed)
-    Q_PROPERTY(QList<int> weekdays READ weekdays NOTIFY changed) // 0 is Sunday
-    // Seven of {value, letter, name, chosen}, in the order in which the language has them.
+    // Seven of {value, letter, name, chosen}, Sunday first.
     Q_PROPERTY(QVariantList days READ days NOTIFY changed)
     Q_PROPERTY(QString pinnedReminder READ pinnedReminder NOTIFY changed) // nothing, emphasis
-    Q_PROPERTY(QString pinMode READ pinMode NOTIFY changed) // single, favourites, daily
-    Q_PROPERTY(int rotationMinutes READ rotationMinutes NOTIFY changed)
+    // How often the favourites take their turns, as it is typed.
+    Q_PROPERTY(QString rotationDigits READ rotationDigits NOTIFY changed)
     Q_PROPERTY(bool reminderSound READ reminderSound NOTIFY changed)
     Q_PROPERTY(bool soundEnabled READ soundEnabled NOTIFY changed)
-    Q_PROPERTY(bool completionSound READ completionSound NOTIFY changed)
+    Q_PROPERTY(bool timersAreAnnounced READ timersAreAnnounced NOTIFY changed)
+    Q_PROPERTY(bool fridayEnabled READ fridayEnabled NOTIFY changed)
+    Q_PROPERTY(QString fridayTime READ fridayTime NOTIFY changed)
     Q_PROPERTY(QString nextText READ nextText NOTIFY changed)
     Q_PROPERTY(bool isPaused READ isPaused NOTIFY changed)
     Q_PROPERTY(QString pausedText READ pausedText NOTIFY changed) // empty when not paused
@@ -56,17 +56,16 @@ public:
     bool reminderEnabled() const;
     int interval() const;
     QString intervalDigits() const;
-    QString intervalText() const;
     QString activeStart() const;
     QString activeEnd() const;
-    QList<int> weekdays() const;
     QVariantList days() const;
     QString pinnedReminder() const;
-    QString pinMode() const;
-    int rotationMinutes() const;
+    QString rotationDigits() const;
     bool reminderSound() const;
     bool soundEnabled() const;
-    bool completionSound() const;
+    bool timersAreAnnounced() const;
+    bool fridayEnabled() const;
+    QString fridayTime() const;
     QString nextText() const;
     bool isPaused() const;
     QString pausedText() const;
@@ -79,11 +78,12 @@ public:
     Q_INVOKABLE QString setActiveEnd(const QString &time);
     Q_INVOKABLE QString setWeekday(int weekday, bool isChosen);
     Q_INVOKABLE QString setPinnedReminder(const QString &value);
-    Q_INVOKABLE QString setPinMode(const QString &value);
     Q_INVOKABLE QString setRotationMinutes(const QString &minutes);
     Q_INVOKABLE QString setReminderSound(bool isOn);
     Q_INVOKABLE QString setSoundEnabled(bool isOn);
-    Q_INVOKABLE QString setCompletionSound(bool isOn);
+    Q_INVOKABLE void setTimersAreAnnounced(bool isOn);
+    Q_INVOKABLE void setFridayEnabled(bool isOn);
+    Q_INVOKABLE QString setFridayTime(const QString &time);
 
     Q_INVOKABLE void pauseForHours(int hours);
     Q_INVOKABLE void pauseUntilTomorrow();
@@ -100,8 +100,8 @@ private:
     void change(std::function<void(KestCore::DevotionalState &)> edit);
     QString setMinutes(const QString &text,
                        std::function<void(KestCore::Preferences &, qint64)> set);
-    QString setHours(const QString &text,
-                     std::function<void(KestCore::Preferences &, std::string)> set);
+    // Hands on the time as the engines read it, "09:00", or answers with what is wrong.
+    QString setHours(const QString &text, std::function<void(std::string)> set);
 
     ApplicationModel &m_model;
     const Formatting &m_formatting;

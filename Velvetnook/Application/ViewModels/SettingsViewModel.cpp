@@ -3,6 +3,7 @@
 #include "Velvetnook/Application/ViewModels/SettingsViewModel.h"
 
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Formatting.h"
 
 #include <QVariantMap>
 
@@ -68,6 +69,10 @@ SettingsViewModel::SettingsViewModel(ApplicationModel &model, const Formatting &
       m_notch{model, formatting}, m_place{model, formatting}, m_prayer{model, formatting},
       m_tools{model}, m_data{model, formatting}, m_page{QStringLiteral("general")}
 {
+    connect(&formatting, &Formatting::wordsChanged, this, [this] {
+        emit pagesChanged();
+        emit pageChanged();
+    });
     connect(&model, &ApplicationModel::failed, this, &SettingsViewModel::setRefusal);
     connect(&model, &ApplicationModel::stateChanged, this, [this] { setRefusal({}); });
 }
@@ -114,7 +119,7 @@ void SettingsViewModel::setPage(const QString &page)
 void SettingsViewModel::open(const QString &page)
 {
     setPage(page);
-    emit openWanted(m_page);
+    emit openWanted();
 }
 
 void SettingsViewModel::setRefusal(const QString &refusal)

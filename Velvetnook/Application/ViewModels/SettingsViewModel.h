@@ -26,7 +26,7 @@ class SettingsViewModel : public QObject
     Q_PROPERTY(Velvetnook::ToolSettings *tools READ tools CONSTANT)
     Q_PROPERTY(Velvetnook::DataSettings *data READ data CONSTANT)
     Q_PROPERTY(Velvetnook::AboutSettings *about READ about CONSTANT)
-    // The pages that the search leaves, [{page, title, icon, group, view}].
+    // The pages that the search leaves, [{page, title, icon, group}].
     Q_PROPERTY(QVariantList pages READ pages NOTIFY pagesChanged)
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY pagesChanged)
     Q_PROPERTY(QString page READ page WRITE setPage NOTIFY pageChanged)
@@ -63,7 +63,7 @@ signals:
     void pagesChanged();
     void pageChanged();
     void refusalChanged();
-    void openWanted(const QString &page);
+    void openWanted();
 
 private:
     void setRefusal(const QString &refusal);

@@ -6,6 +6,7 @@
 #include "KestCore/Tools/Texts.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/DurationText.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/TimerSteps.h"
 
@@ -33,17 +34,12 @@ std::optional<TimerMode> modeOf(const std::string &text)
     return Base::fromText<TimerMode>(text);
 }
 
-// The texts of the engine that are shown translated.
+// The titles that the engine gives, which are shown translated.
 [[maybe_unused]] constexpr std::array kEngineTexts{
     QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Focus"),
     QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Timer"),
     QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Stopwatch"),
-    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Water"),
-    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "This item was removed."),
-    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel",
-                      "Total timer duration cannot exceed 365 days."),
-    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel",
-                      "A title is one line of at most 200 characters")};
+    QT_TRANSLATE_NOOP("Velvetnook::TimersViewModel", "Water")};
 
 QString iconOf(const std::string &mode)
 {
@@ -195,7 +191,7 @@ void TimersViewModel::step(int distance)
 void TimersViewModel::tell(const Base::Result<void> &result)
 {
     if (!result) {
-        m_model.say(tr(result.error().message.c_str()));
+        m_model.say(engineText(result.error().message));
     }
 }
 
@@ -321,7 +317,7 @@ QString TimersViewModel::setTime(const QString &id, const QString &text)
     }
     TimerState tried = timer->state;
     if (const auto result = KestCore::adjustTimer(tried, m_model.now(), *seconds); !result) {
-        return m_formatting.digits(tr(result.error().message.c_str()));
+        return m_formatting.digits(engineText(result.error().message));
     }
     changeTimer(
         m_model, timer->record.id, PastEnd::settled,
@@ -336,7 +332,7 @@ QString TimersViewModel::rename(const QString &id, const QString &title)
 {
     const auto checked = KestCore::checkedTitle(title.toStdString());
     if (!checked) {
-        return tr(checked.error().message.c_str());
+        return engineText(checked.error().message);
     }
     const Timer *timer = timerOf(id);
     if (timer != nullptr && !checked->empty() && title != titleOf(*timer)) {

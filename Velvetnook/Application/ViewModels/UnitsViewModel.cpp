@@ -5,6 +5,7 @@
 #include "Base/Json.h"
 #include "KestCore/Tools/TypedConversion.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 
 #include <QClipboard>
@@ -83,6 +84,12 @@ UnitsViewModel::UnitsViewModel(ApplicationModel &model, const Formatting &format
     read();
     m_shownCategory = effective().category;
     connect(&model, &ApplicationModel::choicesChanged, this, &UnitsViewModel::follow);
+    connect(&formatting, &Formatting::wordsChanged, this, [this] {
+        emit wordsChanged();
+        emit unitsChanged();
+        emit recentChanged();
+        emit changed();
+    });
 }
 
 // What stands in the field and is not kept yet is not overwritten.
@@ -184,7 +191,7 @@ QString UnitsViewModel::refusal() const
         return {};
     }
     const auto typed = KestCore::requireConversion(plain(m_line));
-    return hasWords(m_line) && !typed ? QString::fromStdString(typed.error().message)
+    return hasWords(m_line) && !typed ? engineText(typed.error().message)
                                       : fromView(KestCore::kCannotConvert);
 }
 

@@ -21,7 +21,7 @@ class Formatting;
 class UnitsViewModel : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QVariantList categories READ categories CONSTANT) // [{value, label}]
+    Q_PROPERTY(QVariantList categories READ categories NOTIFY wordsChanged) // [{value, label}]
     Q_PROPERTY(QString category READ category WRITE setCategory NOTIFY changed)
     Q_PROPERTY(QVariantList units READ units NOTIFY unitsChanged) // of the category
     Q_PROPERTY(QString from READ from WRITE setFrom NOTIFY changed)
@@ -68,6 +68,7 @@ public:
 signals:
     void changed();
     void unitsChanged();
+    void wordsChanged();
     void recentChanged();
 
 private:

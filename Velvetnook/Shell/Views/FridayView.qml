@@ -14,7 +14,7 @@ Item {
 
     signal footerLinkClicked
 
-    onFooterLinkClicked: App.settings.openWanted("friday")
+    onFooterLinkClicked: App.settings.open("reminders")
 
     implicitWidth: 600
     implicitHeight: 220

@@ -31,6 +31,23 @@ Column {
             }
         }
         SettingsRow {
+            visible: root.page.pinMode === "favourites"
+            title: qsTr("A new favourite every")
+            note: qsTr("1 to 1440 minutes")
+            enabled: root.page.pinEnabled
+            ValueField {
+                width: error === "" ? 72 : 220
+                name: qsTr("Minutes between favourites")
+                value: App.reminders.rotationDigits
+                onFinished: text => error = App.reminders.setRotationMinutes(text)
+            }
+            Txt {
+                y: 7
+                text: qsTr("minutes")
+                color: Theme.color.text3
+            }
+        }
+        SettingsRow {
             title: qsTr("Shown as")
             enabled: root.page.pinEnabled
             Segmented {

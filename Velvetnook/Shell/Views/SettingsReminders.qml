@@ -106,4 +106,5 @@ Column {
         }
     }
     TryGroup { page: root.page }
+    EventGroup { page: root.page }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Tools/Notes.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/ViewModels/Notes/NoteStorage.h"
 #include "Velvetnook/Application/ViewModels/NotesViewModel.h"
 
@@ -31,7 +32,7 @@ void NotesViewModel::change(Change change, Done done)
                 return;
             }
             if (!result) {
-                self->m_model.say(QString::fromStdString(result.error().message));
+                self->m_model.say(engineText(result.error().message));
             } else if (done) {
                 done();
             }

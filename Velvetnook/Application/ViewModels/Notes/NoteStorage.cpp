@@ -20,13 +20,20 @@ namespace
 
 constexpr std::string_view kScratchpadKind = "scratchpad";
 
+bool isNote(const KestCore::RecordRef &record) { return record->kind == KestCore::kNoteKind; }
+
 } // namespace
+
+std::size_t noteCount(const Records &records)
+{
+    return static_cast<std::size_t>(std::ranges::count_if(records, isNote));
+}
 
 std::vector<LocalRecord> notesIn(const Records &records)
 {
     std::vector<LocalRecord> notes;
     for (const KestCore::RecordRef &record : records) {
-        if (record->kind == KestCore::kNoteKind) {
+        if (isNote(record)) {
             notes.push_back({.id = record->id,
                              .kind = record->kind,
                              .title = record->title,
@@ -62,13 +69,19 @@ LocalRecord scratchpadIn(const Records &records)
 std::vector<KestCore::RecordHit> foundNotes(const Records &records, std::string_view query)
 {
     std::vector<LocalRecord> all{scratchpadIn(records)};
-    std::ranges::move(notesIn(records), std::back_inserter(all));
-    if (!query.empty()) {
-        for (LocalRecord &note : all) {
-            if (auto whole = noteIn(records, note.id)) {
-                note = *std::move(whole);
+    std::vector<LocalRecord> notes;
+    if (query.empty()) {
+        notes = notesIn(records);
+    } else {
+        for (const KestCore::RecordRef &record : records) {
+            if (isNote(record)) {
+                notes.push_back(*record); // with its text
             }
         }
+        notes = KestCore::inOrder(std::move(notes));
+    }
+    std::ranges::move(notes, std::back_inserter(all));
+    if (!query.empty()) {
         return KestCore::searchNotes(all, query);
     }
     std::vector<KestCore::RecordHit> hits;

@@ -25,6 +25,7 @@ using Records = Base::SharedList<KestCore::RecordRef>;
 
 // In the order shown, without their texts, which can be large.
 std::vector<KestCore::LocalRecord> notesIn(const Records &records);
+std::size_t noteCount(const Records &records);
 std::optional<KestCore::LocalRecord> noteIn(const Records &records, std::string_view id);
 // An empty one, never written, where there is none.
 KestCore::LocalRecord scratchpadIn(const Records &records);

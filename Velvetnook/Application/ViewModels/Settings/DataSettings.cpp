@@ -6,6 +6,7 @@
 #include "KestCore/Store/Backup.h"
 #include "KestCore/Store/StoreLocation.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 
 #include <QStandardPaths>
@@ -68,7 +69,7 @@ QString fromView(std::string_view text)
 
 QString messageOf(const Result<void> &result)
 {
-    return result ? QString{} : QString::fromStdString(result.error().message);
+    return result ? QString{} : engineText(result.error().message);
 }
 
 } // namespace

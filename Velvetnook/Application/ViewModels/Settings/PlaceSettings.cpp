@@ -7,6 +7,7 @@
 #include "KestCore/Prayer/Places.h"
 #include "KestCore/Prayer/PrayerInputs.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 
 #include <QVariantMap>
@@ -225,7 +226,7 @@ void PlaceSettings::checkFields()
     refuseUnless(longitude, isWithin(longitude.text, 180), tr("A number from −180 to 180"));
     const auto zone = KestCore::Calendar::inZone(timeZone.text.trimmed().toStdString());
     refuseUnless(timeZone, zone.has_value(),
-                 zone ? QString{} : QString::fromStdString(zone.error().message));
+                 zone ? QString{} : engineText(zone.error().message));
     refuseUnless(country, isCountry(country.text), tr("Two letters, such as GB"));
 }
 

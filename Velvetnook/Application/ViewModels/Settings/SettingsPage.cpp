@@ -14,24 +14,8 @@ SettingsPage::SettingsPage(ApplicationModel &model, const Formatting &formatting
                            QObject *parent)
     : QObject{parent}, m_model{model}, m_formatting{formatting}
 {
-    m_words = words();
-    connect(&model, &ApplicationModel::choicesChanged, this, &SettingsPage::follow);
-}
-
-// What the words depend on.
-QString SettingsPage::words() const
-{
-    return setting("appearance.language", "") + u'/' + setting("appearance.digits", "");
-}
-
-void SettingsPage::follow()
-{
-    emit changed();
-    if (m_words != words()) {
-        m_words = words();
-        // Once whoever loads the translations has done so.
-        QMetaObject::invokeMethod(this, &SettingsPage::wordsChanged, Qt::QueuedConnection);
-    }
+    connect(&model, &ApplicationModel::choicesChanged, this, &SettingsPage::changed);
+    connect(&formatting, &Formatting::wordsChanged, this, &SettingsPage::wordsChanged);
 }
 
 QVariantList SettingsPage::options(std::span<const Choice> choices)

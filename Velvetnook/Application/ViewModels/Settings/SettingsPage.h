@@ -57,12 +57,8 @@ protected:
     void changePreferences(std::function<void(KestCore::Preferences &)> change);
 
 private:
-    void follow();
-    QString words() const;
-
     ApplicationModel &m_model;
     const Formatting &m_formatting;
-    QString m_words;
 };
 
 } // namespace Velvetnook

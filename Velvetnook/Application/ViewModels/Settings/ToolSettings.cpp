@@ -4,10 +4,11 @@
 
 #include "KestCore/Registry/ToolRegistry.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
+#include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Velvetnook
 {
@@ -15,41 +16,10 @@ namespace Velvetnook
 namespace
 {
 
-// The tools that have a view here.
-constexpr std::array kWithView{"home",   "dhikr",  "prayer",     "names", "tasbih",
-                               "friday", "timers", "scratchpad", "notes", "units"};
-
-bool hasView(std::string_view id)
-{
-    return std::ranges::find(kWithView, id) != kWithView.end();
-}
-
-bool contains(const std::vector<std::string> &ids, std::string_view id)
-{
-    return std::ranges::find(ids, id) != ids.end();
-}
-
 const KestCore::ToolDescriptor &descriptorOf(const std::string &id)
 {
     return *std::ranges::find(KestCore::ToolRegistry::tools(), id,
                               &KestCore::ToolDescriptor::id);
-}
-
-void put(std::vector<std::string> &ids, const std::string &id, bool isIn)
-{
-    if (!isIn) {
-        std::erase(ids, id);
-    } else if (!contains(ids, id)) {
-        ids.push_back(id);
-    }
-}
-
-// The tabs of the header stand in the order of the tools.
-void arrangeFavourites(KestCore::NativeState &state)
-{
-    std::ranges::stable_sort(state.navigationFavorites, {}, [&](const std::string &id) {
-        return std::ranges::find(state.order, id) - state.order.begin();
-    });
 }
 
 } // namespace
@@ -64,7 +34,8 @@ ToolSettings::ToolSettings(ApplicationModel &model, QObject *parent)
 void ToolSettings::follow()
 {
     std::vector<std::string> shown;
-    std::ranges::copy_if(m_model.state().order, std::back_inserter(shown), hasView);
+    std::ranges::copy_if(m_model.state().order, std::back_inserter(shown),
+                         [](const std::string &id) { return hasView(id); });
     if (shown.size() != m_shown.size()) {
         beginResetModel();
         m_shown = std::move(shown);
@@ -107,9 +78,9 @@ QVariant ToolSettings::data(const QModelIndex &index, int role) const
     case icon:
         return QString::fromStdString(tool.icon);
     case enabled:
-        return contains(m_model.state().enabled, id);
+        return isToolOn(m_model.state(), id);
     case favourite:
-        return contains(m_model.state().navigationFavorites, id);
+        return isFavourite(m_model.state(), id);
     case canTurnOff:
         return id != "home";
     default:
@@ -117,15 +88,9 @@ QVariant ToolSettings::data(const QModelIndex &index, int role) const
     }
 }
 
-int ToolSettings::favouriteCount() const
-{
-    return static_cast<int>(
-        std::ranges::count_if(m_model.state().navigationFavorites, hasView));
-}
-
 QString ToolSettings::favouritesNote() const
 {
-    return m_isFull ? tr("The header has room for eight. Take one out first.")
+    return m_isFull ? engineText(kHeaderIsFull)
                     : tr("Starred tools have a tab in the panel’s header, up to eight.");
 }
 
@@ -136,7 +101,7 @@ void ToolSettings::setEnabled(const QString &tool, bool on)
         return;
     }
     m_model.changeState([id, on](KestCore::NativeState &state) -> Result<void> {
-        put(state.enabled, id, on);
+        setToolOn(state, id, on);
         return {};
     });
 }
@@ -147,17 +112,14 @@ void ToolSettings::setFavourite(const QString &tool, bool on)
     if (!hasView(id)) {
         return;
     }
-    const auto count = static_cast<std::size_t>(favouriteCount());
-    m_isFull =
-        on && count >= kMostFavourites && !contains(m_model.state().navigationFavorites, id);
+    const KestCore::NativeState &state = m_model.state();
+    m_isFull = on && tabCount(state) >= kMostFavourites && !isFavourite(state, id);
     emit changed();
     if (m_isFull) {
         return;
     }
-    m_model.changeState([id, on](KestCore::NativeState &state) -> Result<void> {
-        put(state.navigationFavorites, id, on);
-        arrangeFavourites(state);
-        return {};
+    m_model.changeState([id, on](KestCore::NativeState &changed) {
+        return Velvetnook::setFavourite(changed, id, on);
     });
 }
 

@@ -19,12 +19,9 @@ class ApplicationModel;
 class ToolSettings : public QAbstractListModel
 {
     Q_OBJECT
-    Q_PROPERTY(int favouriteCount READ favouriteCount NOTIFY changed)
     Q_PROPERTY(QString favouritesNote READ favouritesNote NOTIFY changed)
 
 public:
-    static constexpr std::size_t kMostFavourites = 8;
-
     enum Role { toolId = Qt::UserRole, title, summary, icon, enabled, favourite, canTurnOff };
 
     explicit ToolSettings(ApplicationModel &model, QObject *parent = nullptr);
@@ -33,7 +30,6 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    int favouriteCount() const;
     QString favouritesNote() const;
 
     Q_INVOKABLE void setEnabled(const QString &tool, bool on);

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/EngineText.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+namespace Velvetnook
+{
+
+namespace
+{
+
+// Named once more for the translators, who do not read the engines.
+[[maybe_unused]] constexpr const char *kTexts[]{
+    QT_TRANSLATE_NOOP("Engine", "Target must be between 1 and 1,000,000"),
+    QT_TRANSLATE_NOOP("Engine", "Confirm before resetting a nonempty session"),
+    QT_TRANSLATE_NOOP("Engine", "This item was removed."),
+    QT_TRANSLATE_NOOP("Engine", "Nothing was removed in the last 30 seconds"),
+    QT_TRANSLATE_NOOP("Engine", "Total timer duration cannot exceed 365 days."),
+    QT_TRANSLATE_NOOP("Engine", "A title is one line of at most 200 characters"),
+    QT_TRANSLATE_NOOP("Engine", "A note needs a title or a text"),
+    QT_TRANSLATE_NOOP("Engine", "Choose between 1 minute and 365 days."),
+    QT_TRANSLATE_NOOP("Engine", "Invalid timer"),
+    QT_TRANSLATE_NOOP("Engine", "A stopwatch has no length."),
+    QT_TRANSLATE_NOOP("Engine",
+                      "Allow location access to calculate prayer times for where you are."),
+    QT_TRANSLATE_NOOP("Engine", "Choose a city or use your location."),
+    QT_TRANSLATE_NOOP("Engine", "Prayer times are known for dates from 1900 to 2200"),
+    QT_TRANSLATE_NOOP("Engine", "The next prayer is too close for this buffer. Try an "
+                                "ordinary timer or reduce the buffer."),
+    QT_TRANSLATE_NOOP("Engine", "The buffer must be between 0 and 120 minutes"),
+    QT_TRANSLATE_NOOP("Engine", "Write a number and two units, such as 5 km to mi"),
+    QT_TRANSLATE_NOOP("Engine", "Choose compatible units and a finite number"),
+    QT_TRANSLATE_NOOP("Engine", "Invalid backup"),
+    QT_TRANSLATE_NOOP("Engine", "Backup exceeds 50 MB"),
+    QT_TRANSLATE_NOOP("Engine", "Invalid native settings"),
+    QT_TRANSLATE_NOOP("Engine", "database or disk is full"),
+    QT_TRANSLATE_NOOP("Engine", "disk I/O error"),
+    QT_TRANSLATE_NOOP("Engine", "database is locked"),
+    QT_TRANSLATE_NOOP("Engine", "attempt to write a readonly database"),
+    QT_TRANSLATE_NOOP("Engine", "The header has room for eight. Take one out first."),
+    QT_TRANSLATE_NOOP("Engine", "A little remembrance"),
+    QT_TRANSLATE_NOOP("Engine", "Velvetnook — Preview"),
+    QT_TRANSLATE_NOOP("Engine", "A quiet moment for remembrance."),
+    QT_TRANSLATE_NOOP("Engine", "Velvetnook timer"),
+    QT_TRANSLATE_NOOP("Engine", "A note"),
+    QT_TRANSLATE_NOOP("Engine", "The scratchpad"),
+};
+
+// Texts with something of the user's in them: how the engine writes them, and how they are
+// shown. Each piece is translated by itself where it is one of the texts above.
+struct Pattern {
+    const char *written;
+    const char *shown;
+};
+constexpr Pattern kPatterns[]{
+    {"^There is no unit \"(.*)\"; the nearest (?:is|are) (.*)$",
+     QT_TRANSLATE_NOOP("Engine", "There is no unit “%1”; the nearest: %2")},
+    {"^There is no unit \"(.*)\"; there are (.*)$",
+     QT_TRANSLATE_NOOP("Engine", "There is no unit “%1”; there are: %2")},
+    {"^Unknown time zone \"(.*)\"$", QT_TRANSLATE_NOOP("Engine", "There is no time zone “%1”")},
+    {"^(.*) holds at most 1,000,000 bytes$",
+     QT_TRANSLATE_NOOP("Engine", "%1 holds at most 1,000,000 bytes")},
+    {"^(.*) finished\\.$", QT_TRANSLATE_NOOP("Engine", "%1 finished.")},
+};
+
+QString translated(const char *text) { return QCoreApplication::translate("Engine", text); }
+
+QString translated(const QString &text) { return translated(text.toUtf8().constData()); }
+
+} // namespace
+
+QString engineText(std::string_view text)
+{
+    const QString own = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    for (const Pattern &pattern : kPatterns) {
+        const QRegularExpression written{QString::fromUtf8(pattern.written),
+                                         QRegularExpression::DotMatchesEverythingOption};
+        const auto match = written.match(own);
+        if (match.lastCapturedIndex() == 1) {
+            return translated(pattern.shown).arg(translated(match.captured(1)));
+        }
+        if (match.hasMatch()) {
+            return translated(pattern.shown)
+                .arg(translated(match.captured(1)), match.captured(2));
+        }
+    }
+    return translated(own);
+}
+
+} // namespace Velvetnook
