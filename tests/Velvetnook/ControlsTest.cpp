@@ -242,6 +242,7 @@ TEST(Controls, TellAScreenReaderWhatTheyAre)
              Heard{"Segment { text: \"Week\" }", QAccessible::RadioButton, "Week"},
              Heard{"MenuRow { text: \"Pause\" }", QAccessible::MenuItem, "Pause"},
              Heard{"PanelTab { title: \"Timers\" }", QAccessible::PageTab, "Timers"},
+             Heard{"HeaderButton { name: \"Search\" }", QAccessible::Button, "Search"},
              Heard{"ArabicText { text: \"ٱلسَّلَامُ\" }", QAccessible::StaticText, "ٱلسَّلَامُ"},
              Heard{"Digits { text: \"14:32\" }", QAccessible::StaticText, "14:32"},
              Heard{"ProgressRing { name: \"Focus\" }", QAccessible::ProgressBar, "Focus"},
@@ -256,6 +257,66 @@ TEST(Controls, TellAScreenReaderWhatTheyAre)
         ASSERT_NE(heard, nullptr);
         EXPECT_EQ(heard->role(), role);
         EXPECT_EQ(heard->text(QAccessible::Name).toStdString(), name);
+    }
+}
+
+TEST(Controls, AreClickedOnceByAScreenReader)
+{
+    QAccessible::setActive(true);
+    for (const char *qml : {
+             "PrimaryButton { text: \"a\" }",
+             "IconButton { name: \"a\" }",
+             "Chip { text: \"a\" }",
+             "ListRow { title: \"a\" }",
+             "ListRow { title: \"a\"; Accessible.role: Accessible.PageTab }",
+             "Segment { text: \"a\" }",
+             "MenuRow { text: \"a\" }",
+             "PanelTab { title: \"a\" }",
+             "HeaderButton { name: \"a\" }",
+             "FooterLink { text: \"a\" }",
+         }) {
+        SCOPED_TRACE(qml);
+        Stage stage;
+        auto *item = stage.show(qml);
+        ASSERT_NE(item, nullptr);
+        const QSignalSpy clicked{item, SIGNAL(clicked())};
+        auto *heard = QAccessible::queryAccessibleInterface(item);
+        ASSERT_NE(heard, nullptr);
+        ASSERT_NE(heard->actionInterface(), nullptr);
+        heard->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_EQ(clicked.count(), 1);
+    }
+}
+
+// The key of P of a keyboard that writes Arabic, and holding a key down.
+TEST(CounterView, TakesItsLettersFromAnyKeyboardOncePerPress)
+{
+    Stage stage;
+    ASSERT_NE(stage.show("CounterView { width: 600; height: 220; focus: true }"), nullptr);
+    const auto isPaused = [&] {
+        stage.running().settle();
+        return stage.running().state().devotional.session.isPaused;
+    };
+    struct Case {
+        const char *name;
+        int key;
+        quint32 place;
+        bool isRepeat;
+        bool isPaused; // after it
+    };
+    for (const auto &[name, key, place, isRepeat, expected] : {
+             Case{"Latin", Qt::Key_P, 33, false, true},
+             Case{"held", Qt::Key_P, 33, true, true},
+             Case{"Latin elsewhere", Qt::Key_P, 40, false, false},
+             Case{"Arabic", 0x062d, 33, false, true},
+             Case{"Arabic, held", 0x062d, 33, true, true},
+             Case{"Arabic at another place", 0x062d, 60, false, true},
+         }) {
+        SCOPED_TRACE(name);
+        QKeyEvent event{QEvent::KeyPress, key,     Qt::NoModifier, place, 0, 0,
+                        QString{},        isRepeat};
+        QCoreApplication::sendEvent(&stage.window(), &event);
+        EXPECT_EQ(isPaused(), expected);
     }
 }
 

@@ -32,6 +32,7 @@ T.AbstractButton {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: text
+    Accessible.onPressAction: clicked()
 
     contentItem: ButtonFace {
         text: root.text

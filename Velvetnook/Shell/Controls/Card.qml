@@ -48,6 +48,7 @@ Item {
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         Accessible.name: root.name
+        Accessible.onPressAction: clicked()
         onClicked: root.clicked()
     }
     Item {

@@ -31,6 +31,7 @@ T.AbstractButton {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: text
+    Accessible.onPressAction: clicked()
     Accessible.checkable: true
     Accessible.checked: chosen
 

@@ -31,6 +31,7 @@ T.AbstractButton {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: name
+    Accessible.onPressAction: clicked()
     Accessible.description: keyHint
 
     contentItem: Item {

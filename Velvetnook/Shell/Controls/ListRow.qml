@@ -30,6 +30,7 @@ T.ItemDelegate {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: title
+    Accessible.onPressAction: clicked()
     Accessible.description: note
     Accessible.selectable: true
     Accessible.selected: selected

@@ -28,6 +28,7 @@ T.MenuItem {
         }
     }
     Accessible.name: text
+    Accessible.onPressAction: clicked()
 
     contentItem: Item {
         Icon {

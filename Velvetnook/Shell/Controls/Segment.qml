@@ -26,6 +26,7 @@ T.RadioButton {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: text
+    Accessible.onPressAction: clicked()
     Accessible.checkable: true
     Accessible.checked: chosen
 

@@ -36,6 +36,8 @@ Item {
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         Accessible.name: root.name
+        Accessible.onPressAction: clicked()
+        Accessible.onToggleAction: clicked()
         Accessible.checkable: true
         Accessible.checked: root.checked
         onClicked: root.toggled(!root.checked)

@@ -73,6 +73,7 @@ FocusScope {
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         Accessible.name: text
+        Accessible.onPressAction: clicked()
         onClicked: {
             if (root.hasMessage) {
                 App.panel.takeMessageAction();

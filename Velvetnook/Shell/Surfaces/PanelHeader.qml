@@ -58,27 +58,24 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        PanelTab {
+        HeaderButton {
             id: search
 
             iconName: "search"
-            title: qsTr("Search", "@action:button opens the palette")
+            name: qsTr("Search", "@action:button opens the palette")
             keyHint: qsTr("Ctrl+K")
-            isTab: false
             onClicked: App.palette.openWanted()
         }
-        PanelTab {
+        HeaderButton {
             iconName: "grid"
-            title: qsTr("All tools")
-            isTab: false
+            name: qsTr("All tools")
             chosen: App.panel.tool === "tools"
             onClicked: App.panel.tool === "tools" ? App.panel.back() : App.panel.showAllTools()
         }
-        PanelTab {
+        HeaderButton {
             iconName: "settings"
-            title: qsTr("Settings")
+            name: qsTr("Settings")
             keyHint: qsTr("Ctrl+,")
-            isTab: false
             onClicked: App.panel.openTool("settings")
         }
     }

@@ -13,18 +13,18 @@ T.TabButton {
     property string title
     property string keyHint
     property bool chosen: false
-    property bool isTab: true     // else a button at the far end, one step back
     property bool reachable: true // by Tab; among tabs only the chosen one is
 
-    readonly property bool showsTitle: chosen && isTab
+    readonly property bool showsTitle: chosen
 
     implicitWidth: showsTitle ? 18 + 8 + label.implicitWidth + 22 : 34
     implicitHeight: 32
     checkable: false // the panel says which is chosen
     autoExclusive: false
     hoverEnabled: true
-    focusPolicy: reachable ? Qt.TabFocus : Qt.NoFocus
-    activeFocusOnTab: reachable
+    focusPolicy: reachable || activeFocus ? Qt.TabFocus : Qt.NoFocus
+    // The focus of a tab that stops being the chosen one stays until it is taken elsewhere.
+    activeFocusOnTab: reachable || activeFocus
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Accessible.name: title
@@ -37,8 +37,7 @@ T.TabButton {
             x: root.showsTitle ? (root.mirrored ? parent.width - 28 : 10) : (parent.width - 18) / 2
             y: 7
             name: root.iconName
-            color: root.chosen ? Theme.color.accent
-                 : root.isTab ? Theme.color.text2 : Theme.color.text3
+            color: root.chosen ? Theme.color.accent : Theme.color.text2
         }
         Txt {
             id: label

@@ -44,18 +44,21 @@ Item {
     }
     // Single letters, while nothing is typed. Says whether the key was one of them.
     function take(event) {
-        const isUndo = event.matches(StandardKey.Undo);
-        if (isUndo || event.key === Qt.Key_Z) {
+        const key = letters.keyOf(event);
+        if (letters.isHeld(event)) {
+            return true;
+        }
+        if (event.matches(StandardKey.Undo) || key === Qt.Key_Z) {
             App.counter.undo();
-        } else if (event.key === Qt.Key_P) {
+        } else if (key === Qt.Key_P) {
             App.counter.togglePause();
-        } else if (event.key === Qt.Key_F) {
+        } else if (key === Qt.Key_F) {
             App.counter.finish();
-        } else if (event.key === Qt.Key_T) {
+        } else if (key === Qt.Key_T) {
             targets.type();
-        } else if (event.key === Qt.Key_R) {
+        } else if (key === Qt.Key_R) {
             root.askReset();
-        } else if (event.key === Qt.Key_H) {
+        } else if (key === Qt.Key_H) {
             App.panel.openTool("history");
         } else if (event.key === Qt.Key_Left || event.key === Qt.Key_Right) {
             root.turnPhrase(event.key === Qt.Key_Right);
@@ -66,6 +69,8 @@ Item {
         }
         return true;
     }
+
+    KeyLetters { id: letters }
 
     implicitWidth: 600
     implicitHeight: 220

@@ -15,13 +15,15 @@ Item {
 
     signal footerLinkClicked
 
-    onFooterLinkClicked: App.settings.openWanted("counter")
+    onFooterLinkClicked: App.settings.open("general")
     Keys.onPressed: event => {
-        if (event.key === Qt.Key_H || event.key === Qt.Key_Backspace) {
+        if (letters.keyOf(event) === Qt.Key_H || event.key === Qt.Key_Backspace) {
             App.panel.openTool("dhikr");
             event.accepted = true;
         }
     }
+
+    KeyLetters { id: letters }
 
     // What loses the focus by going out of sight must not take the keys with it.
     Connections {

@@ -32,6 +32,7 @@ Item {
         implicitHeight: 30
         Accessible.role: Accessible.Link
         Accessible.name: qsTr("Source: %1").arg(App.names.source)
+        Accessible.onPressAction: clicked()
         onClicked: Qt.openUrlExternally(App.names.sourceUrl)
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()

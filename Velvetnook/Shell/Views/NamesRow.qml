@@ -25,6 +25,7 @@ T.ItemDelegate {
     Accessible.name: LayoutMirroring.enabled ? arabic : title
     Accessible.selectable: true
     Accessible.selected: isChosen
+    Accessible.onPressAction: clicked()
     onClicked: App.names.row = index
 
     background: Rectangle {

@@ -27,6 +27,10 @@ Item {
         }
     }
     function take(event) {
+        const key = letters.keyOf(event);
+        if (letters.isHeld(event)) {
+            return true;
+        }
         const forwards = LayoutMirroring.enabled ? Qt.Key_Left : Qt.Key_Right;
         const backwards = LayoutMirroring.enabled ? Qt.Key_Right : Qt.Key_Left;
         if (event.key === Qt.Key_Down || event.key === forwards) {
@@ -39,9 +43,9 @@ Item {
             App.names.move(event.key === Qt.Key_End ? 1000 : -1000);
         } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
             root.count();
-        } else if (event.key === Qt.Key_S) {
+        } else if (key === Qt.Key_S) {
             App.names.toggleFavourite();
-        } else if (event.key === Qt.Key_P) {
+        } else if (key === Qt.Key_P) {
             App.names.togglePin();
         } else if (event.key === Qt.Key_Slash) {
             search.forceActiveFocus(Qt.ShortcutFocusReason);
@@ -50,6 +54,8 @@ Item {
         }
         return true;
     }
+
+    KeyLetters { id: letters }
 
     implicitWidth: 600
     implicitHeight: 220

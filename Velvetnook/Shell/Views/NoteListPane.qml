@@ -38,7 +38,7 @@ FocusScope {
             }
         } else if (plain && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             openWanted();
-        } else if (plain && event.key === Qt.Key_P) {
+        } else if (plain && letters.keyOf(event) === Qt.Key_P) {
             model.setPinned(model.current, !model.isPinned);
         } else if (plain && event.key === Qt.Key_Delete) {
             model.remove(model.current);
@@ -49,6 +49,7 @@ FocusScope {
         }
     }
 
+    KeyLetters { id: letters }
     Field {
         id: field
 

@@ -26,12 +26,13 @@ FocusScope {
     Keys.onDownPressed: body.contentY = Math.max(0, Math.min(body.contentHeight - body.height,
                                                              body.contentY + 48))
     Keys.onPressed: event => {
-        if (event.key === Qt.Key_T) {
+        if (letters.keyOf(event) === Qt.Key_T) {
             App.prayer.turnToToday();
             event.accepted = true;
         }
     }
 
+    KeyLetters { id: letters }
     Segmented {
         id: pages
 

@@ -17,8 +17,6 @@ FocusScope {
     readonly property Item mainItem: page.item
     readonly property bool isSeen: visible && App.panel.isOpen
 
-    signal footerLinkClicked
-
     function show(wanted) {
         App.prayer.page = wanted;
     }
@@ -27,16 +25,19 @@ FocusScope {
         root.show("day");
     }
 
+    KeyLetters { id: letters }
+
     Keys.onEscapePressed: event => goBack(event)
     Keys.onPressed: event => {
         const pages = ({[Qt.Key_D]: "day", [Qt.Key_W]: "week", [Qt.Key_M]: "month"});
+        const key = letters.keyOf(event);
         if (!App.prayer.hasPlace || event.modifiers !== Qt.NoModifier) {
             return;
         }
-        if (pages[event.key] !== undefined) {
-            root.show(pages[event.key]);
+        if (pages[key] !== undefined) {
+            root.show(pages[key]);
             event.accepted = true;
-        } else if (event.key === Qt.Key_F && App.prayer.focusLink !== "") {
+        } else if (key === Qt.Key_F && App.prayer.focusLink !== "") {
             App.prayer.askFocus();
             event.accepted = true;
         }
@@ -89,7 +90,7 @@ FocusScope {
             iconName: "place"
             message: App.prayer.message
             primaryText: qsTr("Choose a place…")
-            onPrimary: App.settings.openWanted("prayer")
+            onPrimary: App.settings.open("prayer")
         }
     }
     Component {

@@ -29,6 +29,7 @@ T.ItemDelegate {
     Keys.onEnterPressed: clicked()
     Keys.onMenuPressed: menu.popup(40, 40)
     Accessible.name: title + ", " + note
+    Accessible.onPressAction: clicked()
     Accessible.selected: isChosen
 
     background: Rectangle {

@@ -9,13 +9,9 @@ FocusScope {
     id: root
 
     readonly property Component footerContent: footerEnd
-    readonly property var footerKeys: []
-    readonly property string footerLink: ""
     readonly property Item mainItem: figure.mainItem
     readonly property bool isSeen: visible && App.panel.isOpen
     property string setId // of the timer that is being set
-
-    signal footerLinkClicked
 
     function takeKey(key) {
         switch (key) {
@@ -49,11 +45,13 @@ FocusScope {
         return false;
     }
 
+    KeyLetters { id: letters }
+
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Timers")
     Keys.onPressed: event => {
         const isPlain = (event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier)) === 0;
-        event.accepted = root.setId === "" && isPlain && root.takeKey(event.key);
+        event.accepted = root.setId === "" && isPlain && (letters.isHeld(event) || root.takeKey(letters.keyOf(event)));
     }
     Component.onDestruction: App.timers.watched = false
 
