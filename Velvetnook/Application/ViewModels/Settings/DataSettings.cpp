@@ -9,7 +9,10 @@
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 
+#include <QCoreApplication>
+#include <QPointer>
 #include <QStandardPaths>
+#include <QThreadPool>
 
 #include <numeric>
 #include <optional>
@@ -55,6 +58,13 @@ Result<Exported> writeBackup(StateStore &store, const std::filesystem::path &tar
     return exported;
 }
 
+Result<std::shared_ptr<const KestCore::Backup>> readBackup(const std::filesystem::path &file)
+{
+    KEST_TRY(std::string bytes, Base::readFile(file, KestCore::kLargestBackup));
+    KEST_TRY(auto backup, KestCore::Backup::read(std::move(bytes)));
+    return std::make_shared<const KestCore::Backup>(std::move(backup));
+}
+
 std::int64_t sum(const std::map<std::string, std::int64_t> &counts)
 {
     return std::accumulate(
@@ -74,7 +84,7 @@ QString messageOf(const Result<void> &result)
 
 } // namespace
 
-// What the store's thread found of a backup.
+// What an import would replace, and by what.
 struct DataSettings::Reading {
     std::shared_ptr<const KestCore::Backup> backup{};
     std::int64_t recordsHere{};
@@ -200,17 +210,35 @@ void DataSettings::exportTo(const QUrl &file)
 void DataSettings::openBackup(const QUrl &file)
 {
     begin();
+    // Away from the store's thread, on which the counts would wait for a large file.
+    QThreadPool::globalInstance()->start(
+        [self = QPointer{this}, source = file.toLocalFile().toStdString()] {
+            QMetaObject::invokeMethod(
+                QCoreApplication::instance(),
+                [self, read = readBackup(source)] {
+                    if (self == nullptr) {
+                        return;
+                    }
+                    if (read) {
+                        self->compare(*read);
+                    } else {
+                        self->finish(messageOf(std::unexpected(read.error())), true);
+                    }
+                },
+                Qt::QueuedConnection);
+        });
+}
+
+void DataSettings::compare(std::shared_ptr<const KestCore::Backup> backup)
+{
     const auto reading = std::make_shared<Reading>();
-    const std::filesystem::path source = file.toLocalFile().toStdString();
+    reading->backup = std::move(backup);
     m_model.perform(
         [=](StateStore &store) -> Result<Committed> {
-            KEST_TRY(std::string bytes, Base::readFile(source, KestCore::kLargestBackup));
-            KEST_TRY(auto backup, KestCore::Backup::read(std::move(bytes)));
             KEST_TRY(const auto here, store.countsReplacedByImport());
             reading->recordsHere = sum(here);
             reading->sessionsHere =
                 static_cast<std::int64_t>(store.state().devotional.records.size());
-            reading->backup = std::make_shared<const KestCore::Backup>(std::move(backup));
             return Committed{};
         },
         [this, reading](const Result<void> &result) {

@@ -70,6 +70,7 @@ private:
 
     void begin();
     void finish(const QString &message, bool isFailure);
+    void compare(std::shared_ptr<const KestCore::Backup> backup);
     void askToImport(const Reading &reading);
     void importBackup();
     void clearHistory();
