@@ -21,12 +21,12 @@ namespace
 
 constexpr int kWidth = 640;
 constexpr double kTopShare = 0.14;
-constexpr int kHighestTop = 88;
+constexpr int kLeastTop = 88;
 constexpr int kRadius = 22;
 
 int topOn(const QScreen &screen)
 {
-    return std::max(kHighestTop, static_cast<int>(screen.geometry().height() * kTopShare));
+    return std::max(kLeastTop, static_cast<int>(screen.geometry().height() * kTopShare));
 }
 
 // Where the user looks is where the pointer is.
