@@ -74,6 +74,30 @@ TEST(CounterView, KeepsWhatIsCountedOnLentDataWhenTheProgramEnds)
     }
 }
 
+TEST(StateKeeper, DoesWhatWaitedBeforeWhatTheReturnOfTheDataBringsAbout)
+{
+    RunningModel running;
+    Velvetnook::StateKeeper &keeper = running.model().keeper();
+    std::vector<std::string> done; // on the store's thread, read once that is at rest
+    const auto ask = [&](const char *what) {
+        keeper.perform(
+            [&done, what](KestCore::StateStore &) {
+                done.emplace_back(what);
+                return Velvetnook::Committed{};
+            },
+            [](const auto &) {});
+    };
+    bool isLent = false;
+    keeper.lend([&isLent] { isLent = true; });
+    ASSERT_TRUE(RunningModel::waitUntil([&isLent] { return isLent; }));
+    ask("first");
+    ask("second");
+    keeper.takeBack([&](const auto &) { ask("third"); });
+    ASSERT_TRUE(RunningModel::waitUntil([&keeper] { return !keeper.isLent(); }));
+    keeper.finish();
+    EXPECT_EQ(done, (std::vector<std::string>{"first", "second", "third"}));
+}
+
 TEST(CounterView, KeepsTheTrueNumberWhenTheDiskIsFull)
 {
     FaultVfs disk; // before the store is opened

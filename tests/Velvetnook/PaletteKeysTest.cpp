@@ -253,10 +253,10 @@ TEST_F(PaletteKeysTest, NamesTheKeyThatAnotherProgramHas)
     EXPECT_TRUE(state.contains(u"kest palette toggle"));
 
     // The user chooses another.
-    KestCore::CompanionState companion = m_model->companion();
-    companion.shortcuts.front().modifiers = {KestCore::ShortcutModifier::control,
-                                             KestCore::ShortcutModifier::option};
-    m_model->saveCompanion(companion);
+    m_model->changeCompanion([](KestCore::CompanionState &companion) {
+        companion.shortcuts.front().modifiers = {KestCore::ShortcutModifier::control,
+                                                 KestCore::ShortcutModifier::option};
+    });
     EXPECT_TRUE(waitUntil([&] { return m_app->palette()->isHotkeyFull(); }));
     EXPECT_EQ(m_app->palette()->hotkeyText(), "Ctrl+Alt+Space");
 }

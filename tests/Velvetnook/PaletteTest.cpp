@@ -271,6 +271,18 @@ TEST_F(PaletteTest, SpeaksTheLanguageOfTheInterface)
     EXPECT_TRUE(rows().front().note.isEmpty()) << qPrintable(rows().front().note);
 }
 
+// No view of the notes stands, as after a tab was left with an emptied one.
+TEST_F(PaletteTest, ANoteThatWasRemovedCanBeHadBackWithoutItsView)
+{
+    m_app->notes()->remove(QStringLiteral("groceries"));
+    ASSERT_TRUE(waitUntil([&] { return !m_app->panel()->message().isEmpty(); }));
+    EXPECT_EQ(m_app->panel()->messageAction(), "Undo");
+    EXPECT_TRUE(m_model->recordsOfKind(KestCore::kNoteKind).empty());
+    m_app->panel()->takeMessageAction();
+    EXPECT_TRUE(
+        waitUntil([&] { return m_model->recordsOfKind(KestCore::kNoteKind).size() == 1; }));
+}
+
 TEST_F(PaletteTest, ATimerThatIsOverIsBegunAgainAndNotPaused)
 {
     auto timer = KestCore::makeTimer(

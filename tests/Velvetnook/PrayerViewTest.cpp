@@ -258,6 +258,21 @@ TEST(SunPath, StaysInThePictureFromThePolesToTheEquator)
     }
 }
 
+TEST(PrayerView, AChangeLeavesWhatAnotherProgramHasChanged)
+{
+    Prayers app;
+    app.model().perform([](KestCore::StateStore &store) -> Base::Result<Velvetnook::Committed> {
+        KestCore::CompanionState companion = store.companion();
+        companion.selectedWorkspaceID = "focus";
+        KEST_CHECK(store.saveCompanion(companion));
+        return Velvetnook::Committed{}; // the model is told later
+    });
+    app.view.setFocusBuffer(25);
+    app.rest();
+    EXPECT_EQ(app.model().companion().selectedWorkspaceID, "focus");
+    EXPECT_EQ(app.model().companion().prayerBufferMinutes, 25);
+}
+
 class Reminders : public AlarmedModel
 {
 public:

@@ -6,6 +6,7 @@
 #include "Velvetnook/Application/ViewModels/OnboardingViewModel.h"
 #include "Velvetnook/Application/ViewModels/PanelViewModel.h"
 #include "Velvetnook/Application/ViewModels/UnitsViewModel.h"
+#include "tests/Store/FaultVfs.h"
 #include "tests/Velvetnook/RunningModel.h"
 
 #include <QAbstractItemModelTester>
@@ -344,8 +345,7 @@ TEST_F(SettingsViewModelTest, ExclusionsAreNamesOfOneApplicationEach)
         EXPECT_FALSE(notch.exclusionRefusal().isEmpty());
     }
     for (const char *name : {" vlc ", "VLC", "mpv"}) {
-        EXPECT_TRUE(notch.addExclusion(name));
-        running.settle();
+        EXPECT_TRUE(notch.addExclusion(name)); // while the one before is on its way
     }
     EXPECT_TRUE(notch.exclusionRefusal().isEmpty());
     EXPECT_EQ(setting("notch.exclusions"), "vlc,mpv");
@@ -407,6 +407,29 @@ TEST(OnboardingViewModel, IsShownOnceAndKeepsWhatWasChosen)
     EXPECT_EQ(again.phrase(), "alhamdulillah");
     EXPECT_EQ(again.target(), 99);
     EXPECT_EQ(running.model().state().pin.item, "alhamdulillah");
+}
+
+// The disk fills up at each of its writes once: what is shown is what is kept.
+TEST(DataSettingsTest, AResetThatFailsHalfWayShowsWhatIsOnTheDisk)
+{
+    bool hasStruck = true;
+    for (int call = 1; hasStruck && call < 100; ++call) {
+        SCOPED_TRACE(call);
+        FaultVfs disk; // before the store is opened
+        RunningModel running{
+            [](KestCore::NativeState &state) { state.devotional.session.count = 7; }};
+        SettingsViewModel settings{running.model(), running.formatting()};
+        disk.arm(FaultVfs::Fault::diskFull, call);
+        settings.data()->ask("reset");
+        settings.data()->accept();
+        running.settle();
+        hasStruck = disk.hasStruck();
+        disk.disarm();
+        const std::int64_t shown = running.state().devotional.session.count;
+        running.restart();
+        EXPECT_EQ(running.state().devotional.session.count, shown);
+    }
+    EXPECT_FALSE(hasStruck);
 }
 
 } // namespace

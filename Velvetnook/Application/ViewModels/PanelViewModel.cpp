@@ -128,7 +128,7 @@ QString PanelViewModel::summary() const { return toolSummary(chosenTab()); }
 
 bool PanelViewModel::isFrosted() const
 {
-    return m_model.setting("appearance.material") == "frosted";
+    return m_model.setting("appearance.material") != "solid";
 }
 
 QString PanelViewModel::viewName() const

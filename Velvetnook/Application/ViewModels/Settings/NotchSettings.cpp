@@ -216,7 +216,11 @@ bool NotchSettings::addExclusion(const QString &name)
     m_exclusionRefusal =
         isName ? QString{} : tr("The name of one application, without a comma");
     if (isName && !exclusions().contains(trimmed, Qt::CaseInsensitive)) {
-        changeExclusions([trimmed](QStringList &names) { names.append(trimmed); });
+        changeExclusions([trimmed](QStringList &names) {
+            if (!names.contains(trimmed, Qt::CaseInsensitive)) {
+                names.append(trimmed);
+            }
+        });
     }
     emit changed();
     return isName;
@@ -234,7 +238,6 @@ void NotchSettings::changeExclusions(std::function<void(QStringList &)> edit)
         std::string &stored = state.settings["notch.exclusions"];
         QStringList names = exclusionsIn(QString::fromStdString(stored));
         edit(names);
-        names.removeDuplicates();
         stored = names.join(u',').toStdString();
         return {};
     });
