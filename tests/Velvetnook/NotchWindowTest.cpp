@@ -217,6 +217,7 @@ TEST_F(NotchWindowTest, StaysOpenWhileAButtonIsHeldOutsideOfIt)
     enter();
     ASSERT_TRUE(XDesktop::waitFor([&] { return isOpen(); }));
     movePointer(640, 200);
+    EXPECT_FALSE(XDesktop::waitFor([&] { return isStrip(); }, 1000ms)) << "closed in use";
     XDesktop::run({"xdotool", "mousedown", "1"});
     leave();
     EXPECT_FALSE(XDesktop::waitFor([&] { return isStrip(); }, 1500ms)) << "closed in a drag";

@@ -3,6 +3,7 @@
 #include "tests/Velvetnook/XDesktop.h"
 
 #include "Velvetnook/Platform/Xcb.h"
+#include "tests/TemporaryFolder.h"
 
 #include <fcntl.h>
 #include <sys/prctl.h>
@@ -87,9 +88,12 @@ XDesktop::XDesktop()
     unsetenv("QT_QPA_PLATFORM");
     m_server.reset(xcb_connect(nullptr, nullptr));
     m_root = xcb_setup_roots_iterator(xcb_get_setup(m_server.get())).data->root;
-    m_manager = Child{{"openbox", "--sm-disable"}};
-    waitFor(
-        [&] { return !Xcb::values(m_server.get(), m_root, atom("_NET_SUPPORTED")).empty(); });
+    // It answers for the screen before it has looked for windows: one that is opened in between
+    // is never managed. Its own first command comes after both.
+    const TemporaryFolder folder;
+    const auto ready = folder.path() / "ready";
+    m_manager = Child{{"openbox", "--sm-disable", "--startup", "touch " + ready.string()}};
+    waitFor([&] { return std::filesystem::exists(ready); });
     run({"xdotool", "mousemove", "640", "600"});
 }
 
