@@ -63,7 +63,7 @@ public:
 
     // The best first; those that fit equally well as their weights are, then the shorter
     // name, then as they were added. Nothing for a query without letters.
-    std::vector<PaletteMatch> search(std::string_view query) const;
+    std::vector<PaletteMatch> search(std::string_view text) const;
 
 private:
     struct Item {

@@ -5,7 +5,6 @@
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 
-#include <QQmlEngine>
 
 namespace Velvetnook
 {
@@ -91,11 +90,6 @@ PaletteViewModel *App::palette()
         m_palette = new PaletteViewModel{*this, m_model, m_formatting};
     }
     return m_palette;
-}
-
-void registerForQml(App &app)
-{
-    qmlRegisterSingletonInstance("Velvetnook.Application", 1, 0, "App", &app);
 }
 
 } // namespace Velvetnook

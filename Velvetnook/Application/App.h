@@ -97,7 +97,4 @@ private:
     PaletteViewModel *m_palette = nullptr;
 };
 
-// Makes `app` the singleton `App` of the QML module Velvetnook.Application.
-void registerForQml(App &app);
-
 } // namespace Velvetnook

@@ -109,7 +109,7 @@ std::vector<HomeCard> homeCards(const KestCore::NativeState &state,
     Grid grid;
     std::vector<HomeCard> cards;
     for (const std::string &tool : tools) {
-        const auto kind = std::ranges::find(kKinds, tool, &Kind::tool);
+        const auto *const kind = std::ranges::find(kKinds, tool, &Kind::tool);
         const bool isThere = std::ranges::find(cards, tool, &HomeCard::tool) != cards.end();
         if (kind != kKinds.end() && !isThere && isToolOn(state, tool)) {
             cards.push_back(grid.place(tool, kind->columns));

@@ -114,7 +114,7 @@ std::optional<NextPrayer> PrayerWatch::next(Base::Instant after) const
     if (!m_inputs) {
         return std::nullopt;
     }
-    if (!isKnown(m_next, after)) {
+    if (!m_next || !isKnown(m_next, after)) {
         m_next = {.since = after, .next = PrayerCalculator::next(*m_inputs, after)};
     }
     return m_next->next;

@@ -111,7 +111,7 @@ QString toolSummary(const QString &id)
 
 QString timerTitle(const KestCore::Timer &timer, const Formatting &formatting)
 {
-    const QString own = QString::fromStdString(timer.record.title);
+    QString own = QString::fromStdString(timer.record.title);
     const std::string given{KestCore::displayTitle(timer.state.mode)};
     const QString usual = QString::fromStdString(given);
     bool isNumber = own.isEmpty() || own == usual;

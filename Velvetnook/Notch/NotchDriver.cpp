@@ -91,14 +91,12 @@ bool NotchDriver::wantsSuppression() const
     if (m_isFullScreen || (until && *until > m_model.now())) {
         return true;
     }
-    for (const auto piece : Base::split(m_model.setting("notch.exclusions"), ',')) {
-        const QString excluded =
-            QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size())).trimmed();
-        if (!excluded.isEmpty() && m_application.contains(excluded, Qt::CaseInsensitive)) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(
+        Base::split(m_model.setting("notch.exclusions"), ','), [this](std::string_view piece) {
+            const QString excluded =
+                QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size())).trimmed();
+            return !excluded.isEmpty() && m_application.contains(excluded, Qt::CaseInsensitive);
+        });
 }
 
 void NotchDriver::pointer(bool isInside, bool isPressed)
@@ -198,11 +196,9 @@ void NotchDriver::settle()
         if (isResting() || (isHoverOpen && m_isFullScreen)) {
             m_notch.suppress();
         }
-    } else if (isSuppressed()) {
-        m_notch.reset(compactWhenIdle());
-    } else if (m_notch.state ==
-                   (compactWhenIdle() ? InteractionState::hidden : InteractionState::compact) &&
-               !m_isInside) {
+    } else if (const auto other =
+                   compactWhenIdle() ? InteractionState::hidden : InteractionState::compact;
+               isSuppressed() || (m_notch.state == other && !m_isInside)) {
         m_notch.reset(compactWhenIdle());
     }
     if (!m_isInside && isResting()) {

@@ -73,11 +73,11 @@ Desktop::Desktop(App &app, ApplicationModel &model, QObject *parent)
     m_joinsBuses = true;
 }
 
-Desktop::Desktop(App &app, ApplicationModel &model, const QDBusConnection &session,
-                 const QDBusConnection &system, std::unique_ptr<Autostart> autostart,
-                 QObject *parent)
-    : QObject{parent}, m_app{app}, m_model{model}, m_session{session}, m_system{system},
-      m_autostart{std::move(autostart)}, m_capabilities{new CapabilityList{this}}
+Desktop::Desktop(App &app, ApplicationModel &model, QDBusConnection session,
+                 QDBusConnection system, std::unique_ptr<Autostart> autostart, QObject *parent)
+    : QObject{parent}, m_app{app}, m_model{model}, m_session{std::move(session)},
+      m_system{std::move(system)}, m_autostart{std::move(autostart)},
+      m_capabilities{new CapabilityList{this}}
 {
 }
 
@@ -106,7 +106,7 @@ void Desktop::begin()
 void Desktop::followNotifications()
 {
     m_notifications = new BusNotifications{m_session, applicationId(), this};
-    Alarms &alarms = m_app.alarms();
+    const Alarms &alarms = m_app.alarms();
     connect(&alarms, &Alarms::notificationWanted, this, &Desktop::post);
     connect(&alarms, &Alarms::notificationObsolete, m_notifications,
             &BusNotifications::withdraw);

@@ -37,9 +37,8 @@ class Desktop : public QObject
 public:
     // On the buses of this session, which are joined by `begin`.
     Desktop(App &app, ApplicationModel &model, QObject *parent = nullptr);
-    Desktop(App &app, ApplicationModel &model, const QDBusConnection &session,
-            const QDBusConnection &system, std::unique_ptr<Autostart> autostart,
-            QObject *parent = nullptr);
+    Desktop(App &app, ApplicationModel &model, QDBusConnection session, QDBusConnection system,
+            std::unique_ptr<Autostart> autostart, QObject *parent = nullptr);
     ~Desktop() override;
     Desktop(const Desktop &) = delete;
     Desktop &operator=(const Desktop &) = delete;

@@ -12,7 +12,7 @@
 #include <vector>
 
 struct xcb_connection_t;
-struct xcb_key_press_event_t;
+struct xcb_key_press_event_t; // NOLINT(readability-identifier-naming): xcb's own
 
 namespace Velvetnook
 {

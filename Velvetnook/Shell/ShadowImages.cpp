@@ -5,6 +5,7 @@
 #include <QColor>
 
 #include <cmath>
+#include <numbers>
 #include <utility>
 #include <vector>
 
@@ -32,7 +33,7 @@ std::vector<Layer> layersOf(const QString &step, bool isDark)
 // How much of a soft-edged span between the margins of the square lies over each of its pixels.
 std::vector<double> coverage(int side, int margin, double fall, double blur)
 {
-    const double scale = blur / 2 * std::sqrt(2.0);
+    const double scale = blur / 2 * std::numbers::sqrt2;
     std::vector<double> parts;
     for (int pixel = 0; pixel < side; ++pixel) {
         const double at = pixel + 0.5 - fall;

@@ -90,6 +90,7 @@ TEST(HiddenViews, ACountTellsNothingToViewsThatDoNotShowIt)
         });
         EXPECT_NE(ear.told(), QByteArrayList{}) << "a choice is not told either";
     }
+    QCoreApplication::processEvents();
     Ear units{{app.units()}};
     running.change(count);
     EXPECT_EQ(units.told(), QByteArrayList{});

@@ -113,8 +113,8 @@ TEST(HistoryView, PutsANewSessionFirst)
     EXPECT_EQ(inserted.count(), 1);
     EXPECT_EQ(reset.count(), 0);
     const auto first = history.sessions()->index(0, 0);
-    EXPECT_EQ(first.data(Velvetnook::SessionList::Count).toString(), "7");
-    EXPECT_EQ(first.data(Velvetnook::SessionList::Day).toString(), "Today");
+    EXPECT_EQ(first.data(Velvetnook::SessionList::count).toString(), "7");
+    EXPECT_EQ(first.data(Velvetnook::SessionList::day).toString(), "Today");
 
     running.change([](KestCore::NativeState &state) { state.devotional.records = {}; });
     EXPECT_EQ(reset.count(), 1);
@@ -131,9 +131,9 @@ TEST(HistoryView, BeginsANewDayAtMidnight)
     running.pass(Base::Seconds{kDay / 1000});
     EXPECT_EQ(history.total(), "0");
     const auto first = history.sessions()->index(0, 0);
-    EXPECT_EQ(first.data(Velvetnook::SessionList::Day).toString(), "Yesterday");
+    EXPECT_EQ(first.data(Velvetnook::SessionList::day).toString(), "Yesterday");
     running.pass(Base::Seconds{366 * kDay / 1000});
-    EXPECT_EQ(first.data(Velvetnook::SessionList::Day).toString(), "Friday 14 November 2025");
+    EXPECT_EQ(first.data(Velvetnook::SessionList::day).toString(), "Friday 14 November 2025");
 }
 
 } // namespace

@@ -46,11 +46,12 @@ std::vector<PaletteMoment> momentsOfToday(const ApplicationModel &model)
     }
     std::vector<PaletteMoment> moments;
     const auto days = KestCore::PrayerCalculator::comingDays(*inputs, model.now(), 1);
-    if (days.empty() || !days.front().times) {
+    const auto times = days.empty() ? std::nullopt : days.front().times;
+    if (!times) {
         return {};
     }
     for (const PrayerCore::Prayer prayer : kPrayers) {
-        if (const auto at = PrayerCore::instantOf(*days.front().times, prayer)) {
+        if (const auto at = PrayerCore::instantOf(*times, prayer)) {
             moments.push_back({.id = std::string{Base::textOf(prayer)},
                                .title = prayerName(prayer),
                                .at = *at});

@@ -59,10 +59,8 @@ QString FridayViewModel::dhuhr() const
         return {};
     }
     const auto today = KestCore::PrayerCalculator::comingDays(*inputs, m_model.now(), 1);
-    if (today.empty() || !today.front().times) {
-        return {};
-    }
-    return m_formatting.timeIn(inputs->calendar, today.front().times->dhuhr);
+    const auto times = today.empty() ? std::nullopt : today.front().times;
+    return times ? m_formatting.timeIn(inputs->calendar, times->dhuhr) : QString{};
 }
 
 QString FridayViewModel::dhuhrNote() const

@@ -163,9 +163,9 @@ QString HomeViewModel::counterNote() const
 {
     const KestCore::Session &session = m_model.state().devotional.session;
     const QString count = m_formatting.number(session.count);
-    const QString progress =
-        session.target ? tr("%1 of %2").arg(count, m_formatting.number(*session.target))
-                       : tr("%1, open count").arg(count);
+    QString progress = session.target
+                           ? tr("%1 of %2").arg(count, m_formatting.number(*session.target))
+                           : tr("%1, open count").arg(count);
     if (session.isPaused) {
         return tr("%1 · paused").arg(progress);
     }

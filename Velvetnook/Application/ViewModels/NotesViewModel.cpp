@@ -24,7 +24,7 @@ namespace
 
 using KestCore::LocalRecord;
 using KestCore::RecordList;
-using std::chrono_literals::operator""ms;
+using namespace std::chrono_literals;
 
 const QString kScratchpad = QStringLiteral("scratchpad");
 
@@ -314,7 +314,7 @@ void NotesViewModel::leave()
     save();
 }
 
-void NotesViewModel::copy()
+void NotesViewModel::copy() const
 {
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr) {
         QGuiApplication::clipboard()->setText(m_open.text);

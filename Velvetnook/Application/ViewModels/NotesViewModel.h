@@ -75,7 +75,7 @@ public:
     Q_INVOKABLE void editTitle(const QString &title);
     // Makes durable what is not yet; for the view that is left, and the end of the program.
     Q_INVOKABLE void leave();
-    Q_INVOKABLE void copy();
+    Q_INVOKABLE void copy() const;
     Q_INVOKABLE void setPinned(const QString &id, bool pinned);
     // By so many lines, up when negative; over other pinned ones or other loose ones only.
     Q_INVOKABLE void move(const QString &id, int lines);

@@ -29,13 +29,13 @@ QVariant PhraseList::data(const QModelIndex &index, int role) const
     }
     const Phrase &phrase = *m_phrases[static_cast<std::size_t>(index.row())];
     switch (role) {
-    case Id:
+    case phraseId:
         return QString::fromStdString(phrase.id);
-    case Number:
+    case number:
         return m_formatting.number(numberOf(phrase));
-    case Arabic:
+    case arabic:
         return QString::fromStdString(phrase.arabic);
-    case Title:
+    case title:
         return phraseTitle(phrase);
     default:
         return {};
@@ -44,7 +44,7 @@ QVariant PhraseList::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> PhraseList::roleNames() const
 {
-    return {{Id, "phraseId"}, {Number, "number"}, {Arabic, "arabic"}, {Title, "title"}};
+    return {{phraseId, "phraseId"}, {number, "number"}, {arabic, "arabic"}, {title, "title"}};
 }
 
 void PhraseList::show(const std::vector<Phrase> &all, std::vector<const Phrase *> phrases)

@@ -6,6 +6,7 @@
 
 #include <QAbstractListModel>
 
+#include <cstdint>
 #include <vector>
 
 namespace Velvetnook
@@ -19,7 +20,7 @@ class PhraseList : public QAbstractListModel
     Q_OBJECT
 
 public:
-    enum Role : int { Id = Qt::UserRole, Number, Arabic, Title };
+    enum Role : std::uint16_t { phraseId = Qt::UserRole, number, arabic, title };
 
     explicit PhraseList(const Formatting &formatting, QObject *parent = nullptr);
 

@@ -35,19 +35,19 @@ QVariant SessionList::data(const QModelIndex &index, int role) const
     const KestCore::SessionRecord &record = recordAt(index.row());
     const auto endedAt = Base::fromMilliseconds1970(record.endedAt);
     switch (role) {
-    case Arabic:
+    case arabic:
         return QString::fromStdString(phraseOf(record.dhikrId).arabic);
-    case Title:
+    case title:
         return phraseTitle(phraseOf(record.dhikrId));
-    case Count:
+    case count:
         return m_formatting.number(record.count);
-    case Target:
+    case target:
         return record.target ? m_formatting.number(*record.target) : QString{};
-    case Reached:
+    case reached:
         return record.target.has_value() && record.count >= *record.target;
-    case Time:
+    case time:
         return m_formatting.time(endedAt);
-    case Day:
+    case day:
         return dayText(endedAt, m_model, m_formatting);
     default:
         return {};
@@ -56,8 +56,8 @@ QVariant SessionList::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> SessionList::roleNames() const
 {
-    return {{Arabic, "arabic"},   {Title, "title"}, {Count, "count"}, {Target, "target"},
-            {Reached, "reached"}, {Time, "time"},   {Day, "day"}};
+    return {{arabic, "arabic"},   {title, "title"}, {count, "count"}, {target, "target"},
+            {reached, "reached"}, {time, "time"},   {day, "day"}};
 }
 
 void SessionList::follow()

@@ -7,6 +7,8 @@
 
 #include <QAbstractListModel>
 
+#include <cstdint>
+
 namespace Velvetnook
 {
 
@@ -20,7 +22,15 @@ class SessionList : public QAbstractListModel
     Q_OBJECT
 
 public:
-    enum Role : int { Arabic = Qt::UserRole, Title, Count, Target, Reached, Time, Day };
+    enum Role : std::uint16_t {
+        arabic = Qt::UserRole,
+        title,
+        count,
+        target,
+        reached,
+        time,
+        day
+    };
 
     SessionList(const ApplicationModel &model, const Formatting &formatting,
                 QObject *parent = nullptr);

@@ -11,7 +11,7 @@ namespace Velvetnook
 namespace
 {
 
-enum Role : int {
+enum Role : std::uint16_t {
     timerIdRole = Qt::UserRole,
     iconRole,
     titleRole,
@@ -64,7 +64,7 @@ QVariant TimerRows::data(const QModelIndex &index, int role) const
 QHash<int, QByteArray> TimerRows::roleNames() const
 {
     return {
-        {timerIdRole, "timerId"},   {iconRole, "iconName"},           {titleRole, "title"},
+        {timerIdRole, "timerId"},   {iconRole, "iconName"},       {titleRole, "title"},
         {noteRole, "note"},         {isRunningRole, "isRunning"}, {isChosenRole, "isChosen"},
         {canResetRole, "canReset"}, {canRemoveRole, "canRemove"}, {canSetRole, "canSet"}};
 }

@@ -47,9 +47,9 @@ std::string asWord(const std::string &text)
 
 } // namespace
 
-AutostartFile::AutostartFile(std::filesystem::path folder, std::string name,
+AutostartFile::AutostartFile(const std::filesystem::path &folder, std::string name,
                              std::filesystem::path program)
-    : m_name{std::move(name)}, m_file{std::move(folder) / (m_name + ".desktop")},
+    : m_name{std::move(name)}, m_file{folder / (m_name + ".desktop")},
       m_program{std::move(program)}
 {
 }

@@ -15,7 +15,7 @@ class AutostartFile : public Autostart
 {
 public:
     // `name` without its ending; `program` is the whole path of what is started.
-    AutostartFile(std::filesystem::path folder, std::string name,
+    AutostartFile(const std::filesystem::path &folder, std::string name,
                   std::filesystem::path program);
 
     Standing standing() const override;

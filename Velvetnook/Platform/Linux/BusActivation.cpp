@@ -41,8 +41,8 @@ bool isDesktopAction(const QString &name)
                                [&](const char *known) { return name == QLatin1String{known}; });
 }
 
-BusActivation::BusActivation(const QDBusConnection &bus, QString name, QObject *parent)
-    : Activation{parent}, m_bus{bus}, m_name{std::move(name)}
+BusActivation::BusActivation(QDBusConnection bus, QString name, QObject *parent)
+    : Activation{parent}, m_bus{std::move(bus)}, m_name{std::move(name)}
 {
     new BusActivationAdaptor{*this};
 }

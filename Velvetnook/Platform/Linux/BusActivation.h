@@ -20,7 +20,7 @@ class BusActivation : public Activation
     Q_OBJECT
 
 public:
-    BusActivation(const QDBusConnection &bus, QString name, QObject *parent = nullptr);
+    BusActivation(QDBusConnection bus, QString name, QObject *parent = nullptr);
     ~BusActivation() override;
     BusActivation(const BusActivation &) = delete;
     BusActivation &operator=(const BusActivation &) = delete;

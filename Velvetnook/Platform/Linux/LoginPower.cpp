@@ -23,8 +23,8 @@ const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 
 } // namespace
 
-LoginPower::LoginPower(const QDBusConnection &systemBus, QObject *parent)
-    : Power{parent}, m_bus{systemBus}
+LoginPower::LoginPower(QDBusConnection systemBus, QObject *parent)
+    : Power{parent}, m_bus{std::move(systemBus)}
 {
 }
 

@@ -16,7 +16,7 @@ class LoginPower : public Power
     Q_OBJECT
 
 public:
-    explicit LoginPower(const QDBusConnection &systemBus, QObject *parent = nullptr);
+    explicit LoginPower(QDBusConnection systemBus, QObject *parent = nullptr);
 
     void begin();
     bool isLocked() const override { return m_isLocked; }

@@ -65,7 +65,7 @@ Base::Result<void> PulseSounds::playNow(Player &player, Sound sound)
 
 QString PulseSounds::server()
 {
-    const QString named = qEnvironmentVariable("PULSE_SERVER");
+    QString named = qEnvironmentVariable("PULSE_SERVER");
     if (!named.isEmpty()) {
         return named;
     }

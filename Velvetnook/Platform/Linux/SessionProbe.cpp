@@ -21,9 +21,8 @@ const QString kLogin = QStringLiteral("org.freedesktop.login1");
 
 } // namespace
 
-SessionProbe::SessionProbe(const QDBusConnection &session, const QDBusConnection &system,
-                           QObject *parent)
-    : QObject{parent}, m_session{session}, m_system{system}
+SessionProbe::SessionProbe(QDBusConnection session, QDBusConnection system, QObject *parent)
+    : QObject{parent}, m_session{std::move(session)}, m_system{std::move(system)}
 {
 }
 

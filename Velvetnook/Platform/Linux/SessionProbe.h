@@ -16,8 +16,7 @@ class SessionProbe : public QObject
     Q_OBJECT
 
 public:
-    SessionProbe(const QDBusConnection &session, const QDBusConnection &system,
-                 QObject *parent = nullptr);
+    SessionProbe(QDBusConnection session, QDBusConnection system, QObject *parent = nullptr);
 
     // Ends with `done`. One that is on its way is enough.
     void begin();

@@ -29,7 +29,14 @@ class NoteList : public QAbstractListModel
     Q_OBJECT
 
 public:
-    enum Role { noteId = Qt::UserRole, title, excerpt, when, pinned, scratchpad };
+    enum Role : std::uint16_t {
+        noteId = Qt::UserRole,
+        title,
+        excerpt,
+        when,
+        pinned,
+        scratchpad
+    };
 
     using QAbstractListModel::QAbstractListModel;
 

@@ -198,7 +198,7 @@ void PlaceSettings::readFields()
 
 void PlaceSettings::setField(const QString &name, const QString &text)
 {
-    const auto field = std::ranges::find_if(
+    auto *const field = std::ranges::find_if(
         m_fields, [&](const Field &each) { return name == QLatin1String{each.name}; });
     if (field == m_fields.end() || field->text == text) {
         return;

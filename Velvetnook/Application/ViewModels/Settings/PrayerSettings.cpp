@@ -114,7 +114,7 @@ QVariantList PrayerSettings::highLatitudes() const
 
 QString PrayerSettings::signedText(int value) const
 {
-    const QString number = formatting().number(std::abs(value));
+    QString number = formatting().number(std::abs(value));
     if (value == 0) {
         return number;
     }
@@ -180,13 +180,14 @@ QVariantList PrayerSettings::times() const
         return {};
     }
     const auto days = KestCore::PrayerCalculator::comingDays(*inputs, model().now(), 1);
-    if (days.empty() || !days.front().times) {
+    const auto times = days.empty() ? std::nullopt : days.front().times;
+    if (!times) {
         return {};
     }
     const auto next = KestCore::PrayerCalculator::next(*inputs, model().now());
     QVariantList list;
     for (const Prayer prayer : kShown) {
-        const auto at = PrayerCore::instantOf(*days.front().times, prayer);
+        const auto at = PrayerCore::instantOf(*times, prayer);
         list.push_back(
             QVariantMap{{QStringLiteral("name"), prayerName(prayer)},
                         {QStringLiteral("time"),

@@ -22,7 +22,15 @@ class ToolSettings : public QAbstractListModel
     Q_PROPERTY(QString favouritesNote READ favouritesNote NOTIFY changed)
 
 public:
-    enum Role { toolId = Qt::UserRole, title, summary, icon, enabled, favourite, canTurnOff };
+    enum Role : std::uint16_t {
+        toolId = Qt::UserRole,
+        title,
+        summary,
+        icon,
+        enabled,
+        favourite,
+        canTurnOff
+    };
 
     explicit ToolSettings(ApplicationModel &model, QObject *parent = nullptr);
 
