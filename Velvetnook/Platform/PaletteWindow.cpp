@@ -130,10 +130,11 @@ void PaletteWindow::toggle()
     }
 }
 
-// Another window was chosen: the palette goes, and leaves the keyboard there.
+// Another window was chosen: the palette goes, and leaves the keyboard there. Where it was
+// opened again at once, the news of its first closing comes only now, and is none.
 void PaletteWindow::followFocus()
 {
-    if (isVisible() && !isActive()) {
+    if (isVisible() && !isActive() && focusedWindow() != static_cast<quint32>(winId())) {
         hideWindow();
     }
 }

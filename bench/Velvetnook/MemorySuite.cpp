@@ -112,7 +112,8 @@ public:
             m_keys.release(kControl);
             expect(
                 XDesktop::waitFor([&] { return m_desktop.palette().has_value() == isShown; }),
-                "the palette did not follow its key");
+                isShown ? "the palette did not come at its key"
+                        : "the palette did not go at its key");
         }
     }
 

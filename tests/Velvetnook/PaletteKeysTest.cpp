@@ -190,6 +190,25 @@ TEST_F(PaletteKeysTest, TogglesWithItsKeyAndGoesWhenAnotherWindowIsChosen)
     EXPECT_EQ(focusedWindow(), m_other.window());
 }
 
+// That the other one got the keyboard is heard when it has it no longer.
+TEST_F(PaletteKeysTest, StaysWhenItIsOpenedAgainAtOnceOverAnotherWindowOfOurs)
+{
+    QQuickWindow ours;
+    ours.setFlag(Qt::BypassWindowManagerHint);
+    ours.show();
+    giveFocusTo(static_cast<quint32>(ours.winId()));
+    ASSERT_TRUE(waitUntil([&] { return ours.isActive(); }));
+    emit m_app->palette()->toggleWanted();
+    ASSERT_TRUE(waitUntil([&] { return m_window->isActive(); }));
+    emit m_app->palette()->toggleWanted();
+    emit m_app->palette()->toggleWanted();
+    settle(200);
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_TRUE(m_window->isActive());
+    giveFocusTo(static_cast<quint32>(ours.winId()));
+    EXPECT_TRUE(waitUntil([&] { return !m_window->isVisible(); }));
+}
+
 // A key that is held repeats itself, which must not close the palette again.
 TEST_F(PaletteKeysTest, StaysOpenWhileItsKeyIsHeld)
 {
