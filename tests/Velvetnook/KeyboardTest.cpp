@@ -62,6 +62,12 @@ protected:
         });
         return found == all.rend() ? std::nullopt : std::optional{*found};
     }
+    bool isSettingsOpen()
+    {
+        return std::ranges::any_of(m_spoken.read(), [](const Spoken &one) {
+            return one.name == "Search settings" && one.isShowing;
+        });
+    }
     static std::string told(const Spoken &one) { return one.role + " '" + one.name + "'"; }
 
     // Walks with Tab until it comes round and gives what it met.
@@ -134,11 +140,28 @@ TEST_F(KeyboardTest, TabComesRoundInTheSettings)
     start();
     openTool("dhikr");
     press("ctrl+comma");
-    ASSERT_TRUE(XDesktop::waitFor([&] {
-        return std::ranges::any_of(
-            m_spoken.read(), [](const Spoken &one) { return one.name == "Search settings"; });
-    })) << "the settings did not open";
+    ASSERT_TRUE(XDesktop::waitFor([&] { return isSettingsOpen(); }));
     expectWalk("settings");
+    press("Escape");
+    EXPECT_TRUE(XDesktop::waitFor([&] { return !isSettingsOpen(); }));
+}
+
+// Before anything in them was clicked, and also when they are opened again.
+TEST_F(KeyboardTest, TheSettingsFollowTheFirstKey)
+{
+    start();
+    for (const char *page : {"Appearance", "Notch"}) {
+        openTool("dhikr");
+        press("ctrl+comma");
+        ASSERT_TRUE(XDesktop::waitFor([&] { return isSettingsOpen(); }));
+        press("Down");
+        EXPECT_TRUE(XDesktop::waitFor([&] {
+            const auto now = focused();
+            return now && now->name == page;
+        })) << page;
+        press("Escape");
+        EXPECT_TRUE(XDesktop::waitFor([&] { return !isSettingsOpen(); }));
+    }
 }
 
 TEST_F(KeyboardTest, ThePaletteIsTypedIntoAndRuns)

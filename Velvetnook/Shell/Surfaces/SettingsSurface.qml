@@ -36,6 +36,11 @@ Rectangle {
             App.settings.page = view;
         }
     }
+    Window.onVisibilityChanged: {
+        if (Window.visibility !== Window.Hidden) {
+            navigation.begin();
+        }
+    }
 
     SettingsTitleBar {
         id: bar

@@ -9,12 +9,21 @@ import Velvetnook.Shell
 FocusScope {
     id: root
 
+    // Without the ring, which is for who has moved by keyboard.
+    function begin() {
+        const chosen = App.settings.pages.findIndex(each => each.page === App.settings.page);
+        (rows.itemAt(chosen)?.row ?? search).forceActiveFocus(Qt.OtherFocusReason);
+    }
     function step(from, by) {
         const next = rows.itemAt(from + by);
         if (next) {
-            App.settings.page = next.modelData.page;
-            next.row.forceActiveFocus(Qt.TabFocusReason);
+            choose(next, Qt.TabFocusReason);
         }
+    }
+    // The focus first: the row that has it cannot cease to be a stop of Tab.
+    function choose(slot, reason) {
+        slot.row.forceActiveFocus(reason);
+        App.settings.page = slot.modelData.page;
     }
 
     Accessible.role: Accessible.PageTabList
@@ -78,7 +87,7 @@ FocusScope {
                     Accessible.role: Accessible.PageTab
                     Keys.onUpPressed: root.step(slot.index, -1)
                     Keys.onDownPressed: root.step(slot.index, 1)
-                    onClicked: App.settings.page = slot.modelData.page
+                    onClicked: root.choose(slot, Qt.MouseFocusReason)
                 }
             }
         }
