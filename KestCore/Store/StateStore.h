@@ -129,7 +129,7 @@ private:
     Snapshot currentSnapshot() const;
 
     std::shared_ptr<const void> m_held; // before the lock, so that it goes after it
-    Base::FileLock m_lock; // before the database, so that it is given up after it
+    Base::FileLock m_lock;              // before the database, so that it is given up after it
     Base::Database m_database;
     NativeState m_state{};
     CompanionState m_companion{};

@@ -5,7 +5,6 @@
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 
-
 namespace Velvetnook
 {
 

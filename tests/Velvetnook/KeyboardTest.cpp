@@ -128,8 +128,8 @@ protected:
 TEST_F(KeyboardTest, TabComesRoundInEveryViewAndMeetsWhatHasAName)
 {
     start();
-    for (const char *tool : {"home", "dhikr", "names", "prayer", "friday", "timers",
-                             "units", "notes"}) {
+    for (const char *tool :
+         {"home", "dhikr", "names", "prayer", "friday", "timers", "units", "notes"}) {
         openTool(tool);
         expectWalk(tool);
     }
