@@ -13,6 +13,7 @@ declare -A below=(
     [SecretService]="Base SecretService"
     [HttpTransport]="Base HttpTransport"
     [MediaPlayers]="Base KestCore MediaPlayers"
+    [CalendarFiles]="Base KestCore CalendarFiles"
     [BrowserBridge]="Base KestCore BrowserBridge"
     [MonitorCore]="Base MonitorCore"
     [MonitorLinux]="Base MonitorCore MonitorLinux"
