@@ -135,8 +135,13 @@ void Reckoning::addSeries(const EventText &event)
         const bool isKnown = std::ranges::find(*dates, extra.start) != dates->end();
         if (!isKnown && !isMissing(extra.start)) {
             const bool isOwn = extra.end || extra.length;
-            add(event, extra.start, isOwn ? extra.end : event.end,
-                isOwn ? extra.length : event.length);
+            EventText single = event;
+            if (isOwn) {
+                single.start = extra.start;
+                single.end = extra.end;
+                single.length = extra.length;
+            }
+            add(single, extra.start, single.end, single.length);
         }
     }
 }
@@ -202,8 +207,10 @@ Base::Instant Reckoning::endOf(const EventText &event, const EventTime &start,
 {
     EventTime last = start;
     if (start.clock == Clock::date) {
-        const std::int64_t days =
-            end ? dayOf(end->wall) - dayOf(event.start.wall) : (length ? length->days : 1);
+        std::int64_t days = length ? length->days : 1;
+        if (end) {
+            days = dayOf(end->wall) - dayOf(event.start.wall);
+        }
         last.wall += std::max<std::int64_t>(1, days) * kDay;
         return m_zones.instantOf(last);
     }

@@ -108,6 +108,23 @@ std::string shown(const std::string &text)
     return std::string{Base::firstCharacters(printed, kLongestTitle)};
 }
 
+// Longer than a hundred years nothing lasts.
+bool isLength(const std::optional<EventLength> &length)
+{
+    constexpr std::int64_t kMostDays = 36'525;
+    return !length || (length->days <= kMostDays && length->seconds <= kMostDays * 86'400);
+}
+
+// Whether the event's values make sense together.
+bool keepsRules(const EventText &event)
+{
+    const bool isSameClock = event.end && event.end->clock == event.start.clock &&
+                             event.end->zone == event.start.zone;
+    return isLength(event.length) &&
+           std::ranges::all_of(event.extra, isLength, &ExtraDate::length) &&
+           !(isSameClock && event.end->wall < event.start.wall);
+}
+
 class Reader
 {
 public:
@@ -232,9 +249,7 @@ void Reader::finishEvent()
         return;
     }
     auto event = parsed();
-    if (!event ||
-        (event->end && event->end->clock == event->start.clock &&
-         event->end->zone == event->start.zone && event->end->wall < event->start.wall)) {
+    if (!event || !keepsRules(*event)) {
         ++m_document.broken;
         return;
     }

@@ -20,6 +20,8 @@ namespace
 namespace chrono = std::chrono;
 
 constexpr std::int64_t kDay = 86'400;
+constexpr int kFirstYear = 2; // what comes of it is a year of four digits on every clock
+constexpr int kLastYear = 9998;
 constexpr std::int64_t kMostTimesADay = 100; // a rule that asks for more is none of a person
 constexpr std::int64_t kOtherCalendar = 20;  // how much dearer a step in such a one is
 
@@ -40,7 +42,8 @@ std::optional<std::int64_t> wallOf(const icaltimetype &time)
                                       chrono::day{static_cast<unsigned>(time.day)}};
     const bool isTime = time.hour >= 0 && time.hour < 24 && time.minute >= 0 &&
                         time.minute < 60 && time.second >= 0 && time.second <= 60;
-    if (!date.ok() || time.year < 1 || time.year > 9999 || (time.is_date == 0 && !isTime)) {
+    if (!date.ok() || time.year < kFirstYear || time.year > kLastYear ||
+        (time.is_date == 0 && !isTime)) {
         return std::nullopt;
     }
     const std::int64_t days = Days{date}.time_since_epoch().count();
@@ -222,9 +225,11 @@ Cost costOf(const icalrecurrencetype &rule, std::int64_t days)
                            std::max<std::int64_t>(1, named(rule.by_second))};
     const auto *const found = std::ranges::find(kPeriods, rule.freq, &Period::frequency);
     const std::int64_t length = found == kPeriods.end() ? 1 : found->days;
-    // A rule that picks by position counts out the whole period for one date.
-    const bool picks = named(rule.by_set_pos) > 0;
-    const std::int64_t each = picks ? length * cost.timesADay : (isHourly ? cost.timesADay : 1);
+    std::int64_t each = isHourly ? cost.timesADay : 1;
+    if (named(rule.by_set_pos) > 0) {
+        // A rule that picks by position counts out the whole period for one date.
+        each = length * cost.timesADay;
+    }
     cost.steps = (days / length + 1) * each;
     if (rule.rscale != nullptr) {
         cost.steps *= kOtherCalendar;

@@ -37,17 +37,6 @@ struct Arguments {
     bool isIcs = false;
 };
 
-Result<LocalDate> parseDate(const std::string &text)
-{
-    const auto midnight = Base::fromIso8601(text + "T00:00:00Z");
-    if (!midnight) {
-        return std::unexpected(
-            KestError::invalidData("Write a date as year-month-day, such as 2026-11-21"));
-    }
-    return LocalDate{std::chrono::floor<std::chrono::days>(
-        std::chrono::floor<std::chrono::seconds>(*midnight))};
-}
-
 // The stored settings with the options over them.
 Result<PrayerInputs> inputsFor(const Session &session, const Arguments &args)
 {
@@ -153,7 +142,7 @@ Result<void> runPrayer(const Session &session, const Arguments &args)
     const Base::Instant now = Base::wallClock();
     LocalDate first = PrayerCalculator::today(inputs, now);
     if (args.date) {
-        KEST_TRY(first, parseDate(*args.date));
+        KEST_TRY(first, dateFrom(*args.date));
     }
     const int count = args.days.value_or(1);
     KEST_CHECK(PrayerCalculator::checkDate(first));
@@ -209,8 +198,7 @@ Result<void> runMonth(const Session &session, const Arguments &args)
         }
         return session.console.answer(answers, [] {});
     }
-    const std::string title = dateText(first);
-    session.console.line(title.substr(title.find(' ', title.find(' ') + 1) + 1));
+    session.console.line(monthText(year / month));
     printTable(session.console, inputs, days);
     session.console.line(session.console.styled(kNote, Style::faint));
     return {};

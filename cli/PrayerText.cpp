@@ -7,6 +7,7 @@
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <cstdlib>
 
 namespace Cli
 {
@@ -78,6 +79,16 @@ std::string isoDateText(LocalDate date)
                        static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
 }
 
+KestCore::Result<LocalDate> dateFrom(const std::string &text)
+{
+    const auto midnight = Base::fromIso8601(text + "T00:00:00Z");
+    if (!midnight) {
+        return std::unexpected(
+            Base::KestError::invalidData("Write a date as year-month-day, such as 2026-11-21"));
+    }
+    return LocalDate{chrono::floor<chrono::days>(chrono::floor<chrono::seconds>(*midnight))};
+}
+
 std::string dateText(LocalDate date)
 {
     const chrono::weekday weekday{chrono::sys_days{date}};
@@ -86,12 +97,28 @@ std::string dateText(LocalDate date)
         kMonths.at(static_cast<unsigned>(date.month()) - 1), static_cast<int>(date.year()));
 }
 
+std::string monthText(chrono::year_month month)
+{
+    return fmt::format("{} {}", kMonths.at(static_cast<unsigned>(month.month()) - 1),
+                       static_cast<int>(month.year()));
+}
+
 std::string islamicDateText(LocalDate date)
 {
     const auto islamic = KestCore::PrayerCalculator::islamicDate(date);
     return fmt::format("{} {} {}", islamic.day,
                        kIslamicMonths.at(static_cast<std::size_t>(islamic.month - 1)),
                        islamic.year);
+}
+
+std::string dateLocale()
+{
+    for (const char *name : {"LC_ALL", "LC_TIME", "LANG"}) {
+        if (const char *value = std::getenv(name); value != nullptr && *value != '\0') {
+            return value;
+        }
+    }
+    return {};
 }
 
 std::string countdownText(Base::Seconds left)

@@ -21,10 +21,17 @@ std::string clockText(const KestCore::Calendar &calendar, std::optional<Base::In
 // "2026-11-21"
 std::string isoDateText(KestCore::LocalDate date);
 
+// From "2026-11-21". Fails with invalidData for anything else.
+[[nodiscard]] KestCore::Result<KestCore::LocalDate> dateFrom(const std::string &text);
+
 // "Saturday 21 November 2026", "11 Jumada al-Akhira 1448" and "in 1 h 12 min".
 std::string dateText(KestCore::LocalDate date);
+std::string monthText(std::chrono::year_month month); // "November 2026"
 std::string islamicDateText(KestCore::LocalDate date);
 std::string countdownText(Base::Seconds left);
+
+// The locale whose country says how weeks run, as the environment names it; may be empty.
+std::string dateLocale();
 
 // One line a day, with a heading: the six times, comma-separated.
 std::string csvText(const KestCore::Calendar &calendar,

@@ -40,6 +40,7 @@ void addDocumentCommands(CLI::App &program, Session &session);
 void addSettingsCommand(CLI::App &program, Session &session);
 void addPrayerCommands(CLI::App &program, Session &session);
 void addPlaceCommands(CLI::App &program, Session &session);
+void addCalendarCommands(CLI::App &program, Session &session);
 void addReminderCommands(CLI::App &program, Session &session);
 void addBackupCommands(CLI::App &program, Session &session);
 void addTimerCommands(CLI::App &program, Session &session);

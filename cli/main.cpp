@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Base/Text.h"
 #include "cli/Session.h"
+#include "cli/UsageCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -58,6 +59,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addSettingsCommand(program, session);
     Cli::addPrayerCommands(program, session);
     Cli::addPlaceCommands(program, session);
+    Cli::addCalendarCommands(program, session);
     Cli::addReminderCommands(program, session);
     Cli::addBackupCommands(program, session);
     Cli::addTimerCommands(program, session);
@@ -69,6 +71,7 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addShelfCommands(program, session);
     Cli::addMessageCommands(program, session);
     Cli::addMonitorCommands(program, session);
+    Cli::addUsageCommand(program, session);
     Cli::addWeatherCommand(program, session);
     Cli::addInsightCommands(program, session);
     Cli::addPlaybackCommands(program, session);

@@ -20,7 +20,7 @@ namespace
 EventParser &parser()
 {
     static const auto opened = openEventParser();
-    return **opened;
+    return *opened.value();
 }
 
 std::string calendarOf(const std::string &lines)
@@ -194,7 +194,7 @@ TEST(Agenda, CountsOutSeries)
              {"further dates, one with a length of its own",
               "DTSTART:20261120T080000\nDTEND:20261120T090000\n"
               "RDATE:20261122T080000,20261120T080000\n"
-              "RDATE;VALUE=PERIOD:20261121T120000/PT5M\n",
+              "RDATE;VALUE=PERIOD:20261121T120000/20261121T120500\n",
               "2026-11-20",
               9,
               {"11-20 08:00-09:00 E", "11-21 12:00-12:05 E", "11-22 08:00-09:00 E"}},
