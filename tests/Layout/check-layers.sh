@@ -15,6 +15,7 @@ declare -A below=(
     [MediaPlayers]="Base KestCore MediaPlayers"
     [CalendarFiles]="Base KestCore CalendarFiles"
     [BrowserBridge]="Base KestCore BrowserBridge"
+    [Assistants]="Base KestCore Assistants"
     [MonitorCore]="Base MonitorCore"
     [MonitorLinux]="Base MonitorCore MonitorLinux"
 )
