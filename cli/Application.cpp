@@ -25,8 +25,6 @@ using KestCore::ApplicationAnswer;
 using KestCore::ApplicationCommand;
 using KestCore::ApplicationRequest;
 
-constexpr timeval kPatience{.tv_sec = 5, .tv_usec = 0};
-
 KestError noAnswer()
 {
     return KestError::unavailable("Velvetnook is running but does not answer");
@@ -34,7 +32,8 @@ KestError noAnswer()
 
 } // namespace
 
-std::optional<Application> Application::find(const std::filesystem::path &databaseFile)
+std::optional<Application> Application::find(const std::filesystem::path &databaseFile,
+                                             std::chrono::milliseconds patience)
 {
     const std::string path = KestCore::applicationSocket(databaseFile).string();
     sockaddr_un address{};
@@ -48,8 +47,10 @@ std::optional<Application> Application::find(const std::filesystem::path &databa
         return std::nullopt;
     }
     // Before connecting: with all its places taken, the application lets callers wait there.
-    setsockopt(socket.get(), SOL_SOCKET, SO_RCVTIMEO, &kPatience, sizeof kPatience);
-    setsockopt(socket.get(), SOL_SOCKET, SO_SNDTIMEO, &kPatience, sizeof kPatience);
+    const timeval limit{.tv_sec = patience.count() / 1000,
+                        .tv_usec = patience.count() % 1000 * 1000};
+    setsockopt(socket.get(), SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+    setsockopt(socket.get(), SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
     if (connect(socket.get(), reinterpret_cast<const sockaddr *>(&address), sizeof address) !=
             0 ||
         !KestCore::isOwnProgram(socket.get())) {

@@ -5,6 +5,7 @@
 #include "Base/File.h"
 #include "KestCore/Surfaces/ApplicationCommand.h"
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -18,8 +19,12 @@ using Base::Result;
 class Application
 {
 public:
+    // How long each step of a conversation may take.
+    static constexpr std::chrono::milliseconds kPatience{5000};
+
     // Nothing when none is running.
-    static std::optional<Application> find(const std::filesystem::path &databaseFile);
+    static std::optional<Application> find(const std::filesystem::path &databaseFile,
+                                           std::chrono::milliseconds patience = kPatience);
 
     // Fails with what the application refuses, and when it does not answer in time.
     [[nodiscard]] Result<KestCore::ApplicationAnswer>

@@ -62,10 +62,18 @@ fs::path applicationSocket(const fs::path &databaseFile)
 Result<ApplicationCommand> readApplicationCommand(std::string_view line)
 {
     KEST_TRY(auto command, json::decode<ApplicationCommand>(line));
-    const bool isBorrow = command.request == ApplicationRequest::borrow;
-    if (isBorrow == command.how.has_value()) {
+    if (command.event.has_value() != (command.request == ApplicationRequest::hook)) {
+        return std::unexpected(
+            KestError::invalidData("A hook, and nothing else, has an event"));
+    }
+    if (command.event) {
+        KEST_CHECK(validate(*command.event));
+    }
+    const bool isWithoutHow = command.request == ApplicationRequest::borrow ||
+                              command.request == ApplicationRequest::hook;
+    if (isWithoutHow == command.how.has_value()) {
         return std::unexpected(KestError::invalidData(
-            isBorrow ? "Borrowing has no \"how\"" : "\"how\" is open, close or toggle"));
+            isWithoutHow ? "This has no \"how\"" : "\"how\" is open, close or toggle"));
     }
     if (!command.tool) {
         return command;

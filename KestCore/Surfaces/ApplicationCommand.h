@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KestCore/Surfaces/AssistantEvent.h"
 #include "KestCore/Vocabulary.h"
 
 #include <cstddef>
@@ -24,12 +25,13 @@ enum class ApplicationRequest : std::uint8_t {
     palette,
     notch,
     borrow, // the store, until the connection ends
+    hook,   // what a coding assistant does
 };
 constexpr auto enumTexts(Of<ApplicationRequest>)
 {
     using enum ApplicationRequest;
-    return Base::EnumTexts<ApplicationRequest, 3>{
-        {{palette, "palette"}, {notch, "notch"}, {borrow, "borrow"}}};
+    return Base::EnumTexts<ApplicationRequest, 4>{
+        {{palette, "palette"}, {notch, "notch"}, {borrow, "borrow"}, {hook, "hook"}}};
 }
 
 enum class SurfaceStep : std::uint8_t { open, close, toggle };
@@ -42,8 +44,9 @@ constexpr auto enumTexts(Of<SurfaceStep>)
 
 struct ApplicationCommand {
     ApplicationRequest request{};
-    std::optional<SurfaceStep> how{};  // what becomes of the surface
-    std::optional<std::string> tool{}; // the one that the notch shows
+    std::optional<SurfaceStep> how{};      // what becomes of the surface
+    std::optional<std::string> tool{};     // the one that the notch shows
+    std::optional<AssistantEvent> event{}; // of a hook
 
     bool operator==(const ApplicationCommand &) const = default;
 };
@@ -51,7 +54,7 @@ consteval auto jsonFields(Of<ApplicationCommand>)
 {
     using R = ApplicationCommand;
     return std::tuple{json::Field{"do", &R::request}, json::Field{"how", &R::how},
-                      json::Field{"tool", &R::tool}};
+                      json::Field{"tool", &R::tool}, json::Field{"event", &R::event}};
 }
 static_assert(json::coversAllMembers<ApplicationCommand>());
 

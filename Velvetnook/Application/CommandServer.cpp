@@ -202,6 +202,11 @@ void CommandServer::obey(Client &client, const ApplicationCommand &command)
         m_lender.borrow(client.id, [this, id = client.id] { answer(id, {.lent = true}); });
         return;
     }
+    if (command.event) {
+        emit assistantTold(*command.event);
+        answer(client.id, {.done = true});
+        return;
+    }
     const auto how = Base::textOf(command.how.value_or(KestCore::SurfaceStep::toggle));
     const QString step = QString::fromUtf8(how.data(), static_cast<qsizetype>(how.size()));
     if (command.request == ApplicationRequest::palette) {

@@ -39,6 +39,7 @@ signals:
     // "open", "close" or "toggle"; `tool` may be empty.
     void paletteWanted(const QString &how);
     void notchWanted(const QString &how, const QString &tool);
+    void assistantTold(const KestCore::AssistantEvent &event);
 
 private:
     struct Client;
