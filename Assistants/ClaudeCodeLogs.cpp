@@ -70,6 +70,14 @@ void remember(const Line &line, LogMemory &memory)
     }
 }
 
+LoggedStep stepOf(const Line &line, Base::Instant at)
+{
+    const bool isOver = line.type == "assistant" && line.message &&
+                        line.message->stopReason.value_or("") == "end_turn";
+    using enum KestCore::AssistantState;
+    return {.at = at, .state = isOver ? waiting : working};
+}
+
 Result<LineFinding> read(const json::PaddedText &text, LogMemory &memory)
 {
     KEST_TRY(const Line line, json::decode<Line>(text));
@@ -89,7 +97,8 @@ Result<LineFinding> read(const json::PaddedText &text, LogMemory &memory)
                              .cacheWrite = message.usage->cacheWrite,
                              .cacheRead = message.usage->cacheRead}};
     KEST_TRY(use.at, loggedInstant(*line.timestamp));
-    return LineFinding{.use = std::move(use)};
+    const LoggedStep step = stepOf(line, use.at);
+    return LineFinding{.use = std::move(use), .step = step};
 }
 
 std::optional<LoggedStep> step(const json::PaddedText &text, LogMemory &memory)
@@ -103,10 +112,7 @@ std::optional<LoggedStep> step(const json::PaddedText &text, LogMemory &memory)
     if (!at) {
         return std::nullopt;
     }
-    const bool isOver = line->type == "assistant" && line->message &&
-                        line->message->stopReason.value_or("") == "end_turn";
-    using enum KestCore::AssistantState;
-    return LoggedStep{.at = *at, .state = isOver ? waiting : working};
+    return stepOf(*line, *at);
 }
 
 } // namespace

@@ -164,6 +164,7 @@ Result<LineFinding> read(const json::PaddedText &text, LogMemory &memory)
     }
     KEST_TRY(const Base::Instant at, loggedInstant(*line.timestamp));
     LineFinding finding;
+    finding.step = LoggedStep{.at = at, .state = KestCore::AssistantState::working};
     if (payload.info) {
         KEST_TRY(const auto used, usedIn(*payload.info, memory));
         if (used) {

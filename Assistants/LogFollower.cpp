@@ -34,10 +34,19 @@ bool isBehindLine(int descriptor, const LogPlace &place)
             last == '\n');
 }
 
+// Behind the last end of a line; much faster than the text's own search backwards.
+std::size_t beginOfLastLine(std::string_view text)
+{
+    const void *const end = text.empty() ? nullptr : ::memrchr(text.data(), '\n', text.size());
+    return end == nullptr
+               ? 0
+               : static_cast<std::size_t>(static_cast<const char *>(end) - text.data()) + 1;
+}
+
 std::string_view lastLineOf(std::string_view lines)
 {
     lines.remove_suffix(1);
-    return lines.substr(lines.rfind('\n') + 1);
+    return lines.substr(beginOfLastLine(lines));
 }
 
 } // namespace
@@ -90,7 +99,7 @@ LogFollower::follow(const std::filesystem::path &file, LogPlace &place,
         reading.bytes += static_cast<std::uint64_t>(got);
         std::string_view text{m_buffer.data(), held + static_cast<std::size_t>(got)};
         text.remove_prefix(passLongLine(text, place));
-        const std::string_view lines = text.substr(0, text.rfind('\n') + 1);
+        const std::string_view lines = text.substr(0, beginOfLastLine(text));
         if (!lines.empty()) {
             takeMarked(lines, place.offset, markers, take);
             reading.lastLine = lastLineOf(lines);
@@ -136,7 +145,7 @@ void LogFollower::takeMarked(std::string_view lines, std::uint64_t offset,
                                                 marker.data(), marker.size())) {
             const auto at =
                 static_cast<std::size_t>(static_cast<const char *>(hit) - lines.data());
-            const std::size_t begin = lines.rfind('\n', at) + 1;
+            const std::size_t begin = beginOfLastLine(lines.substr(0, at));
             const std::size_t end = lines.find('\n', at);
             m_found.emplace_back(begin, end);
             from = end + 1;

@@ -35,9 +35,16 @@ struct Limit {
     bool operator==(const Limit &) const = default;
 };
 
+// The last thing that happened in a session.
+struct LoggedStep {
+    Base::Instant at{};
+    KestCore::AssistantState state{};
+};
+
 struct LineFinding {
     std::optional<LoggedUse> use{};
     std::vector<Limit> limits{};
+    std::optional<LoggedStep> step{};
 };
 
 // What earlier lines of the same log said that later ones rest on.
@@ -48,12 +55,6 @@ struct LogMemory {
     TokenCounts total{}; // of the log so far, where the tool counts so
 };
 
-// The last thing that happened in a session.
-struct LoggedStep {
-    Base::Instant at{};
-    KestCore::AssistantState state{};
-};
-
 // One tool's logs: files of JSON lines somewhere below a folder.
 struct LogFormat {
     std::string_view tool{};
@@ -62,7 +63,7 @@ struct LogFormat {
     std::span<const std::string_view> markers{};
     // Fails with invalidData for a line that is damaged.
     Result<LineFinding> (*read)(const json::PaddedText &line, LogMemory &memory){};
-    // Of any line; nothing for one that says nothing of it.
+    // Of the last line, which may have no marker; nothing for one that says nothing of it.
     std::optional<LoggedStep> (*step)(const json::PaddedText &line, LogMemory &memory){};
 };
 

@@ -122,6 +122,7 @@ void UsageLogs::takeLine(const fs::path &file, Log &log, const LogFollower::Mark
         ++m_totals.damagedLines;
         return;
     }
+    log.step = finding->step ? finding->step : log.step;
     if (const auto &use = finding->use; use && use->at >= m_since) {
         m_ledger.add(log.format->tool, log.memory.folder, *use,
                      fmt::format("{}:{}", file.native(), line.offset));

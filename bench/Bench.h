@@ -95,5 +95,6 @@ std::vector<Row> backupSuite();
 std::vector<Row> collectorSuite();
 std::vector<Row> recordingSuite();
 std::vector<Row> weatherSuite();
+std::vector<Row> assistantSuite();
 
 } // namespace Bench

@@ -12,11 +12,17 @@ int main(int argc, char **argv)
         return Bench::printPeakMemory(argv + 2);
     }
     const std::pair<std::string_view, Bench::Suite> suites[] = {
-        {"json", Bench::jsonSuite},           {"store", Bench::storeSuite},
-        {"prayer", Bench::prayerSuite},       {"clipboard", Bench::clipboardSuite},
-        {"program", Bench::programSuite},     {"backup", Bench::backupSuite},
-        {"monitor", Bench::monitorSuite},     {"collector", Bench::collectorSuite},
-        {"recording", Bench::recordingSuite}, {"weather", Bench::weatherSuite},
+        {"json", Bench::jsonSuite},
+        {"store", Bench::storeSuite},
+        {"prayer", Bench::prayerSuite},
+        {"clipboard", Bench::clipboardSuite},
+        {"program", Bench::programSuite},
+        {"backup", Bench::backupSuite},
+        {"monitor", Bench::monitorSuite},
+        {"collector", Bench::collectorSuite},
+        {"recording", Bench::recordingSuite},
+        {"weather", Bench::weatherSuite},
+        {"assistants", Bench::assistantSuite},
     };
     for (int at = 1; at < argc; ++at) {
         if (std::ranges::none_of(suites, [&](const auto &s) { return s.first == argv[at]; })) {

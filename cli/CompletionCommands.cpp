@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Assistants/HookFile.h"
 #include "KestCore/Clients/InsightPeriod.h"
 #include "KestCore/Clients/InsightReport.h"
 #include "KestCore/Devotional/Content.h"
@@ -138,6 +139,17 @@ Words argumentsFor(const CLI::App &owner, const Words &typed)
     if ((command == "connect" || command == "disconnect") && parent != nullptr &&
         parent->get_name() == "insights") {
         return textsOf<KestCore::InsightProvider>();
+    }
+    if ((command == "connect" || command == "disconnect") && parent != nullptr &&
+        parent->get_name() == "assistants") {
+        Words tools;
+        for (const auto &tool : Assistants::hookTools()) {
+            tools.emplace_back(tool.name);
+        }
+        return tools;
+    }
+    if (command == "hook") {
+        return {"claude-code", "cursor"};
     }
     if ((command == "open" || command == "toggle") && parent != nullptr &&
         parent->get_name() == "notch") {

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Assistants/HookFile.h"
+#include "KestCore/Clients/UpdateClient.h"
 #include "KestCore/Clipboard/ClipboardHistory.h"
 #include "KestCore/Clipboard/ClipboardKey.h"
 #include "KestCore/Devotional/Content.h"
@@ -16,6 +18,7 @@
 
 #include <algorithm>
 #include <clocale>
+#include <cstdlib>
 #include <filesystem>
 
 // What works on this machine and what does not, each with the way out.
@@ -170,6 +173,49 @@ Finding checkTerminal()
             .advice = "Set a UTF-8 locale, such as LANG=C.UTF-8"};
 }
 
+// That nobody is asked is a choice, of the user or of who made the build, and no fault.
+Finding checkUpdates(const Session &session)
+{
+    Finding finding{.check = "updates", .state = State::full};
+    const auto settings = storedSettings(session);
+    std::error_code error;
+    const auto self = fs::read_symlink("/proc/self/exe", error);
+    const auto allowed = settings ? KestCore::mayCheck(KestCore::thisBuild(KEST_VERSION),
+                                                       *settings, KestCore::isPackaged(self))
+                                  : Result<void>{std::unexpected(settings.error())};
+    finding.detail = allowed ? "looked for once a day" : allowed.error().message;
+    return finding;
+}
+
+// Whether the hooks of the assistants that are here tell the application of their work.
+std::vector<Finding> checkAssistants()
+{
+    const char *const home = std::getenv("HOME");
+    std::vector<Finding> findings;
+    for (const auto &tool : Assistants::hookTools()) {
+        const auto plan = Assistants::planHooks(tool, Assistants::HookChange::connect,
+                                                home == nullptr ? "/" : home, "kest");
+        std::error_code error;
+        if (home == nullptr || !fs::is_directory(fs::path{home} / tool.folder, error)) {
+            continue;
+        }
+        Finding finding{.check = std::string{tool.title}, .state = State::full};
+        if (!plan) {
+            finding.state = State::degraded;
+            finding.detail = plan.error().message;
+        } else {
+            finding.detail =
+                plan->isNeeded()
+                    ? fmt::format("not connected; kest assistants connect {} shows "
+                                  "what that would change",
+                                  tool.name)
+                    : "connected";
+        }
+        findings.push_back(std::move(finding));
+    }
+    return findings;
+}
+
 Result<void> runDoctor(const Session &session)
 {
     std::vector<Finding> findings = checkStore(session);
@@ -177,6 +223,8 @@ Result<void> runDoctor(const Session &session)
     findings.push_back(checkResources());
     findings.push_back(checkTerminal());
     std::ranges::move(checkClipboard(session), std::back_inserter(findings));
+    findings.push_back(checkUpdates(session));
+    std::ranges::move(checkAssistants(), std::back_inserter(findings));
     KEST_CHECK(session.console.answer(findings, [&] {
         const Console &console = session.console;
         std::vector<std::vector<std::string>> rows;

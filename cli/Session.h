@@ -56,6 +56,9 @@ void addDoctorCommand(CLI::App &program, Session &session);
 void addClipboardCommands(CLI::App &program, Session &session);
 void addWeatherCommand(CLI::App &program, Session &session);
 void addInsightCommands(CLI::App &program, Session &session);
+void addAssistantCommands(CLI::App &program, Session &session);
+void addHookCommand(CLI::App &program, Session &session);
+void addUpdateCommand(CLI::App &program, Session &session);
 void addSurfaceCommands(CLI::App &program, Session &session);
 void addCompletionCommands(CLI::App &program, Session &session);
 

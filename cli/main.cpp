@@ -76,6 +76,9 @@ void addCommands(CLI::App &program, Cli::Session &session)
     Cli::addInsightCommands(program, session);
     Cli::addPlaybackCommands(program, session);
     Cli::addDoctorCommand(program, session);
+    Cli::addAssistantCommands(program, session);
+    Cli::addHookCommand(program, session);
+    Cli::addUpdateCommand(program, session);
     Cli::addSurfaceCommands(program, session);
     Cli::addCompletionCommands(program, session);
 }

@@ -227,7 +227,7 @@ TEST_F(Logs, PassesOverAndCountsWhatIsHostile)
 
 TEST_F(Logs, SaysWhoWorksAndWhoWaits)
 {
-    write(kClaude, answer("a", 1));
+    write(kClaude, answer("a", 1, "11:59:30") + "{\"type\":\"summary\"}\n");
     struct Case {
         const char *name;
         std::string line;
@@ -235,6 +235,7 @@ TEST_F(Logs, SaysWhoWorksAndWhoWaits)
         AssistantState state;
     };
     for (const auto &[name, line, secondsLater, state] : {
+             Case{"at work", "", 0, AssistantState::working},
              Case{"asked", question("11:58:00"), 0, AssistantState::working},
              Case{"silent", "", 1000, AssistantState::idle},
              Case{"done", answer("b", 1, "11:59:00", "2026-11-21", "end_turn"), 3600,

@@ -5,6 +5,7 @@
 #include "KestCore/Devotional/Counting.h"
 #include "KestCore/Surfaces/ApplicationCommand.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/AssistantActivity.h"
 #include "tests/EndToEnd/Program.h"
 #include "tests/TemporaryFolder.h"
 
@@ -24,6 +25,7 @@
 
 #include <csignal>
 #include <cstring>
+#include <fstream>
 #include <thread>
 
 namespace
@@ -130,12 +132,13 @@ protected:
     }
 
     // kest while the loop goes on.
-    Outcome run(const std::vector<std::string> &arguments)
+    Outcome run(const std::vector<std::string> &arguments,
+                const std::filesystem::path &input = "/dev/null")
     {
         Outcome outcome;
         std::atomic<bool> isDone = false;
         std::jthread thread{[&] {
-            outcome = runKest(m_folder.path(), arguments);
+            outcome = runKest(m_folder.path(), arguments, input);
             isDone = true;
         }};
         EXPECT_TRUE(waitUntil([&] { return isDone.load(); }));
@@ -346,6 +349,42 @@ TEST_F(CommandServerTest, SleepsWhileThereIsNoDescriptorForACaller)
     Caller again{database()};
     ASSERT_TRUE(again.say("{\"do\":\"borrow\"}\n"));
     EXPECT_EQ(again.hear(), "{\"lent\":true}\n");
+}
+
+TEST_F(CommandServerTest, HearsTheHooksOfAssistants)
+{
+    AssistantActivity activity{Base::wallClock};
+    QObject::connect(m_server.get(), &CommandServer::assistantTold, &activity,
+                     &AssistantActivity::take);
+    const auto input = m_folder.path() / "hook.json";
+    const auto hook = [&](std::string_view text) {
+        std::ofstream{input} << text;
+        return run({"hook", "claude-code"}, input);
+    };
+    const char *const kWaits =
+        R"({"session_id":"s","cwd":"/srv/nook","hook_event_name":"Stop","message":"secret"})";
+    EXPECT_EQ(hook(kWaits).out, "");
+    ASSERT_EQ(activity.sessions().size(), 1U);
+    EXPECT_EQ(activity.sessions()[0].last,
+              (KestCore::AssistantEvent{.tool = "claude-code",
+                                        .session = "s",
+                                        .state = KestCore::AssistantState::waiting,
+                                        .folder = "nook"}));
+
+    // Whatever goes wrong is no concern of the tool that runs the hook.
+    Caller caller{database()};
+    caller.say(R"({"do":"hook","event":{"tool":"x","session":"","state":"waiting"}})"
+               "\n");
+    EXPECT_TRUE(caller.hear().contains("error"));
+    m_server.reset();
+    for (const char *text : {kWaits, "", "nonsense"}) {
+        const Outcome alone = hook(text);
+        EXPECT_EQ(alone.status, 0);
+        EXPECT_EQ(alone.out + alone.err, "");
+    }
+    const Outcome wrong = run({"hook", "--bogus", "x"});
+    EXPECT_EQ(wrong.status, 0);
+    EXPECT_TRUE(wrong.err.contains("usage")) << wrong.err;
 }
 
 TEST_F(CommandServerTest, IsAloneAtItsPlaceAndOpenToItsUserOnly)
