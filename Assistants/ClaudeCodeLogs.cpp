@@ -62,10 +62,11 @@ static_assert(json::coversAllMembers<Line>());
 
 void remember(const Line &line, LogMemory &memory)
 {
-    if (line.sessionId) {
+    // Nearly every line says the same as the one before it.
+    if (line.sessionId && *line.sessionId != memory.session) {
         memory.session = cleanName(*line.sessionId);
     }
-    if (line.cwd) {
+    if (line.cwd && (memory.folder.empty() || !line.cwd->ends_with("/" + memory.folder))) {
         memory.folder = folderName(*line.cwd);
     }
 }
@@ -90,8 +91,11 @@ Result<LineFinding> read(const json::PaddedText &text, LogMemory &memory)
     if (message.model && message.model->starts_with('<')) {
         return LineFinding{};
     }
+    if (message.model.value_or("") != memory.model) {
+        memory.model = cleanName(message.model.value_or(""));
+    }
     LoggedUse use{.id = message.id.value_or(line.requestId.value_or("")),
-                  .model = cleanName(message.model.value_or("")),
+                  .model = memory.model,
                   .tokens = {.input = message.usage->input,
                              .output = message.usage->output,
                              .cacheWrite = message.usage->cacheWrite,
