@@ -4,6 +4,20 @@
 
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
+#include "Velvetnook/Application/ViewModels/CalendarPageViewModel.h"
+#include "Velvetnook/Application/ViewModels/ClipboardViewModel.h"
+#include "Velvetnook/Application/ViewModels/DockViewModel.h"
+#include "Velvetnook/Application/ViewModels/EmojiViewModel.h"
+#include "Velvetnook/Application/ViewModels/FilesViewModel.h"
+#include "Velvetnook/Application/ViewModels/InsightsViewModel.h"
+#include "Velvetnook/Application/ViewModels/LinksViewModel.h"
+#include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
+#include "Velvetnook/Application/ViewModels/MusicViewModel.h"
+#include "Velvetnook/Application/ViewModels/ScreenTimeViewModel.h"
+#include "Velvetnook/Application/ViewModels/ShelfViewModel.h"
+#include "Velvetnook/Application/ViewModels/SoundMixViewModel.h"
+#include "Velvetnook/Application/ViewModels/WeatherViewModel.h"
 
 namespace Velvetnook
 {
@@ -90,5 +104,20 @@ PaletteViewModel *App::palette()
     }
     return m_palette;
 }
+
+ClipboardViewModel *App::clipboard() { return made(m_clipboard); }
+EmojiViewModel *App::emoji() { return made(m_emoji); }
+ShelfViewModel *App::shelf() { return made(m_shelf); }
+FilesViewModel *App::files() { return made(m_files); }
+LinksViewModel *App::links() { return made(m_links); }
+CalendarPageViewModel *App::calendar() { return made(m_calendar); }
+WeatherViewModel *App::weather() { return made(m_weather); }
+InsightsViewModel *App::insights() { return made(m_insights); }
+MusicViewModel *App::music() { return made(m_music); }
+SoundMixViewModel *App::sounds() { return made(m_sounds); }
+MonitorViewModel *App::monitor() { return made(m_monitor); }
+ScreenTimeViewModel *App::screenTime() { return made(m_screenTime); }
+AssistantsViewModel *App::assistants() { return made(m_assistants); }
+DockViewModel *App::dock() { return made(m_dock); }
 
 } // namespace Velvetnook

@@ -25,12 +25,40 @@ namespace Velvetnook
 {
 
 class Alarms;
+class AssistantsViewModel;
+class CalendarPageViewModel;
+class ClipboardViewModel;
+class DockViewModel;
+class EmojiViewModel;
+class FilesViewModel;
+class InsightsViewModel;
+class LinksViewModel;
+class MonitorViewModel;
+class MusicViewModel;
+class ScreenTimeViewModel;
+class ShelfViewModel;
+class SoundMixViewModel;
+class WeatherViewModel;
 
 // The root of what QML sees, as the singleton `App`. A view model is made when it is first
 // looked at: what nobody opens costs nothing.
 class App : public QObject
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/AssistantsViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/CalendarPageViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/ClipboardViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/DockViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/EmojiViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/FilesViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/InsightsViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/LinksViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/MonitorViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/MusicViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/ScreenTimeViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/ShelfViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/SoundMixViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/WeatherViewModel.h")
     Q_PROPERTY(Velvetnook::Formatting *format READ format CONSTANT)
     Q_PROPERTY(Velvetnook::PanelViewModel *panel READ panel CONSTANT)
     Q_PROPERTY(Velvetnook::StripViewModel *strip READ strip CONSTANT)
@@ -47,6 +75,20 @@ class App : public QObject
     Q_PROPERTY(Velvetnook::SettingsViewModel *settings READ settings CONSTANT)
     Q_PROPERTY(Velvetnook::OnboardingViewModel *onboarding READ onboarding CONSTANT)
     Q_PROPERTY(Velvetnook::PaletteViewModel *palette READ palette CONSTANT)
+    Q_PROPERTY(Velvetnook::ClipboardViewModel *clipboard READ clipboard CONSTANT)
+    Q_PROPERTY(Velvetnook::EmojiViewModel *emoji READ emoji CONSTANT)
+    Q_PROPERTY(Velvetnook::ShelfViewModel *shelf READ shelf CONSTANT)
+    Q_PROPERTY(Velvetnook::FilesViewModel *files READ files CONSTANT)
+    Q_PROPERTY(Velvetnook::LinksViewModel *links READ links CONSTANT)
+    Q_PROPERTY(Velvetnook::CalendarPageViewModel *calendar READ calendar CONSTANT)
+    Q_PROPERTY(Velvetnook::WeatherViewModel *weather READ weather CONSTANT)
+    Q_PROPERTY(Velvetnook::InsightsViewModel *insights READ insights CONSTANT)
+    Q_PROPERTY(Velvetnook::MusicViewModel *music READ music CONSTANT)
+    Q_PROPERTY(Velvetnook::SoundMixViewModel *sounds READ sounds CONSTANT)
+    Q_PROPERTY(Velvetnook::MonitorViewModel *monitor READ monitor CONSTANT)
+    Q_PROPERTY(Velvetnook::ScreenTimeViewModel *screenTime READ screenTime CONSTANT)
+    Q_PROPERTY(Velvetnook::AssistantsViewModel *assistants READ assistants CONSTANT)
+    Q_PROPERTY(Velvetnook::DockViewModel *dock READ dock CONSTANT)
 
 public:
     explicit App(ApplicationModel &model, QObject *parent = nullptr);
@@ -72,6 +114,20 @@ public:
     SettingsViewModel *settings();
     OnboardingViewModel *onboarding();
     PaletteViewModel *palette();
+    ClipboardViewModel *clipboard();
+    EmojiViewModel *emoji();
+    ShelfViewModel *shelf();
+    FilesViewModel *files();
+    LinksViewModel *links();
+    CalendarPageViewModel *calendar();
+    WeatherViewModel *weather();
+    InsightsViewModel *insights();
+    MusicViewModel *music();
+    SoundMixViewModel *sounds();
+    MonitorViewModel *monitor();
+    ScreenTimeViewModel *screenTime();
+    AssistantsViewModel *assistants();
+    DockViewModel *dock();
 
 private:
     template <class T>
@@ -95,6 +151,20 @@ private:
     SettingsViewModel *m_settings = nullptr;
     OnboardingViewModel *m_onboarding = nullptr;
     PaletteViewModel *m_palette = nullptr;
+    ClipboardViewModel *m_clipboard = nullptr;
+    EmojiViewModel *m_emoji = nullptr;
+    ShelfViewModel *m_shelf = nullptr;
+    FilesViewModel *m_files = nullptr;
+    LinksViewModel *m_links = nullptr;
+    CalendarPageViewModel *m_calendar = nullptr;
+    WeatherViewModel *m_weather = nullptr;
+    InsightsViewModel *m_insights = nullptr;
+    MusicViewModel *m_music = nullptr;
+    SoundMixViewModel *m_sounds = nullptr;
+    MonitorViewModel *m_monitor = nullptr;
+    ScreenTimeViewModel *m_screenTime = nullptr;
+    AssistantsViewModel *m_assistants = nullptr;
+    DockViewModel *m_dock = nullptr;
 };
 
 } // namespace Velvetnook

@@ -42,6 +42,12 @@ std::vector<Shot> toolShots();
 std::vector<Shot> settingsShots();
 std::vector<Shot> surfaceShots();
 std::vector<Shot> paletteShots();
+std::vector<Shot> clipboardShots();
+std::vector<Shot> monitorShots();
+std::vector<Shot> onlineShots();
+std::vector<Shot> shelfShots();
+std::vector<Shot> dockShots();
+std::vector<Shot> assistantShots();
 std::vector<Shot> galleryShots();
 
 } // namespace Velvetnook

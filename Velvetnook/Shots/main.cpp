@@ -41,8 +41,10 @@ constexpr Variant kVariants[]{{"dark", "en"}, {"light", "en"}, {"dark", "ar"}, {
 std::vector<Shot> allShots()
 {
     std::vector<Shot> all;
-    for (const auto &list : {counterShots(), devotionalShots(), prayerShots(), toolShots(),
-                             settingsShots(), surfaceShots(), paletteShots(), galleryShots()}) {
+    for (const auto &list :
+         {counterShots(), devotionalShots(), prayerShots(), toolShots(), settingsShots(),
+          surfaceShots(), paletteShots(), clipboardShots(), monitorShots(), onlineShots(),
+          shelfShots(), dockShots(), assistantShots(), galleryShots()}) {
         all.insert(all.end(), list.begin(), list.end());
     }
     return all;

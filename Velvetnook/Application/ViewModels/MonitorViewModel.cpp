@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
+
+namespace Velvetnook
+{
+
+MonitorViewModel::MonitorViewModel(ApplicationModel &model, const Formatting &formatting,
+                                   QObject *parent)
+    : QObject{parent}, m_model{model}, m_formatting{formatting}
+{
+}
+
+} // namespace Velvetnook
