@@ -29,6 +29,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <malloc.h>
 #include <xcb/xcb.h>
 
 #include <chrono>
@@ -81,6 +82,18 @@ void chooseRenderer()
     if (!isSet("QT_QUICK_BACKEND") && !isSet("QSG_RHI_BACKEND")) {
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     }
+}
+
+// The program lives for days and holds little: memory that is free goes back to the system
+// instead of waiting, by thread, for another burst of work.
+void keepMemorySmall()
+{
+#ifdef __GLIBC__
+    constexpr int kLargeBlock = 64 * 1024;
+    mallopt(M_ARENA_MAX, 1);
+    mallopt(M_MMAP_THRESHOLD, kLargeBlock);
+    mallopt(M_TRIM_THRESHOLD, 2 * kLargeBlock);
+#endif
 }
 
 double steadySeconds()
@@ -364,6 +377,7 @@ int main(int argc, char **argv)
                    stderr);
         return 1;
     }
+    keepMemorySmall();
     chooseRenderer();
     prepareText();
     std::jthread fonts{readFontList};

@@ -70,7 +70,9 @@ std::uint8_t XKeys::keycodeOf(std::uint32_t keysym) const
 
 void XKeys::send(std::uint8_t type, std::uint32_t keysym)
 {
-    FakeInput request{.type = type, .detail = keycodeOf(keysym)};
+    // Never in the same millisecond as the one before, however busy the server is: a release
+    // and a press of one time are what a key sends that is held down.
+    FakeInput request{.type = type, .detail = keycodeOf(keysym), .delay = 1};
     const xcb_protocol_request_t kind{
         .count = 1, .ext = nullptr, .opcode = m_opcode, .isvoid = 1};
     // The library asks for two places of its own before the parts of a request.
