@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const Window window{.from = startOfDay(*viewer, 20'778), // November 2026
                         .to = startOfDay(*viewer, 20'818)};
     // Less than a command pays, so that a second holds many files.
-    Budget budget{.steps = 300, .events = 100};
+    Budget budget{.steps = 60, .events = 100};
     Agenda agenda;
     addOccurrences(agenda, *document, "fuzz", *parser, *viewer, window, budget);
     arrange(agenda);

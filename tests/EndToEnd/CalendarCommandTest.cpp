@@ -39,7 +39,7 @@ TEST(CalendarCommand, ShowsTheMonthAndWhatIsPlanned)
     EXPECT_THAT(agenda.out, StartsWith("Friday 20 November 2026 · 10 Jumada al-Akhira 1448\n"
                                        "  22:00–  Night·[2J shift  Room 4  work\n"
                                        "Saturday 21 November 2026 · 11 Jumada al-Akhira 1448\n"
-                                       "  all day  Holiday                work\n"
+                                       "  all day  Holiday                  work\n"
                                        "  –03:00   Night·[2J shift  Room 4  work\n"));
     EXPECT_EQ(agenda.err, "kest: " + file + ": 1 event could not be read.\n");
     EXPECT_THAT(runKest(folder.path(), {"calendar", "--year", "2026", "--month", "11"}).out,
