@@ -251,8 +251,12 @@ bool PaletteHotkey::press(const xcb_key_press_event_t &event)
         (event.state & kSeen) != m_grab->modifiers) {
         return false;
     }
+    // A server that is busy tells a repetition as a release and a press of one moment.
+    const bool isRepetition = event.time == m_releaseTime;
     m_heldKey = event.detail;
-    emit m_palette.toggleWanted();
+    if (!isRepetition) {
+        emit m_palette.toggleWanted();
+    }
     goOn(XCB_ALLOW_SYNC_KEYBOARD, event);
     return true;
 }
@@ -279,6 +283,7 @@ bool PaletteHotkey::whileHeld(const xcb_key_press_event_t &event, bool isPress)
     }
     if (!isPress && isOurs) {
         m_heldKey = 0;
+        m_releaseTime = event.time;
     }
     goOn(XCB_ALLOW_SYNC_KEYBOARD, event);
     return true;

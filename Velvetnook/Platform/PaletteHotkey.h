@@ -72,7 +72,8 @@ private:
     std::optional<KestCore::ShortcutBinding> m_binding;
     std::optional<Grab> m_grab;
     bool m_isFollowDue = false;
-    std::uint8_t m_heldKey = 0; // down since it was pressed; 0: none
+    std::uint8_t m_heldKey = 0;      // down since it was pressed; 0: none
+    std::uint32_t m_releaseTime = 0; // when it was let go last
 };
 
 } // namespace Velvetnook
