@@ -83,7 +83,10 @@ Result<LineFinding> read(const json::PaddedText &text, LogMemory &memory)
 {
     KEST_TRY(const Line line, json::decode<Line>(text));
     remember(line, memory);
-    if (line.type != "assistant" || !line.message || !line.message->usage || !line.timestamp) {
+    if (line.type != "assistant" || !line.message || !line.message->usage) {
+        return LineFinding{};
+    }
+    if (!line.timestamp) {
         return LineFinding{};
     }
     const Message &message = *line.message;
@@ -107,16 +110,20 @@ Result<LineFinding> read(const json::PaddedText &text, LogMemory &memory)
 
 std::optional<LoggedStep> step(const json::PaddedText &text, LogMemory &memory)
 {
-    const auto line = json::decode<Line>(text);
-    if (!line || !line->timestamp || (line->type != "assistant" && line->type != "user")) {
+    const auto decoded = json::decode<Line>(text);
+    if (!decoded) {
         return std::nullopt;
     }
-    remember(*line, memory);
-    const auto at = loggedInstant(*line->timestamp);
+    const Line &line = *decoded;
+    if (!line.timestamp || (line.type != "assistant" && line.type != "user")) {
+        return std::nullopt;
+    }
+    remember(line, memory);
+    const auto at = loggedInstant(*line.timestamp);
     if (!at) {
         return std::nullopt;
     }
-    return stepOf(*line, *at);
+    return stepOf(line, *at);
 }
 
 } // namespace

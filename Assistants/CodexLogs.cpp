@@ -158,8 +158,10 @@ Result<LineFinding> read(const json::PaddedText &text, LogMemory &memory)
         memory.model = payload.model ? cleanName(*payload.model) : memory.model;
         return LineFinding{};
     }
-    if (line.type != "event_msg" || payload.type.value_or("") != "token_count" ||
-        !line.timestamp) {
+    if (!line.timestamp) {
+        return LineFinding{};
+    }
+    if (line.type != "event_msg" || payload.type.value_or("") != "token_count") {
         return LineFinding{};
     }
     KEST_TRY(const Base::Instant at, loggedInstant(*line.timestamp));
@@ -180,16 +182,20 @@ Result<LineFinding> read(const json::PaddedText &text, LogMemory &memory)
 
 std::optional<LoggedStep> step(const json::PaddedText &text, LogMemory & /*memory*/)
 {
-    const auto line = json::decode<Line>(text);
-    if (!line || !line->timestamp) {
+    const auto decoded = json::decode<Line>(text);
+    if (!decoded) {
         return std::nullopt;
     }
-    const auto at = loggedInstant(*line->timestamp);
+    const Line &line = *decoded;
+    if (!line.timestamp) {
+        return std::nullopt;
+    }
+    const auto at = loggedInstant(*line.timestamp);
     if (!at) {
         return std::nullopt;
     }
     const bool isOver =
-        line->type == "event_msg" && line->payload.type.value_or("") == "task_complete";
+        line.type == "event_msg" && line.payload.type.value_or("") == "task_complete";
     using enum KestCore::AssistantState;
     return LoggedStep{.at = *at, .state = isOver ? waiting : working};
 }

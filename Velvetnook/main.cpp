@@ -171,6 +171,7 @@ private:
     void needTheRest();
     void followWishes();
     void listen();
+    void nameWindows(); // in the language of the moment
     void openSettings();
     void openOnboarding();
 
@@ -205,6 +206,7 @@ Running::Running(FirstSurface surface, const std::filesystem::path &file,
 {
     *m_surface.singletons = {.app = &m_app, .theme = &m_theme};
     QObject::connect(&m_languages, &Languages::changed, &m_engine, &QQmlEngine::retranslate);
+    QObject::connect(&m_languages, &Languages::changed, &m_engine, [this] { nameWindows(); });
 }
 
 QString Running::begin(BusActivation &activation, bool isQuiet)
@@ -317,12 +319,22 @@ void Running::listen()
     }
 }
 
+void Running::nameWindows()
+{
+    if (m_settings) {
+        m_settings->setTitle(QGuiApplication::translate("Windows", "Velvetnook Settings"));
+    }
+    if (m_onboarding) {
+        m_onboarding->setTitle(QGuiApplication::translate("Windows", "Welcome to Velvetnook"));
+    }
+}
+
 void Running::openSettings()
 {
     if (!m_settings) {
         m_settings = std::make_unique<SurfaceWindow>(m_engine, QStringLiteral("Settings"),
                                                      QSize{760, 520});
-        m_settings->setTitle(QGuiApplication::translate("Windows", "Velvetnook Settings"));
+        nameWindows();
     }
     m_settings->present();
 }
@@ -331,7 +343,7 @@ void Running::openOnboarding()
 {
     if (!m_onboarding) {
         m_onboarding = std::make_unique<SurfaceWindow>(m_engine, QStringLiteral("Onboarding"));
-        m_onboarding->setTitle(QGuiApplication::translate("Windows", "Welcome to Velvetnook"));
+        nameWindows();
         QObject::connect(m_app.onboarding(), &OnboardingViewModel::closeWanted,
                          m_onboarding.get(), &QWindow::close);
     }

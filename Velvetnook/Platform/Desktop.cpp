@@ -231,6 +231,8 @@ void Desktop::followCapabilities()
     connect(m_tray, &BusTray::stateChanged, this, probe);
     connect(m_notifications, &BusNotifications::stateChanged, this, probe);
     connect(m_app.palette(), &PaletteViewModel::hotkeyChanged, this, probe);
+    // Told in the language of the moment.
+    connect(m_app.format(), &Formatting::wordsChanged, this, probe);
 }
 
 void Desktop::follow(Activation &activation)

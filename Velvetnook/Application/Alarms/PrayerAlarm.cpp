@@ -83,7 +83,8 @@ NotificationRequest PrayerAlarm::request(const KestCore::NextPrayer &prayer) con
             .title = tr("%1 · %2").arg(prayerName(prayer.prayer), time),
             .body = tr("Calculated prayer time. Check your local timetable."),
             .actions = {{.key = QStringLiteral("open"), .label = tr("Prayer times")}},
-            .withSound = m_model.isOn("prayer.sound")};
+            .withSound = m_model.state().devotional.preferences.soundEnabled &&
+                         m_model.isOn("prayer.sound")};
 }
 
 } // namespace Velvetnook

@@ -15,12 +15,9 @@ Rectangle {
     implicitWidth: 460
     implicitHeight: words.implicitHeight + 44
     color: "#0B0D0C"
-    focus: true
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
     Keys.onEscapePressed: closeWanted()
-    Keys.onReturnPressed: closeWanted()
-    Keys.onEnterPressed: closeWanted()
     Accessible.role: Accessible.AlertMessage
     Accessible.name: message
 
@@ -64,11 +61,23 @@ Rectangle {
             width: label.implicitWidth + 28
             height: 36
             radius: 11
+            focus: true
+            activeFocusOnTab: true
+            Keys.onReturnPressed: root.closeWanted()
+            Keys.onEnterPressed: root.closeWanted()
+            Keys.onSpacePressed: root.closeWanted()
             color: area.pressed ? "#8DAA88" : area.containsMouse ? "#BBD5B7" : "#A6C8A0"
             Accessible.role: Accessible.Button
             Accessible.name: label.text
             Accessible.onPressAction: root.closeWanted()
 
+            Rectangle { // where the keyboard is
+                anchors { fill: parent; margins: -4 }
+                visible: parent.activeFocus
+                color: "transparent"
+                border { width: 2; color: "#A6C8A0" }
+                radius: 15
+            }
             Text {
                 id: label
 

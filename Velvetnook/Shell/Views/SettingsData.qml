@@ -52,7 +52,7 @@ Column {
             SecondaryButton {
                 small: true
                 text: qsTr("Open")
-                onClicked: Qt.openUrlExternally("file://" + root.page.folder)
+                onClicked: Qt.openUrlExternally(root.page.folderUrl)
             }
         }
     }

@@ -25,6 +25,7 @@ class DataSettings : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString folder READ folder CONSTANT)
+    Q_PROPERTY(QUrl folderUrl READ folderUrl CONSTANT)
     Q_PROPERTY(QUrl suggestedFile READ suggestedFile CONSTANT)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
     // What came of the last thing that was done, and whether it failed.
@@ -44,6 +45,7 @@ public:
     DataSettings &operator=(const DataSettings &) = delete;
 
     QString folder() const;
+    QUrl folderUrl() const { return QUrl::fromLocalFile(folder()); }
     QUrl suggestedFile() const;
     bool isBusy() const { return m_isBusy; }
     QString message() const { return m_message; }
