@@ -3834,7 +3834,7 @@
         <translation>عام</translation>
     </message>
     <message>
-        <source>language arabic english digits clock start login history sound</source>
+        <source>language arabic english digits clock start login history sound onboarding updates</source>
         <translation>لغة عربية إنجليزية أرقام ساعة بدء دخول سجل صوت</translation>
     </message>
     <message>
@@ -3842,7 +3842,7 @@
         <translation>المظهر</translation>
     </message>
     <message>
-        <source>theme dark light accent colour motion text size surface transliteration</source>
+        <source>theme dark light accent colour color motion material text size surface transliteration</source>
         <translation>سمة داكن فاتح لون تمييز حركة نص حجم سطح لاتينية</translation>
     </message>
     <message>
@@ -3850,7 +3850,7 @@
         <translation>الشريط العلوي</translation>
     </message>
     <message>
-        <source>strip panel delay hidden screen display applications pause pinned</source>
+        <source>strip panel open delay hidden hide screen display fullscreen applications pause pinned</source>
         <translation>شريط لوحة تأخير مخفي شاشة عرض تطبيقات إيقاف مثبت</translation>
     </message>
     <message>
@@ -3866,7 +3866,7 @@
         <translation>التذكيرات</translation>
     </message>
     <message>
-        <source>notification hours days interval pause test</source>
+        <source>notification hours days weekdays interval pause sound test</source>
         <translation>إشعار ساعات أيام فاصل إيقاف تجربة</translation>
     </message>
     <message>
@@ -3874,7 +3874,7 @@
         <translation>الصلاة</translation>
     </message>
     <message>
-        <source>place city location method asr latitude hijri adjust times</source>
+        <source>place city location method asr hanafi latitude qibla hijri adjustments times</source>
         <translation>مكان مدينة موقع طريقة عصر عرض هجري تعديل مواقيت</translation>
     </message>
     <message>
@@ -3882,7 +3882,7 @@
         <translation>الأدوات</translation>
     </message>
     <message>
-        <source>order favourites tabs header</source>
+        <source>order favourites favorites tabs header</source>
         <translation>ترتيب مفضلة ألسنة ترويسة</translation>
     </message>
     <message>
@@ -3890,7 +3890,7 @@
         <translation>البيانات والنسخ</translation>
     </message>
     <message>
-        <source>export import clear history reset folder file</source>
+        <source>export import restore erase clear history reset folder file</source>
         <translation>تصدير استيراد مسح سجل تصفير مجلد ملف</translation>
     </message>
     <message>
@@ -3898,7 +3898,7 @@
         <translation>حول</translation>
     </message>
     <message>
-        <source>version licence capabilities</source>
+        <source>version licence license capabilities</source>
         <translation>إصدار رخصة قدرات</translation>
     </message>
 </context>

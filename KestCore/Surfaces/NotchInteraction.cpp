@@ -11,17 +11,7 @@ namespace KestCore
 namespace
 {
 
-constexpr double kShortestOpenDelay = 0.1;
-constexpr double kLongestOpenDelay = 1.5;
-constexpr double kUsualOpenDelay = 0.18;
 constexpr double kCloseGrace = 0.35;
-
-double usableDelay(double openDelay)
-{
-    return std::isfinite(openDelay)
-               ? std::clamp(openDelay, kShortestOpenDelay, kLongestOpenDelay)
-               : kUsualOpenDelay;
-}
 
 InteractionState restingState(bool compactWhenIdle)
 {
@@ -29,6 +19,12 @@ InteractionState restingState(bool compactWhenIdle)
 }
 
 } // namespace
+
+double usableOpenDelay(double seconds)
+{
+    return std::isfinite(seconds) ? std::clamp(seconds, kShortestOpenDelay, kLongestOpenDelay)
+                                  : kUsualOpenDelay;
+}
 
 void NotchInteraction::pointer(bool inside, bool pressed, double now, double openDelay)
 {
@@ -85,7 +81,7 @@ void NotchInteraction::pointerInside(double now, double openDelay)
     case InteractionState::compact:
         if (rearm) {
             state = InteractionState::hoverOpening;
-            deadline = now + usableDelay(openDelay);
+            deadline = now + usableOpenDelay(openDelay);
             openWhenDue(now);
         }
         break;

@@ -54,6 +54,13 @@ struct SurfaceState {
     bool operator==(const SurfaceState &) const = default;
 };
 
+// How long the pointer must rest on the strip to open it, in seconds.
+inline constexpr double kShortestOpenDelay = 0.1;
+inline constexpr double kUsualOpenDelay = 0.18;
+inline constexpr double kLongestOpenDelay = 1.5;
+// Within these; the usual delay for what is no number.
+double usableOpenDelay(double seconds);
+
 // Decides when the notch panel opens and closes. Owns no timer and no window: the shell feeds
 // it what it observes, each with the time in seconds on one monotonic scale, and shows
 // `state`. While `hoverOpening` the shell goes on sending pointer observations, as only they

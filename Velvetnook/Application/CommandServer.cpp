@@ -3,6 +3,7 @@
 #include "Velvetnook/Application/CommandServer.h"
 
 #include "Base/JsonWriter.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QSocketNotifier>
 #include <QTimer>
@@ -207,8 +208,8 @@ void CommandServer::obey(Client &client, const ApplicationCommand &command)
         answer(client.id, {.done = true});
         return;
     }
-    const auto how = Base::textOf(command.how.value_or(KestCore::SurfaceStep::toggle));
-    const QString step = QString::fromUtf8(how.data(), static_cast<qsizetype>(how.size()));
+    const QString step =
+        fromView(Base::textOf(command.how.value_or(KestCore::SurfaceStep::toggle)));
     if (command.request == ApplicationRequest::palette) {
         emit paletteWanted(step);
     } else {

@@ -99,4 +99,15 @@ QString phraseTitle(const Phrase &phrase)
     return title;
 }
 
+void toggleFavouritePhrase(ApplicationModel &model, const std::string &id)
+{
+    model.changeState([id](KestCore::NativeState &state) -> Result<void> {
+        auto &favourites = state.devotional.favorites;
+        if (std::erase(favourites, id) == 0) {
+            favourites.push_back(id);
+        }
+        return {};
+    });
+}
+
 } // namespace Velvetnook

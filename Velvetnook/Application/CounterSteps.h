@@ -7,6 +7,7 @@
 #include "KestCore/Models/NativeState.h"
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 class QString;
@@ -28,6 +29,9 @@ void stepCounter(ApplicationModel &model, const KestCore::CountAction &action,
 // the catalogue.
 void selectPhrase(ApplicationModel &model, std::string_view id);
 void selectNextPhrase(ApplicationModel &model, int places);
+
+// Adds the phrase to the favourites, or takes it from them.
+void toggleFavouritePhrase(ApplicationModel &model, const std::string &id);
 
 // The phrase that is being counted, and any other by its id.
 const KestCore::Phrase &selectedPhrase(const KestCore::NativeState &state);

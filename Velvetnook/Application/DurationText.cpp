@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/DurationText.h"
 
+#include "Velvetnook/Application/QtText.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -13,16 +15,11 @@ namespace
 
 constexpr double kMinute = 60;
 
-QString plain(QString text)
+QString plain(const QString &typed)
 {
-    for (QChar &letter : text) {
-        if (letter.digitValue() >= 0) {
-            letter = QChar{u'0' + letter.digitValue()};
-        } else if (letter == u',' || letter == u'٫') {
-            letter = u'.';
-        }
-    }
-    return text.trimmed().toLower();
+    QString text = latinDigits(typed.trimmed().toLower());
+    text.replace(u',', u'.');
+    return text.replace(u'٫', u'.');
 }
 
 // Seconds of one of the unit; 0 for what is none.

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/EngineText.h"
 
+#include "Velvetnook/Application/QtText.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -73,7 +75,7 @@ QString translated(const QString &text) { return translated(text.toUtf8().constD
 
 QString engineText(std::string_view text)
 {
-    const QString own = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const QString own = fromView(text);
     for (const Pattern &pattern : kPatterns) {
         const QRegularExpression written{QString::fromUtf8(pattern.written),
                                          QRegularExpression::DotMatchesEverythingOption};

@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/LocalDay.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QDate>
 
@@ -15,11 +16,6 @@ namespace Velvetnook
 
 namespace
 {
-
-QString fromView(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // The separators of a number follow its digits, not the language around it.
 QLocale numbers(bool areArabic)

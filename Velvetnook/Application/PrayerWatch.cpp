@@ -18,18 +18,12 @@ namespace
 using KestCore::NextPrayer;
 using KestCore::PrayerCalculator;
 
-KestCore::Settings settingsOfTool(const KestCore::Settings &all)
-{
-    KestCore::Settings own;
-    for (const auto &[key, value] : all) {
-        if (key.starts_with("prayer.")) {
-            own.emplace(key, value);
-        }
-    }
-    return own;
-}
-
 } // namespace
+
+KestCore::Settings prayerSettings(const KestCore::Settings &all)
+{
+    return {all.lower_bound("prayer."), all.lower_bound("prayer/")};
+}
 
 // Nothing found (a polar day) is looked for again each time.
 bool PrayerWatch::isKnown(const std::optional<Known> &known, Base::Instant after)
@@ -56,7 +50,7 @@ QString prayerName(PrayerCore::Prayer prayer)
 }
 
 PrayerWatch::PrayerWatch(ApplicationModel &model, QObject *parent)
-    : QObject{parent}, m_model{model}, m_settings{settingsOfTool(model.state().settings)},
+    : QObject{parent}, m_model{model}, m_settings{prayerSettings(model.state().settings)},
       m_inputs{KestCore::prayerInputs(m_settings)}, m_seen{model.now()}
 {
     connect(&model, &ApplicationModel::stateChanged, this, &PrayerWatch::followSettings);
@@ -94,7 +88,7 @@ void PrayerWatch::startFrom(Base::Instant now)
 
 void PrayerWatch::followSettings()
 {
-    KestCore::Settings settings = settingsOfTool(m_model.state().settings);
+    KestCore::Settings settings = prayerSettings(m_model.state().settings);
     if (settings == m_settings) {
         return;
     }

@@ -19,6 +19,9 @@ inline constexpr Base::Seconds kPrayerNowTime{600}; // so long a prayer counts a
 // "Fajr", in the language of the interface.
 QString prayerName(PrayerCore::Prayer prayer);
 
+// What was chosen for the tool, of all settings.
+KestCore::Settings prayerSettings(const KestCore::Settings &all);
+
 // The first prayer after `after`; sunrise is none.
 std::optional<KestCore::NextPrayer> nextPrayerOf(const KestCore::PrayerInputs &place,
                                                  Base::Instant after);

@@ -5,6 +5,8 @@
 #include "Base/Text.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/NotchChoices.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,19 +16,6 @@ namespace Velvetnook
 {
 
 using KestCore::InteractionState;
-
-namespace
-{
-
-constexpr double kUsualOpenDelay = 0.18;
-
-std::optional<Base::Instant> pausedUntil(const ApplicationModel &model)
-{
-    const auto until = Base::numberFrom<double>(model.setting("notch.pausedUntil"));
-    return until ? std::optional{Base::fromMilliseconds1970(*until)} : std::nullopt;
-}
-
-} // namespace
 
 NotchDriver::NotchDriver(ApplicationModel &model, App &app, SteadyTime steady, QObject *parent)
     : QObject{parent}, m_model{model}, m_app{app}, m_steady{std::move(steady)}, m_timer{this}
@@ -41,22 +30,14 @@ NotchDriver::NotchDriver(ApplicationModel &model, App &app, SteadyTime steady, Q
     connect(panel, &PanelViewModel::toggleWanted, this, &NotchDriver::toggle);
     connect(panel, &PanelViewModel::dialogDepthChanged, this, &NotchDriver::followDialogs);
     model.clock().add(
-        this,
-        [this](Base::Instant now) {
-            const auto until = pausedUntil(m_model);
-            return until && *until > now ? until : std::nullopt;
-        },
+        this, [this](Base::Instant) { return notchPausedUntil(m_model); },
         [this](Base::Instant) { settle(); });
     m_notch.reset(compactWhenIdle());
     m_notch.pointer(false, false, m_steady(), openDelay());
     settle();
 }
 
-QString NotchDriver::state() const
-{
-    const std::string_view name = Base::textOf(m_notch.state);
-    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
-}
+QString NotchDriver::state() const { return fromView(Base::textOf(m_notch.state)); }
 
 bool NotchDriver::isOpen() const
 {
@@ -74,11 +55,7 @@ bool NotchDriver::isResting() const
            m_notch.state == InteractionState::hoverOpening;
 }
 
-double NotchDriver::openDelay() const
-{
-    return Base::numberFrom<double>(m_model.setting("notch.openDelay"))
-        .value_or(kUsualOpenDelay);
-}
+double NotchDriver::openDelay() const { return openDelayOf(m_model); }
 
 bool NotchDriver::compactWhenIdle() const
 {
@@ -87,14 +64,12 @@ bool NotchDriver::compactWhenIdle() const
 
 bool NotchDriver::wantsSuppression() const
 {
-    const auto until = pausedUntil(m_model);
-    if (m_isFullScreen || (until && *until > m_model.now())) {
+    if (m_isFullScreen || notchPausedUntil(m_model)) {
         return true;
     }
     return std::ranges::any_of(
         Base::split(m_model.setting("notch.exclusions"), ','), [this](std::string_view piece) {
-            const QString excluded =
-                QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size())).trimmed();
+            const QString excluded = fromView(piece).trimmed();
             return !excluded.isEmpty() && m_application.contains(excluded, Qt::CaseInsensitive);
         });
 }

@@ -3,6 +3,7 @@
 #include "Velvetnook/Platform/StartUp.h"
 
 #include "KestCore/Store/StoreLocation.h"
+#include "Velvetnook/Application/QtText.h"
 #include "Velvetnook/Platform/Linux/BusActivation.h"
 #include "Velvetnook/Platform/Linux/SessionProbe.h"
 
@@ -29,11 +30,7 @@ int printCapabilities(int argc, char **argv)
 
 } // namespace
 
-QString applicationId()
-{
-    const auto id = KestCore::bundleIdentifier();
-    return QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size()));
-}
+QString applicationId() { return fromView(KestCore::bundleIdentifier()); }
 
 std::optional<int> answerWithoutWindow(const Launch &launch, int argc, char **argv)
 {

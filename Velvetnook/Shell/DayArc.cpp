@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Shell/DayArc.h"
 
+#include "Velvetnook/Shell/RoundPen.h"
+
 #include <QPainter>
 #include <QPolygonF>
 
@@ -14,11 +16,6 @@ namespace
 constexpr qreal kWidth = 280;
 constexpr qreal kHeight = 112;
 constexpr qreal kTop = 8;
-
-QPen roundPen(const QColor &color, qreal width)
-{
-    return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
-}
 
 } // namespace
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Shell/QiblaDial.h"
 
+#include "Velvetnook/Shell/RoundPen.h"
+
 #include <QPainter>
 
 namespace Velvetnook
@@ -12,11 +14,6 @@ namespace
 
 // Room for the sign of the Kaaba, which stands on the rim.
 constexpr qreal kMargin = 8;
-
-QPen roundPen(const QColor &color, qreal width)
-{
-    return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
-}
 
 } // namespace
 

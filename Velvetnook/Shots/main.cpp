@@ -119,12 +119,20 @@ bool save(QQuickItem &surface, const Shot &shot, const Variant &variant, const Q
     return isSaved;
 }
 
+// The gallery is none of the application's own surfaces.
+QString addressOf(const Shot &shot)
+{
+    const bool isGallery = shot.surface == QLatin1String{"Gallery"};
+    return QStringLiteral("qrc:/%1/%2Surface.qml")
+        .arg(isGallery ? QStringLiteral("velvetnook/shots")
+                       : QStringLiteral("Velvetnook/Shell/Surfaces"),
+             shot.surface);
+}
+
 bool drawSurface(QQmlEngine &engine, const Shot &shot, const Variant &variant,
                  const QDir &folder)
 {
-    QQmlComponent component{
-        &engine,
-        QStringLiteral("qrc:/Velvetnook/Shell/Surfaces/%1Surface.qml").arg(shot.surface)};
+    QQmlComponent component{&engine, addressOf(shot)};
     QVariantMap properties;
     if (!shot.view.isEmpty()) {
         properties.insert(QStringLiteral("view"), shot.view);

@@ -5,6 +5,7 @@
 #include "KestCore/Tools/TimerState.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/LocalDay.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -44,22 +45,6 @@ constexpr std::array kActions{
                   "reset learning ranking palette history"},
     PaletteAction{"quit", QT_TRANSLATE_NOOP("Palette", "Quit Velvetnook"), "x",
                   "exit close end"},
-};
-
-constexpr std::array kPages{
-    PalettePage{"general", "General", "settings",
-                "language digits start login onboarding updates"},
-    PalettePage{"appearance", "Appearance", "palette",
-                "theme dark light accent colour color motion material text size"},
-    PalettePage{"notch", "Notch", "notch", "strip panel open delay display fullscreen hide"},
-    PalettePage{"shortcuts", "Shortcuts", "keyboard", "keys hotkey palette keyboard"},
-    PalettePage{"reminders", "Reminders", "bell",
-                "interval hours weekdays sound notifications"},
-    PalettePage{"prayer", "Prayer", "prayer",
-                "city location method asr hanafi adjustments qibla times"},
-    PalettePage{"tools", "Tools", "grid", "order favourites favorites tabs header"},
-    PalettePage{"data", "Data & backup", "database", "export import restore erase history"},
-    PalettePage{"about", "About", "info", "version licence license capabilities"},
 };
 
 double unitMinutes(const QString &unit)
@@ -106,14 +91,6 @@ bool isPossible(const PaletteAction &action, const ApplicationModel &model)
     return id != "remind" || isQuiet;
 }
 
-std::span<const PalettePage> palettePages() { return kPages; }
-
-QString titleOf(const PalettePage &page)
-{
-    // The words are the settings' own.
-    return QCoreApplication::translate("Velvetnook::SettingsViewModel", page.title);
-}
-
 std::optional<int> typedTimer(const QString &line)
 {
     static const QRegularExpression kTimer{
@@ -121,13 +98,7 @@ std::optional<int> typedTimer(const QString &line)
                        "(m|min|mins|minutes?|h|hours?|دقيقة|دقائق|د|ساعة|ساعات)?\\s*"
                        "(timer|countdown)?\\s*$"),
         QRegularExpression::CaseInsensitiveOption};
-    QString plain = line;
-    for (QChar &character : plain) {
-        if (const int digit = character.digitValue(); digit >= 0) {
-            character = QChar{u'0' + digit};
-        }
-    }
-    const auto match = kTimer.match(plain);
+    const auto match = kTimer.match(latinDigits(line));
     const QString unit = match.captured(3);
     if (!match.hasMatch() ||
         (match.captured(1).isEmpty() && unit.isEmpty() && match.captured(4).isEmpty())) {

@@ -29,16 +29,6 @@ QString titleOf(const PaletteAction &action);
 // Whether it would do anything now.
 bool isPossible(const PaletteAction &action, const ApplicationModel &model);
 
-// A page of the settings.
-struct PalettePage {
-    const char *id;
-    const char *title; // in English
-    const char *iconName;
-    const char *keywords;
-};
-std::span<const PalettePage> palettePages();
-QString titleOf(const PalettePage &page);
-
 // The timer that a line such as "timer 10", "10 min" or "1 h" asks for, in minutes.
 std::optional<int> typedTimer(const QString &line);
 

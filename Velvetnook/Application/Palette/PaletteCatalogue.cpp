@@ -15,6 +15,8 @@
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/Palette/PaletteActions.h"
 #include "Velvetnook/Application/Palette/PaletteText.h"
+#include "Velvetnook/Application/QtText.h"
+#include "Velvetnook/Application/SettingsPages.h"
 #include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
@@ -121,9 +123,9 @@ void PaletteCatalogue::addTools()
 
 void PaletteCatalogue::addPages()
 {
-    for (const PalettePage &page : palettePages()) {
+    for (const PageOfSettings &page : pagesOfSettings()) {
         add({.kind = PaletteKind::page, .group = PaletteGroup::settings, .id = page.id},
-            titleOf(page), {page.title}, std::string{"settings preferences "} + page.keywords);
+            titleOf(page), {page.title}, std::string{"settings preferences "} + page.words);
     }
 }
 
@@ -150,8 +152,7 @@ void PaletteCatalogue::addEmoji()
         add({.kind = PaletteKind::emoji,
              .group = PaletteGroup::emoji,
              .id = std::string{emoji.text}},
-            QString::fromUtf8(emoji.name.data(), static_cast<qsizetype>(emoji.name.size())),
-            {std::string{emoji.arabicName}}, words);
+            fromView(emoji.name), {std::string{emoji.arabicName}}, words);
     }
 }
 

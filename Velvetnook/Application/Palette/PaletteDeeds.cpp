@@ -16,6 +16,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/CounterSteps.h"
 #include "Velvetnook/Application/Palette/PaletteText.h"
+#include "Velvetnook/Application/QtText.h"
 #include "Velvetnook/Application/TimerSteps.h"
 #include "Velvetnook/Application/ToolChoice.h"
 
@@ -256,8 +257,7 @@ void PaletteDeeds::act(std::string_view id)
     } else if (id == "quit") {
         QCoreApplication::quit();
     } else {
-        startTimer("countdown",
-                   QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size())).toDouble());
+        startTimer("countdown", fromView(id).toDouble());
     }
 }
 
@@ -294,15 +294,7 @@ PaletteDeed PaletteDeeds::favouring(const std::string &phrase)
                         ? paletteTr(QT_TRANSLATE_NOOP("Palette", "Remove from favourites"))
                         : paletteTr(QT_TRANSLATE_NOOP("Palette", "Add to favourites")),
             .iconName = QStringLiteral("star"),
-            .run = [this, phrase] {
-                m_model.changeState([phrase](KestCore::NativeState &state) -> Result<void> {
-                    auto &list = state.devotional.favorites;
-                    if (std::erase(list, phrase) == 0) {
-                        list.push_back(phrase);
-                    }
-                    return {};
-                });
-            }};
+            .run = [this, phrase] { toggleFavouritePhrase(m_model, phrase); }};
 }
 
 // As long as the mode usually takes where no minutes are given.

@@ -16,6 +16,8 @@
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/Palette/PaletteActions.h"
 #include "Velvetnook/Application/PrayerWatch.h"
+#include "Velvetnook/Application/QtText.h"
+#include "Velvetnook/Application/SettingsPages.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
 #include <QCoreApplication>
@@ -28,11 +30,6 @@ namespace Velvetnook
 namespace
 {
 
-QString fromUtf8(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 // The title as markup, with what answers to the query between <m> and </m>.
 QString marked(const QString &title, const QString &query)
 {
@@ -41,19 +38,19 @@ QString marked(const QString &title, const QString &query)
     QString result;
     std::size_t at = 0;
     for (const auto &[begin, size] : KestCore::matchedSpans(text, query.toStdString())) {
-        result += fromUtf8(view.substr(at, begin - at)).toHtmlEscaped();
-        result += QStringLiteral("<m>") + fromUtf8(view.substr(begin, size)).toHtmlEscaped() +
+        result += fromView(view.substr(at, begin - at)).toHtmlEscaped();
+        result += QStringLiteral("<m>") + fromView(view.substr(begin, size)).toHtmlEscaped() +
                   QStringLiteral("</m>");
         at = begin + size;
     }
-    return result + fromUtf8(view.substr(at)).toHtmlEscaped();
+    return result + fromView(view.substr(at)).toHtmlEscaped();
 }
 
 // The first line with something on it that is not the title again.
 QString excerptOf(const KestCore::LocalRecord &note)
 {
     const auto text = KestCore::payloadOf<KestCore::Note>(note).text;
-    for (const auto &line : fromUtf8(text).split(u'\n')) {
+    for (const auto &line : fromView(text).split(u'\n')) {
         const QString trimmed = line.trimmed();
         if (!trimmed.isEmpty() && trimmed != QString::fromStdString(note.title)) {
             return trimmed;
@@ -191,11 +188,11 @@ PaletteRow PaletteText::toolRow(const PaletteThing &thing) const
 PaletteRow PaletteText::actionRow(const PaletteThing &thing) const
 {
     if (thing.kind == PaletteKind::page) {
-        for (const PalettePage &page : palettePages()) {
+        for (const PageOfSettings &page : pagesOfSettings()) {
             if (thing.id == page.id) {
                 return {.title = titleOf(page),
                         .note = toolTitle(QStringLiteral("settings")),
-                        .iconName = QLatin1String{page.iconName}};
+                        .iconName = QLatin1String{page.icon}};
             }
         }
         return {};
@@ -264,7 +261,7 @@ PaletteRow PaletteText::emojiRow(const PaletteThing &thing) const
     }
     const auto name =
         m_formatting.isRightToLeft() ? known->emoji->arabicName : known->emoji->name;
-    return {.title = fromUtf8(name),
+    return {.title = fromView(name),
             .emoji = QString::fromStdString(KestCore::withTone(
                 *known->emoji, KestCore::chosenTone(m_model.state().settings)))};
 }
@@ -283,7 +280,7 @@ PaletteRow PaletteText::recordRow(const PaletteThing &thing) const
     } else {
         row.iconName = QStringLiteral("links");
         row.note =
-            fromUtf8(KestCore::hostOf(KestCore::payloadOf<KestCore::SavedLink>(*found).url));
+            fromView(KestCore::hostOf(KestCore::payloadOf<KestCore::SavedLink>(*found).url));
     }
     return row;
 }

@@ -7,6 +7,7 @@
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/LocalDay.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QRegularExpression>
 #include <QVariantMap>
@@ -26,12 +27,7 @@ qlonglong typedNumber(const QString &text)
     static const QRegularExpression kGrouped{
         QStringLiteral("^\\d{1,3}([,.٬ \u00A0\u202F]\\d{3})+$")};
     static const QRegularExpression kMarks{QStringLiteral("[,.٬ \u00A0\u202F]")};
-    QString latin = text.trimmed();
-    for (QChar &letter : latin) {
-        if (letter.isDigit()) {
-            letter = QChar{u'0' + letter.digitValue()};
-        }
-    }
+    QString latin = latinDigits(text.trimmed());
     if (kGrouped.match(latin).hasMatch()) {
         latin.remove(kMarks);
     }

@@ -274,16 +274,9 @@ void NamesViewModel::move(int rows)
 
 void NamesViewModel::toggleFavourite()
 {
-    if (isName()) {
-        return;
+    if (!isName()) {
+        toggleFavouritePhrase(m_model, m_current->id);
     }
-    m_model.changeState([id = m_current->id](KestCore::NativeState &state) -> Result<void> {
-        auto &favourites = state.devotional.favorites;
-        if (std::erase(favourites, id) == 0) {
-            favourites.push_back(id);
-        }
-        return {};
-    });
 }
 
 void NamesViewModel::togglePin()

@@ -5,6 +5,7 @@
 #include "KestCore/Registry/ToolRegistry.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/QtText.h"
 #include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
@@ -23,11 +24,7 @@ constexpr Base::Seconds kMessageTime{5};
 constexpr auto kAllTools = "tools";
 const QString kHome = QStringLiteral("home");
 
-QString viewOf(const QString &tool)
-{
-    const std::string_view view = viewOfTool(tool.toStdString());
-    return QString::fromLatin1(view.data(), static_cast<qsizetype>(view.size()));
-}
+QString viewOf(const QString &tool) { return fromView(viewOfTool(tool.toStdString())); }
 
 const KestCore::ToolDescriptor *descriptorOf(const QString &id)
 {

@@ -8,6 +8,7 @@
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/FridayPrompt.h"
 #include "Velvetnook/Application/LocalDay.h"
+#include "Velvetnook/Application/QtText.h"
 #include "Velvetnook/Application/TimerSteps.h"
 
 #include <QVariantMap>
@@ -23,17 +24,6 @@ namespace
 {
 
 constexpr qint64 kMostMinutes = 1440;
-
-// As a person may have typed it, with the digits of any language.
-QString plainDigits(QString text)
-{
-    for (QChar &letter : text) {
-        if (letter.digitValue() >= 0) {
-            letter = QChar{u'0' + letter.digitValue()};
-        }
-    }
-    return text.trimmed();
-}
 
 std::string timeText(int minute)
 {
@@ -187,7 +177,7 @@ QString RemindersViewModel::setMinutes(const QString &text,
                                        std::function<void(KestCore::Preferences &, qint64)> set)
 {
     bool isNumber = false;
-    const qint64 minutes = plainDigits(text).toLongLong(&isNumber);
+    const qint64 minutes = latinDigits(text.trimmed()).toLongLong(&isNumber);
     if (!isNumber || minutes < 1 || minutes > kMostMinutes) {
         return m_formatting.digits(tr("Choose between 1 and 1440 minutes."));
     }
@@ -199,7 +189,7 @@ QString RemindersViewModel::setMinutes(const QString &text,
 
 QString RemindersViewModel::setHours(const QString &text, std::function<void(std::string)> set)
 {
-    const auto minute = KestCore::minuteOfDay(plainDigits(text).toStdString());
+    const auto minute = KestCore::minuteOfDay(latinDigits(text.trimmed()).toStdString());
     if (!minute) {
         return m_formatting.digits(tr("Write a time such as 09:00."));
     }
@@ -310,7 +300,7 @@ void RemindersViewModel::pauseUntilTomorrow()
 
 QString RemindersViewModel::pauseUntil(const QString &time)
 {
-    const auto minute = KestCore::minuteOfDay(plainDigits(time).toStdString());
+    const auto minute = KestCore::minuteOfDay(latinDigits(time.trimmed()).toStdString());
     if (!minute) {
         return m_formatting.digits(tr("Write a time such as 09:00."));
     }

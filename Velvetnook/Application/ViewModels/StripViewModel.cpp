@@ -7,7 +7,7 @@
 #include "KestCore/Tools/Messages.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
-#include "Velvetnook/Application/PrayerWatch.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <algorithm>
 #include <utility>
@@ -40,24 +40,21 @@ std::optional<KestCore::NextPrayer> lastPrayer(const KestCore::PrayerInputs &pla
     return last;
 }
 
-KestCore::Settings prayerSettings(const KestCore::Settings &all)
-{
-    return {all.lower_bound("prayer."), all.lower_bound("prayer/")};
-}
-
 } // namespace
 
 StripViewModel::StripViewModel(ApplicationModel &model, const Formatting &formatting,
                                QObject *parent)
-    : QObject{parent}, m_model{model}, m_formatting{formatting},
+    : QObject{parent}, m_model{model}, m_formatting{formatting}, m_prayers{model},
       m_sources{.state = model.state()}, m_sessionId{model.state().devotional.session.id},
       m_count{model.state().devotional.session.count},
       m_messagesFrom{Base::milliseconds1970(model.now())}
 {
     connect(&model, &ApplicationModel::stateChanged, this, &StripViewModel::followState);
     connect(&model, &ApplicationModel::recordsChanged, this, &StripViewModel::followRecords);
-    connect(&model, &ApplicationModel::calendarChanged, this, [this] {
-        m_prayersFrom.reset();
+    connect(&m_prayers, &PrayerWatch::inputsChanged, this,
+            [this] { m_knowsPrayers = false; }); // the state that says so follows
+    connect(&m_prayers, &PrayerWatch::timeCame, this, [this] {
+        m_knowsPrayers = false;
         refresh();
     });
     connect(&model.clock(), &DueClock::wallClockChanged, this,
@@ -131,20 +128,15 @@ void StripViewModel::sayNewMessages()
 // The times are found once for each prayer: counting asks for them with every bead.
 void StripViewModel::followPrayers()
 {
-    KestCore::Settings settings = prayerSettings(m_model.state().settings);
-    const Base::Instant now = m_model.now();
-    if (settings != m_prayerSettings || !m_prayersFrom) {
-        auto place = KestCore::prayerInputs(settings);
-        m_place = place ? std::optional{std::move(*place)} : std::nullopt;
-        m_prayerSettings = std::move(settings);
-    } else if (now >= *m_prayersFrom &&
-               (!m_sources.nextPrayer || now < m_sources.nextPrayer->at)) {
+    if (m_knowsPrayers) {
         return;
     }
-    m_prayersFrom = now;
-    m_sources.lastPrayer = m_place ? lastPrayer(*m_place, now) : std::nullopt;
-    m_sources.nextPrayer = m_place ? nextPrayerOf(*m_place, now) : std::nullopt;
-    m_sources.placeCalendar = m_place ? std::optional{m_place->calendar} : std::nullopt;
+    m_knowsPrayers = true;
+    const Base::Instant now = m_model.now();
+    const auto &place = m_prayers.inputs();
+    m_sources.lastPrayer = place ? lastPrayer(*place, now) : std::nullopt;
+    m_sources.nextPrayer = m_prayers.nextPrayer(now);
+    m_sources.placeCalendar = place ? std::optional{place->calendar} : std::nullopt;
 }
 
 void StripViewModel::refresh()
@@ -230,8 +222,7 @@ QString StripViewModel::animation() const
     if (!m_sources.message) {
         return {};
     }
-    const std::string_view name = Base::textOf(m_sources.message->animation);
-    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+    return fromView(Base::textOf(m_sources.message->animation));
 }
 
 bool StripViewModel::isEmphasised() const

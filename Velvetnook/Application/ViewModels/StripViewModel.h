@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Velvetnook/Application/PrayerWatch.h"
 #include "Velvetnook/Application/StripContent.h"
 
 #include <QObject>
@@ -97,6 +98,7 @@ private:
 
     ApplicationModel &m_model;
     const Formatting &m_formatting;
+    PrayerWatch m_prayers;
     StripSources m_sources;
     StripContent m_content;
     std::optional<Base::Instant> m_changesAt;
@@ -106,9 +108,7 @@ private:
     // Messages count from here on, each once: by its id, when it was written.
     double m_messagesFrom = 0;
     std::map<std::string, double> m_seenMessages;
-    KestCore::Settings m_prayerSettings;
-    std::optional<KestCore::PrayerInputs> m_place;
-    std::optional<Base::Instant> m_prayersFrom;
+    bool m_knowsPrayers = false;
 };
 
 } // namespace Velvetnook

@@ -7,6 +7,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -40,11 +41,6 @@ constexpr std::array kCategories{
     Category{"Temperature", "°C", "°F"}, Category{"Area", "m²", "ft²"},
     Category{"Volume", "L", "US gal"},   Category{"Speed", "km/h", "mph"},
     Category{"Data", "GiB", "MB"}};
-
-QString fromView(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QVariantMap option(const QString &value, const QString &label)
 {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
 import QtQuick
-import QtQuick.Templates as T
 import Velvetnook.Application
 import Velvetnook.Shell
 
@@ -58,42 +57,20 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         keys: root.keys
     }
-    T.AbstractButton {
+    FooterLink {
         id: link
 
         visible: root.canFocus
         focus: true
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        implicitWidth: words.implicitWidth
-        implicitHeight: 30
-        hoverEnabled: true
-        focusPolicy: Qt.TabFocus
         text: root.linkText
-        Keys.onReturnPressed: clicked()
-        Keys.onEnterPressed: clicked()
-        Accessible.name: text
-        Accessible.onPressAction: clicked()
         onClicked: {
             if (root.hasMessage) {
                 App.panel.takeMessageAction();
             } else {
                 root.shown.footerLinkClicked();
             }
-        }
-        contentItem: Txt {
-            id: words
-
-            role: "note"
-            font.weight: Font.Medium
-            verticalAlignment: Text.AlignVCenter
-            color: link.hovered ? Theme.color.accentHover : Theme.color.accent
-            text: link.text
-            Accessible.ignored: true
-        }
-        FocusRing {
-            shown: link.visualFocus
-            corner: Theme.radius.key
         }
     }
 }

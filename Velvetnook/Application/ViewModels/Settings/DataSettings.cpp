@@ -8,6 +8,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -70,11 +71,6 @@ std::int64_t sum(const std::map<std::string, std::int64_t> &counts)
     return std::accumulate(
         counts.begin(), counts.end(), std::int64_t{0},
         [](std::int64_t total, const auto &entry) { return total + entry.second; });
-}
-
-QString fromView(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QString messageOf(const Result<void> &result)

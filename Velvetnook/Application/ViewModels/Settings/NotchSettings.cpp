@@ -4,8 +4,10 @@
 
 #include "Base/Text.h"
 #include "KestCore/Models/DevotionalState.h"
+#include "KestCore/Surfaces/NotchInteraction.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/NotchChoices.h"
 #include "Velvetnook/Application/ScreenIdentity.h"
 
 #include <QGuiApplication>
@@ -19,9 +21,6 @@ namespace Velvetnook
 namespace
 {
 
-constexpr double kUsualDelay = 0.18;
-constexpr double kShortestDelay = 0.1;
-constexpr double kLongestDelay = 1.5;
 constexpr qsizetype kLongestName = 100;
 
 // Null where there are no screens at all, as in a program without a desktop.
@@ -39,8 +38,7 @@ QStringList exclusionsIn(const QString &stored)
 
 NotchSettings::NotchSettings(ApplicationModel &model, const Formatting &formatting,
                              QObject *parent)
-    : SettingsPage{model, formatting, parent},
-      m_pauseToldAt{Base::milliseconds1970(model.now())}
+    : SettingsPage{model, formatting, parent}, m_pauseToldAt{model.now()}
 {
     if (const QGuiApplication *application = desktop(); application != nullptr) {
         connect(application, &QGuiApplication::screenAdded, this,
@@ -52,13 +50,11 @@ NotchSettings::NotchSettings(ApplicationModel &model, const Formatting &formatti
     model.clock().add(
         this,
         [this](Base::Instant) -> std::optional<Base::Instant> {
-            const auto until =
-                Base::numberFrom<double>(this->model().setting("notch.pausedUntil"));
-            const bool isNew = until && *until > m_pauseToldAt;
-            return isNew ? std::optional{Base::fromMilliseconds1970(*until)} : std::nullopt;
+            const auto until = endOfNotchPause(this->model());
+            return until && *until > m_pauseToldAt ? until : std::nullopt;
         },
         [this](Base::Instant now) {
-            m_pauseToldAt = Base::milliseconds1970(now);
+            m_pauseToldAt = now;
             emit changed();
         });
 }
@@ -94,14 +90,7 @@ QVariantList NotchSettings::pinModes() const
     return options(choices);
 }
 
-double NotchSettings::openDelay() const
-{
-    const auto seconds = Base::numberFrom<double>(model().setting("notch.openDelay"));
-    if (!seconds || !std::isfinite(*seconds)) {
-        return kUsualDelay;
-    }
-    return std::clamp(*seconds, kShortestDelay, kLongestDelay);
-}
+double NotchSettings::openDelay() const { return openDelayOf(model()); }
 
 QString NotchSettings::openDelayText() const
 {
@@ -144,25 +133,17 @@ QStringList NotchSettings::exclusions() const
     return exclusionsIn(setting("notch.exclusions", ""));
 }
 
-std::optional<double> NotchSettings::pausedUntil() const
-{
-    const auto until = Base::numberFrom<double>(model().setting("notch.pausedUntil"));
-    const bool isAhead = until && *until > Base::milliseconds1970(model().now());
-    return isAhead ? until : std::nullopt;
-}
-
-bool NotchSettings::isPaused() const { return pausedUntil().has_value(); }
+bool NotchSettings::isPaused() const { return notchPausedUntil(model()).has_value(); }
 
 QString NotchSettings::pausedText() const
 {
-    const auto until = pausedUntil();
-    if (!until) {
+    const auto end = notchPausedUntil(model());
+    if (!end) {
         return tr("The strip keeps away for a while.");
     }
-    const Base::Instant end = Base::fromMilliseconds1970(*until);
     const auto &calendar = model().calendar();
-    return calendar.dayNumber(end) == calendar.dayNumber(model().now())
-               ? tr("Paused until %1").arg(formatting().time(end))
+    return calendar.dayNumber(*end) == calendar.dayNumber(model().now())
+               ? tr("Paused until %1").arg(formatting().time(*end))
                : tr("Paused until tomorrow");
 }
 
@@ -192,8 +173,7 @@ void NotchSettings::setPinMode(const QString &value)
 
 void NotchSettings::setOpenDelay(double seconds)
 {
-    set("notch.openDelay",
-        QString::number(std::clamp(seconds, kShortestDelay, kLongestDelay), 'f', 2));
+    set("notch.openDelay", QString::number(KestCore::usableOpenDelay(seconds), 'f', 2));
 }
 
 void NotchSettings::setHiddenAtRest(bool on) { set("notch.compactWhenIdle", !on); }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Instant.h"
 #include "Velvetnook/Application/ViewModels/Settings/SettingsPage.h"
 
 #include <functional>
@@ -73,10 +74,9 @@ signals:
 private:
     void changeExclusions(std::function<void(QStringList &)> edit);
     void pauseUntil(double milliseconds);
-    std::optional<double> pausedUntil() const; // ms since 1970; nothing once it is over
 
     QString m_exclusionRefusal;
-    double m_pauseToldAt; // the time up to which ends of pauses were told
+    Base::Instant m_pauseToldAt; // the time up to which ends of pauses were told
 };
 
 } // namespace Velvetnook

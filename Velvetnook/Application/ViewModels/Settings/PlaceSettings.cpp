@@ -9,6 +9,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QVariantMap>
 
@@ -23,24 +24,11 @@ namespace
 
 constexpr std::size_t kMostPlaces = 6;
 
-QString fromView(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 // A number as people type it: Arabic digits and separators, or a comma, do as well.
 std::string plainNumber(const QString &typed)
 {
-    QString text = typed.trimmed();
-    for (QChar &letter : text) {
-        if (letter >= u'٠' && letter <= u'٩') {
-            letter = QChar{letter.unicode() - u'٠' + u'0'};
-        } else if (letter == u'٫' || letter == u',') {
-            letter = u'.';
-        } else if (letter == QChar{0x2212}) {
-            letter = u'-';
-        }
-    }
+    QString text = latinDigits(typed.trimmed());
+    text.replace(u',', u'.').replace(u'٫', u'.').replace(QChar{0x2212}, u'-');
     return text.toStdString();
 }
 

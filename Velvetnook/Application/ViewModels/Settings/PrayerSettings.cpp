@@ -9,6 +9,7 @@
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/LocalDay.h"
 #include "Velvetnook/Application/PrayerWatch.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QVariantMap>
 
@@ -32,11 +33,6 @@ constexpr Prayer kShown[]{Prayer::fajr, Prayer::sunrise, Prayer::dhuhr,
 std::string adjustmentKey(std::string_view prayer)
 {
     return "prayer.adjust." + std::string{prayer};
-}
-
-QString fromView(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/QtText.h"
 
 #include <QVariantMap>
 
@@ -31,9 +32,7 @@ QVariantList SettingsPage::options(std::span<const Choice> choices)
 QString SettingsPage::setting(std::string_view key, const char *fallback) const
 {
     const std::string_view value = m_model.setting(key);
-    return value.empty()
-               ? QString::fromUtf8(fallback)
-               : QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+    return fromView(value.empty() ? std::string_view{fallback} : value);
 }
 
 bool SettingsPage::isOn(std::string_view key, bool fallback) const
