@@ -4,11 +4,13 @@
 
 #include "Assistants/HookEdit.h"
 #include "Base/File.h"
+#include "Base/Text.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace Assistants
 {
@@ -76,6 +78,24 @@ const HookTool *findHookTool(std::string_view name)
 {
     const auto found = std::ranges::find(hookTools(), name, &HookTool::name);
     return found == hookTools().end() ? nullptr : &*found;
+}
+
+std::string hookCommand(const fs::path &kest)
+{
+    std::error_code error;
+    const char *const path = std::getenv("PATH");
+    for (const std::string_view folder : Base::split(path == nullptr ? "" : path, ':')) {
+        const fs::path candidate = fs::path{folder} / "kest";
+        if (::access(candidate.c_str(), X_OK) == 0) {
+            if (fs::equivalent(candidate, kest, error)) {
+                return "kest";
+            }
+            break;
+        }
+    }
+    std::string quoted = kest.string();
+    Base::replaceAll(quoted, "'", "'\\''");
+    return "'" + quoted + "'";
 }
 
 Result<PlannedChange> planHooks(const HookTool &tool, HookChange change, const fs::path &home,

@@ -42,6 +42,9 @@ enum class HookChange : std::uint8_t { connect, disconnect };
                                                      std::string_view text,
                                                      const std::string &command);
 
+// How a shell of the user's calls that very kest: by its name where it finds it so.
+std::string hookCommand(const std::filesystem::path &kest);
+
 // Whether a shell's command is a call of ours for that tool, wherever kest lies.
 bool isOurHook(const HookTool &tool, std::string_view command);
 

@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <set>
 
 namespace Assistants
 {
@@ -24,15 +25,15 @@ UsageLogs::UsageLogs(fs::path home, Base::Instant since)
 {
 }
 
-void UsageLogs::refresh()
+void UsageLogs::refresh(const std::stop_token &stop)
 {
-    if (refreshOnce()) {
+    if (refreshOnce(stop)) {
         return;
     }
     // What was counted of a file that has changed under its name cannot be taken back alone:
     // other logs may hold the same answers.
     forget();
-    (void)refreshOnce(); // a file that changes again meanwhile is noticed the next time
+    (void)refreshOnce(stop); // a file that changes again meanwhile is noticed the next time
 }
 
 void UsageLogs::forget()
@@ -43,25 +44,31 @@ void UsageLogs::forget()
 }
 
 // False when something that was read is not there any more.
-bool UsageLogs::refreshOnce()
+bool UsageLogs::refreshOnce(const std::stop_token &stop)
 {
     ++m_round;
     m_totals.unreadable = 0;
     for (const LogFormat *const format : logFormats()) {
-        if (!refreshFormat(*format)) {
+        if (!refreshFormat(*format, stop)) {
             return false;
         }
+    }
+    if (stop.stop_requested()) {
+        return true;
     }
     return std::ranges::all_of(
         m_logs, [this](const auto &entry) { return entry.second.round == m_round; });
 }
 
-bool UsageLogs::refreshFormat(const LogFormat &format)
+bool UsageLogs::refreshFormat(const LogFormat &format, const std::stop_token &stop)
 {
     std::error_code error;
     fs::recursive_directory_iterator entries{
         m_home / format.folder, fs::directory_options::skip_permission_denied, error};
     for (; !error && entries != fs::recursive_directory_iterator{}; entries.increment(error)) {
+        if (stop.stop_requested()) {
+            return true;
+        }
         if (entries.depth() >= kDeepest) {
             entries.disable_recursion_pending();
         }
@@ -148,6 +155,35 @@ std::vector<LoggedSession> UsageLogs::sessions(Base::Instant now) const
     }
     std::ranges::stable_sort(sessions, std::ranges::greater{}, &LoggedSession::at);
     return sessions;
+}
+
+std::vector<fs::path> UsageLogs::places(Base::Instant since, std::size_t most) const
+{
+    std::error_code error;
+    std::set<fs::path> places;
+    for (const LogFormat *const format : logFormats()) {
+        if (const fs::path root = m_home / format->folder; fs::is_directory(root, error)) {
+            places.insert(root);
+        }
+    }
+    // The newest sessions first, as not all may find room.
+    std::vector<std::pair<Base::Instant, const fs::path *>> files;
+    for (const auto &[file, log] : m_logs) {
+        files.emplace_back(log.step ? log.step->at : m_since, &file);
+    }
+    std::ranges::sort(files, std::ranges::greater{});
+    for (const auto &[at, file] : files) {
+        if (at >= since && places.size() < most) {
+            places.insert(*file);
+        }
+        // Its folder, and those above it in which the next day's or project's appears.
+        fs::path folder = file->parent_path();
+        while (places.size() < most && folder.native().size() > m_home.native().size() &&
+               places.insert(folder).second) {
+            folder = folder.parent_path();
+        }
+    }
+    return {places.begin(), places.end()};
 }
 
 LogTotals UsageLogs::totals() const

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <map>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -45,8 +46,12 @@ class UsageLogs
 public:
     UsageLogs(std::filesystem::path home, Base::Instant since);
 
-    // Reads what has come to the logs. What cannot be read is counted and stays out.
-    void refresh();
+    // Reads what has come to the logs. What cannot be read is counted and stays out. Asked to
+    // stop, it ends behind the file that it is at, and what it knows is not whole.
+    void refresh(const std::stop_token &stop = {});
+    // The folders in which logs appear and those logs that something has happened in since
+    // then, `most` of both: who watches them hears of all that comes.
+    std::vector<std::filesystem::path> places(Base::Instant since, std::size_t most) const;
 
     std::vector<ToolUse> report(const KestCore::Calendar &calendar, Base::Instant now,
                                 std::int64_t days) const
@@ -66,8 +71,8 @@ private:
         std::uint64_t round{}; // of the refresh that saw it last
     };
 
-    bool refreshOnce();
-    bool refreshFormat(const LogFormat &format);
+    bool refreshOnce(const std::stop_token &stop);
+    bool refreshFormat(const LogFormat &format, const std::stop_token &stop);
     bool refreshFile(const LogFormat &format, const std::filesystem::path &file);
     bool readOn(const std::filesystem::path &file, Log &log);
     void takeLine(const std::filesystem::path &file, Log &log,

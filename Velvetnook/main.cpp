@@ -5,10 +5,10 @@
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
-#include "Velvetnook/Application/AssistantActivity.h"
 #include "Velvetnook/Application/CommandServer.h"
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Languages.h"
+#include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
 #include "Velvetnook/Notch/NotchDriver.h"
 #include "Velvetnook/Notch/NotchWindow.h"
 #include "Velvetnook/Notch/SurfaceWindow.h"
@@ -183,7 +183,6 @@ private:
     QQmlEngine &m_engine;
     NotchDriver m_driver;
     CommandServer m_commands;
-    AssistantActivity m_assistants;
     std::unique_ptr<NotchWindow> m_notch;
     std::unique_ptr<PaletteWindow> m_palette;
     std::unique_ptr<PaletteHotkey> m_hotkey;
@@ -202,7 +201,7 @@ Running::Running(FirstSurface surface, const std::filesystem::path &file,
       m_app{m_model}, m_languages{m_model, *m_app.format()}, m_theme{m_model},
       m_surface{std::move(surface)}, m_engine{*m_surface.engine},
       m_driver{m_model, m_app, steadySeconds}, m_commands{m_model, file},
-      m_assistants{Base::wallClock}, m_desktop{m_app, m_model}
+      m_desktop{m_app, m_model}
 {
     *m_surface.singletons = {.app = &m_app, .theme = &m_theme};
     QObject::connect(&m_languages, &Languages::changed, &m_engine, &QQmlEngine::retranslate);
@@ -284,8 +283,10 @@ void Running::save()
 // What kest asks of the surfaces while the application runs.
 void Running::listen()
 {
-    QObject::connect(&m_commands, &CommandServer::assistantTold, &m_assistants,
-                     &AssistantActivity::take);
+    QObject::connect(&m_commands, &CommandServer::assistantTold, qGuiApp,
+                     [this](const KestCore::AssistantEvent &event) {
+                         m_app.assistants()->take(event);
+                     });
     QObject::connect(&m_commands, &CommandServer::notchWanted, qGuiApp,
                      [this](const QString &how, const QString &tool) {
                          needTheRest();

@@ -3,18 +3,15 @@
 #include "Assistants/HookFile.h"
 #include "Assistants/UnifiedDiff.h"
 #include "Assistants/UsageLogs.h"
+#include "KestCore/Store/StoreLocation.h"
 #include "cli/AssistantAnswers.h"
 #include "cli/Session.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <pwd.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <memory>
 
 // assistants: what coding assistants have used, who of them works, and their hooks.
@@ -35,20 +32,11 @@ struct Arguments {
     bool isYes = false;
 };
 
-fs::path home()
-{
-    if (const char *own = std::getenv("HOME"); own != nullptr && *own != '\0') {
-        return own;
-    }
-    const passwd *const user = getpwuid(getuid());
-    return user == nullptr ? fs::path{"/"} : fs::path{user->pw_dir};
-}
-
 Assistants::UsageLogs readLogs(int days, Base::Instant now)
 {
     // A week and a day are wanted in any case: for the week, and for the window in it.
     const double seconds = 86'400.0 * (std::max(days, 7) + 1);
-    Assistants::UsageLogs logs{home(), now - Base::Seconds{seconds}};
+    Assistants::UsageLogs logs{KestCore::homeDirectory(), now - Base::Seconds{seconds}};
     logs.refresh();
     return logs;
 }
@@ -146,24 +134,10 @@ Result<void> runSessions(const Session &session, const Arguments &args)
     });
 }
 
-// kest as a shell of the user's finds it: by its name where that is this very program.
 std::string ownCommand()
 {
     std::error_code error;
-    const fs::path self = fs::read_symlink("/proc/self/exe", error);
-    const char *const path = std::getenv("PATH");
-    for (const std::string_view folder : Base::split(path == nullptr ? "" : path, ':')) {
-        const fs::path candidate = fs::path{folder} / "kest";
-        if (::access(candidate.c_str(), X_OK) == 0) {
-            if (fs::equivalent(candidate, self, error)) {
-                return "kest";
-            }
-            break;
-        }
-    }
-    std::string quoted = self.string();
-    Base::replaceAll(quoted, "'", "'\\''");
-    return "'" + quoted + "'";
+    return Assistants::hookCommand(fs::read_symlink("/proc/self/exe", error));
 }
 
 void printChange(const Console &console, const AssistantChangeAnswer &answer)
@@ -188,7 +162,8 @@ Result<void> runChange(const Session &session, const Arguments &args, HookChange
         return std::unexpected(KestError::invalidData(
             fmt::format("\"{}\" cannot be connected; claude-code and cursor can", args.tool)));
     }
-    KEST_TRY(const auto plan, Assistants::planHooks(*tool, change, home(), ownCommand()));
+    KEST_TRY(const auto plan,
+             Assistants::planHooks(*tool, change, KestCore::homeDirectory(), ownCommand()));
     AssistantChangeAnswer answer{
         .tool = args.tool, .file = plan.file.string(), .needed = plan.isNeeded()};
     answer.diff = Assistants::unifiedDiff(plan.before.value_or(""), plan.after,

@@ -22,15 +22,6 @@ std::string_view environment(const char *name)
     return value == nullptr ? std::string_view{} : std::string_view{value};
 }
 
-fs::path homeDirectory()
-{
-    if (const auto home = environment("HOME"); !home.empty()) {
-        return home;
-    }
-    const passwd *user = getpwuid(getuid());
-    return user == nullptr ? fs::path{"/"} : fs::path{user->pw_dir};
-}
-
 // The base directory convention says that a relative path is to be ignored.
 fs::path dataHome()
 {
@@ -39,6 +30,15 @@ fs::path dataHome()
 }
 
 } // namespace
+
+fs::path homeDirectory()
+{
+    if (const auto home = environment("HOME"); !home.empty()) {
+        return home;
+    }
+    const passwd *user = getpwuid(getuid());
+    return user == nullptr ? fs::path{"/"} : fs::path{user->pw_dir};
+}
 
 std::string_view bundleIdentifier() { return KEST_BUNDLE_IDENTIFIER; }
 

@@ -15,6 +15,9 @@ std::string_view bundleIdentifier();
 // The name of the data folder of a build, so that builds never share data.
 std::string_view dataDirectoryName(std::string_view bundleIdentifier);
 
+// HOME when set, else as the system has it.
+std::filesystem::path homeDirectory();
+
 // KEST_DATA_DIR when set, else this build's folder in the user's XDG data home.
 std::filesystem::path dataDirectory();
 

@@ -117,7 +117,14 @@ MusicViewModel *App::music() { return made(m_music); }
 SoundMixViewModel *App::sounds() { return made(m_sounds); }
 MonitorViewModel *App::monitor() { return made(m_monitor); }
 ScreenTimeViewModel *App::screenTime() { return made(m_screenTime); }
-AssistantsViewModel *App::assistants() { return made(m_assistants); }
+AssistantsViewModel *App::assistants()
+{
+    if (m_assistants == nullptr) {
+        connect(made(m_assistants), &AssistantsViewModel::waitingChanged, this,
+                [this] { strip()->showWaiting(m_assistants->waiting()); });
+    }
+    return m_assistants;
+}
 DockViewModel *App::dock() { return made(m_dock); }
 
 } // namespace Velvetnook

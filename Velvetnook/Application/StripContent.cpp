@@ -42,6 +42,7 @@ private:
     Content prayerNow();
     Content lastMinute();
     Content counting();
+    Content assistant();
     Content runningTimer();
     Content prayerSoon();
     Content pinned();
@@ -96,9 +97,10 @@ StripStep Strip::step()
         lookAgain(*m_sources.countedAt + kCountingTime);
     }
     using Source = Content (Strip::*)();
-    static constexpr Source kOrder[]{&Strip::emphasis,   &Strip::message,  &Strip::prayerNow,
-                                     &Strip::lastMinute, &Strip::counting, &Strip::runningTimer,
-                                     &Strip::prayerSoon, &Strip::pinned};
+    static constexpr Source kOrder[]{
+        &Strip::emphasis,     &Strip::message,    &Strip::prayerNow,
+        &Strip::lastMinute,   &Strip::counting,   &Strip::assistant,
+        &Strip::runningTimer, &Strip::prayerSoon, &Strip::pinned};
     for (const Source source : kOrder) {
         if (Content content = (this->*source)()) {
             return {.content = std::move(*content), .changesAt = m_changesAt};
@@ -246,6 +248,18 @@ Strip::Content Strip::counting()
             QStringLiteral(" / %1").arg(m_formatting.number(*session.target));
     }
     return content;
+}
+
+Strip::Content Strip::assistant()
+{
+    const auto &waiting = m_sources.waiting;
+    if (!waiting || m_now >= waiting->since + kWaitingTime) {
+        return std::nullopt;
+    }
+    lookAgain(waiting->since + kWaitingTime);
+    return StripContent{.kind = QStringLiteral("assistant"),
+                        .text = tr("%1 is waiting for you", "Claude Code").arg(waiting->title),
+                        .textTone = QStringLiteral("text1")};
 }
 
 // A pinned phrase keeps its place, and the timer trails.

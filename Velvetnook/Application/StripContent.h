@@ -21,11 +21,12 @@ inline constexpr Base::Seconds kCountingTime{120};
 inline constexpr Base::Seconds kReachedTime{4};
 inline constexpr Base::Seconds kShortMessageTime{3};
 inline constexpr Base::Seconds kEmphasisTime{2.8}; // two breaths
+inline constexpr Base::Seconds kWaitingTime{15 * 60};
 
 // The one thing that the closed strip shows. Tones are names of colours of the theme; a ring or
 // a hem of less than 0 is not there.
 struct StripContent {
-    QString kind{}; // rest, pin, count, timer, prayer, message
+    QString kind{}; // rest, pin, count, timer, prayer, message, assistant
     QString icon{};
     QString iconTone{};
     QString arabic{};
@@ -53,6 +54,14 @@ struct ShortMessage {
     std::optional<Base::Instant> until{}; // absent while nobody can see it
 };
 
+// A coding assistant that asked for its user.
+struct WaitingAssistant {
+    QString title{};
+    Base::Instant since{};
+
+    bool operator==(const WaitingAssistant &) const = default;
+};
+
 // What there is to show. The prayers are absent without a place.
 struct StripSources {
     const KestCore::NativeState &state;
@@ -64,6 +73,7 @@ struct StripSources {
     std::optional<Base::Instant> reachedAt{};
     std::optional<Base::Instant> emphasisUntil{};
     std::optional<ShortMessage> message{};
+    std::optional<WaitingAssistant> waiting{};
     bool canBeSeen{}; // what cannot be seen counts no seconds
 };
 
@@ -74,7 +84,8 @@ struct StripStep {
 
 // The first of these that there is: a reminder's emphasis on what is pinned, a short message,
 // a prayer whose time has come, a timer in its last minute, the counting of the last two
-// minutes, a running timer, a prayer within the hour if that is chosen, what is pinned.
+// minutes, an assistant that waits, a running timer, a prayer within the hour if that is
+// chosen, what is pinned.
 StripStep stripStep(const StripSources &sources, const Formatting &formatting,
                     Base::Instant now);
 

@@ -23,7 +23,7 @@ constexpr std::array kViews{
     ToolView{"tasbih", "Names"},     ToolView{"prayer", "Prayer"},
     ToolView{"friday", "Friday"},    ToolView{"timers", "Timers"},
     ToolView{"units", "Units"},      ToolView{"notes", "Notes"},
-    ToolView{"scratchpad", "Notes"},
+    ToolView{"scratchpad", "Notes"}, ToolView{"claude", "Assistants"},
 };
 
 bool contains(const std::vector<std::string> &ids, std::string_view id)

@@ -183,8 +183,19 @@ void StripViewModel::followWallClock()
     if (m_sources.message) {
         cap(m_sources.message->until, now + kShortMessageTime);
     }
+    if (m_sources.waiting) {
+        m_sources.waiting->since = std::min(m_sources.waiting->since, now);
+    }
     m_messagesFrom = std::min(m_messagesFrom, Base::milliseconds1970(now));
     refresh();
+}
+
+void StripViewModel::showWaiting(std::optional<WaitingAssistant> waiting)
+{
+    if (waiting != m_sources.waiting) {
+        m_sources.waiting = std::move(waiting);
+        refresh();
+    }
 }
 
 bool StripViewModel::showsPin() const

@@ -76,6 +76,8 @@ public:
     // A short message for three seconds, once the strip can be seen.
     Q_INVOKABLE void say(const QString &text);
     void say(const QString &text, KestCore::MessageAnimation animation);
+    // The assistant that waits for its user; nothing when none does.
+    void showWaiting(std::optional<WaitingAssistant> waiting);
     // Draws the eye to the pinned phrase.
     Q_INVOKABLE void emphasise();
     // The window says whether the strip can be seen.

@@ -39,6 +39,14 @@ Item {
         height: parent.height
         spacing: root.gap
 
+        Rectangle {
+            visible: App.strip.kind === "assistant"
+            y: root.middle - 3
+            width: 6
+            height: 6
+            radius: 3
+            color: Theme.onStrip.warn
+        }
         StripRing {
             y: root.middle - height / 2
             visible: App.strip.ring >= 0 && App.strip.ringLeads

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velvetnook.Application
+import Velvetnook.Shell
+
+// Coding assistants: what is left of their limits, who works and who waits. The logs are read
+// only while this can be seen.
+FocusScope {
+    id: root
+
+    readonly property var model: App.assistants
+    readonly property var connections: model.connections
+    readonly property bool isSeen: visible && App.panel.isOpen
+    readonly property string footerText: connections.isOpen
+        ? qsTr("What is written or said is never passed on.") : model.footer
+    readonly property string footerLink: connections.isOpen ? "" : qsTr("Connections…")
+    readonly property var footerKeys: connections.isOpen ? [{key: qsTr("Esc"), text: qsTr("back")}] : []
+    readonly property Item mainItem: page.item
+
+    signal footerLinkClicked
+
+    onFooterLinkClicked: connections.open()
+    onIsSeenChanged: isSeen ? model.enter() : model.leave()
+    Component.onCompleted: if (isSeen) { model.enter(); }
+    Component.onDestruction: model.leave()
+
+    implicitWidth: 600
+    implicitHeight: 220
+    Accessible.role: Accessible.Pane
+    Accessible.name: qsTr("Assistants")
+    Keys.onEscapePressed: event => {
+        event.accepted = connections.isOpen;
+        if (connections.tool !== "") {
+            connections.cancel();
+        } else {
+            connections.close();
+        }
+    }
+
+    Connections {
+        target: root.connections
+        function onWritten(title, isConnected, copy) {
+            const what = isConnected ? qsTr("%1 is connected.").arg(title)
+                                     : qsTr("%1 is not connected any more.").arg(title);
+            App.panel.showMessage(copy === "" ? what
+                : qsTr("%1 The file as it was: %2").arg(what).arg(copy));
+        }
+    }
+    Loader {
+        id: page
+
+        anchors.fill: parent
+        focus: true
+        sourceComponent: root.connections.isOpen
+            ? (root.connections.tool === "" ? connectionPage : changePage)
+            : root.model.availability === "ready" ? activity : state
+        // The page that was left had the focus.
+        onLoaded: {
+            item.focus = true;
+            if (root.activeFocus) {
+                item.forceActiveFocus(Qt.OtherFocusReason);
+            }
+        }
+    }
+    Component {
+        id: activity
+
+        AssistantActivityPage {}
+    }
+    Component {
+        id: connectionPage
+
+        AssistantConnectionsPage {
+            onBack: root.connections.close()
+        }
+    }
+    Component {
+        id: changePage
+
+        AssistantChangePage {}
+    }
+    Component {
+        id: state
+
+        AvailabilityView {
+            readonly property bool isLoading: availability === "loading"
+
+            availability: root.model.availability
+            iconName: isLoading ? "" : "claude"
+            message: isLoading ? qsTr("Reading the logs…")
+                               : qsTr("No coding assistant has left logs here this week.")
+            note: isLoading ? "" : qsTr("Claude Code and Codex are read from their own logs. Claude Code and Cursor can be connected.")
+            primaryText: isLoading ? "" : qsTr("Connect…")
+            onPrimary: root.connections.open()
+        }
+    }
+}
