@@ -14,9 +14,9 @@
 #include "Velvetnook/Notch/SurfaceWindow.h"
 #include "Velvetnook/Platform/Desktop.h"
 #include "Velvetnook/Platform/EndSignals.h"
+#include "Velvetnook/Platform/GlobalKeys.h"
 #include "Velvetnook/Platform/LastWords.h"
 #include "Velvetnook/Platform/Linux/BusActivation.h"
-#include "Velvetnook/Platform/PaletteHotkey.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
 #include "Velvetnook/Platform/StartUp.h"
 #include "Velvetnook/Shell/Engine.h"
@@ -170,6 +170,7 @@ public:
 private:
     void needTheRest();
     void followWishes();
+    void followKeys();
     void listen();
     void nameWindows(); // in the language of the moment
     void openSettings();
@@ -185,7 +186,7 @@ private:
     CommandServer m_commands;
     std::unique_ptr<NotchWindow> m_notch;
     std::unique_ptr<PaletteWindow> m_palette;
-    std::unique_ptr<PaletteHotkey> m_hotkey;
+    std::unique_ptr<GlobalKeys> m_keys;
     Desktop m_desktop;
     std::unique_ptr<SurfaceWindow> m_settings;
     std::unique_ptr<SurfaceWindow> m_onboarding;
@@ -270,8 +271,36 @@ void Running::needTheRest()
     // Made before they are wanted, while nothing else is to be done.
     QTimer::singleShot(1000, qGuiApp, [this] { m_driver.prepare(); });
     m_palette = std::make_unique<PaletteWindow>(m_engine, m_app);
-    m_hotkey = std::make_unique<PaletteHotkey>(m_model, *m_app.palette());
+    followKeys();
     QTimer::singleShot(1500, qGuiApp, [this] { m_palette->prepare(); });
+}
+
+// The keys that work everywhere, and the page of the settings on which they are chosen.
+void Running::followKeys()
+{
+    m_keys = std::make_unique<GlobalKeys>(m_model, *m_app.palette());
+    ShortcutSettings *const page = m_app.settings()->shortcuts();
+    const auto tell = [this, page] {
+        for (const KestCore::ShortcutBinding &each : m_model.companion().shortcuts) {
+            page->setState(each.target, m_keys->stateOf(each.target));
+        }
+    };
+    QObject::connect(m_keys.get(), &GlobalKeys::statesChanged, page, tell);
+    QObject::connect(page, &ShortcutSettings::recordingChanged, m_keys.get(),
+                     [this, page] { m_keys->setPaused(!page->recording().isEmpty()); });
+    QObject::connect(
+        m_keys.get(), &GlobalKeys::summoned, qGuiApp, [this](const QString &target) {
+            PanelViewModel *const panel = m_app.panel();
+            if (target == QLatin1String{"notch"}) {
+                emit panel->toggleWanted();
+                return;
+            }
+            panel->openTool(target);
+            if (target != QLatin1String{"settings"}) { // they have a window of their own
+                emit panel->openWanted(true);
+            }
+        });
+    tell();
 }
 
 void Running::save()
@@ -283,10 +312,9 @@ void Running::save()
 // What kest asks of the surfaces while the application runs.
 void Running::listen()
 {
-    QObject::connect(&m_commands, &CommandServer::assistantTold, qGuiApp,
-                     [this](const KestCore::AssistantEvent &event) {
-                         m_app.assistants()->take(event);
-                     });
+    QObject::connect(
+        &m_commands, &CommandServer::assistantTold, qGuiApp,
+        [this](const KestCore::AssistantEvent &event) { m_app.assistants()->take(event); });
     QObject::connect(&m_commands, &CommandServer::notchWanted, qGuiApp,
                      [this](const QString &how, const QString &tool) {
                          needTheRest();

@@ -3396,7 +3396,7 @@
     </message>
 </context>
 <context>
-    <name>Velvetnook::PaletteHotkey</name>
+    <name>Velvetnook::GlobalKeys</name>
     <message>
         <source>No key is set.</source>
         <translation>لا مفتاح معيّن.</translation>

@@ -61,6 +61,11 @@ UpdateBuild thisBuild(std::string version)
 
 bool isPackaged(const std::filesystem::path &program, const std::filesystem::path &lists)
 {
+    std::error_code error;
+    const auto prefix = program.parent_path().parent_path();
+    if (std::filesystem::exists(prefix / "share" / "velvetnook" / "packaged", error)) {
+        return true;
+    }
     constexpr std::size_t kLargestList = 10'000'000;
     const auto list = Base::readFile(lists / "velvetnook.list", kLargestList);
     if (!list) {
@@ -72,11 +77,11 @@ bool isPackaged(const std::filesystem::path &program, const std::filesystem::pat
 
 Result<void> mayCheck(const UpdateBuild &build, const Settings &settings, bool isPackaged)
 {
-    if (build.channel == UpdateChannel::development) {
-        return unavailable("A development build does not look for updates");
-    }
     if (isPackaged) {
         return unavailable("The system's package manager installed Velvetnook and updates it");
+    }
+    if (build.channel == UpdateChannel::development) {
+        return unavailable("A development build does not look for updates");
     }
     if (build.publicKey.empty() || !isServiceAddress(build.address)) {
         return unavailable("This build has no updates");

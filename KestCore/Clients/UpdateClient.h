@@ -24,7 +24,8 @@ struct UpdateBuild {
 // This build, which is told its version by the program.
 UpdateBuild thisBuild(std::string version);
 
-// Whether the system's package manager installed this program, by its list of files.
+// Whether the system's package manager installed this program: by the mark that packages put
+// into ../share/velvetnook beside the program's folder, or by its list of files.
 bool isPackaged(const std::filesystem::path &program,
                 const std::filesystem::path &lists = "/var/lib/dpkg/info");
 

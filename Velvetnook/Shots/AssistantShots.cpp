@@ -17,19 +17,15 @@ namespace
 {
 
 // A home that holds nothing but what is written here.
-class Home
+QDir freshHome()
 {
-public:
-    static QDir fresh()
-    {
-        static QTemporaryDir folder;
-        QDir home{folder.path()};
-        home.removeRecursively();
-        home.mkpath(QStringLiteral("."));
-        qputenv("HOME", folder.path().toLocal8Bit());
-        return home;
-    }
-};
+    static const QTemporaryDir folder;
+    QDir home{folder.path()};
+    home.removeRecursively();
+    home.mkpath(QStringLiteral("."));
+    qputenv("HOME", folder.path().toLocal8Bit());
+    return home;
+}
 
 void write(const QDir &home, const QString &name, const std::string &text)
 {
@@ -92,9 +88,23 @@ Shot shot(const char *name, std::function<void(ShotData &)> prepare,
             .arrange = std::move(arrange)};
 }
 
-void prepareLogs(ShotData & /*data*/) { fill(Home::fresh()); }
+void turnOn(ShotData &data)
+{
+    data.state.enabled.emplace_back("claude");
+    data.state.navigationFavorites.emplace_back("claude");
+}
 
-void prepareNothing(ShotData & /*data*/) { Home::fresh(); }
+void prepareLogs(ShotData &data)
+{
+    turnOn(data);
+    fill(freshHome());
+}
+
+void prepareNothing(ShotData &data)
+{
+    turnOn(data);
+    freshHome();
+}
 
 void enter(App &app)
 {
@@ -103,9 +113,10 @@ void enter(App &app)
 }
 
 // Where the file cannot be understood.
-void prepareDamage(ShotData & /*data*/)
+void prepareDamage(ShotData &data)
 {
-    const QDir home = Home::fresh();
+    turnOn(data);
+    const QDir home = freshHome();
     write(home, QStringLiteral(".claude/settings.json"), "{ \"hooks\": [ }\n");
 }
 

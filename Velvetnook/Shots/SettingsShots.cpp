@@ -103,6 +103,25 @@ void openBrokenBackup(App &app)
     }
 }
 
+void addShortcuts(ShotData &data)
+{
+    data.companion.shortcuts.push_back({.id = "notes",
+                                        .target = "notes",
+                                        .keyCode = 45,
+                                        .modifiers = {KestCore::ShortcutModifier::control,
+                                                      KestCore::ShortcutModifier::option}});
+}
+
+// Of the palette, over which the notes' key is pressed.
+void recordTakenKey(App &app)
+{
+    ShortcutSettings *const page = app.settings()->shortcuts();
+    page->setState("notes", {.level = HotkeyState::Level::full, .reason = {}});
+    page->record(QStringLiteral("command"));
+    page->press(Qt::Key_N,
+                static_cast<int>(Qt::ControlModifier) | static_cast<int>(Qt::AltModifier), 57);
+}
+
 std::vector<Shot> pageShots()
 {
     return {
@@ -122,7 +141,9 @@ std::vector<Shot> pageShots()
         page("notch", "notch"),
         page("notch-away", "notch", keepAway,
              [](App &app) { app.settings()->notch()->addExclusion(QStringLiteral("a,b")); }),
-        page("shortcuts", "shortcuts"),
+        page("shortcuts", "shortcuts", addShortcuts),
+        page("shortcuts-recording", "shortcuts", addShortcuts, recordTakenKey),
+
         page("reminders", "reminders", remindUntilFive),
         page("prayer", "prayer"),
         page("prayer-search", "prayer", {},

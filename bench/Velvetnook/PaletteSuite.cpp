@@ -6,7 +6,7 @@
 #include "KestCore/Tools/Emoji.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
-#include "Velvetnook/Platform/PaletteHotkey.h"
+#include "Velvetnook/Platform/GlobalKeys.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
 #include "Velvetnook/Shell/Engine.h"
 #include "Velvetnook/Shell/Theme.h"
@@ -216,7 +216,7 @@ std::vector<Bench::Row> paletteSuite()
     if (!window.prepare()) {
         Bench::giveUp("the palette cannot be made");
     }
-    const PaletteHotkey hotkey{model, *app.palette()};
+    const GlobalKeys hotkey{model, *app.palette()};
     settle(500);
     const auto more = measureShowing(keys, app, window);
     rows.insert(rows.end(), more.begin(), more.end());

@@ -175,4 +175,10 @@ TEST_F(Updates, AskNobodyUnlessAllBuildMachineAndUserAllowIt)
     EXPECT_TRUE(isPackaged("/usr/bin/kest", m_folder.path()));
     EXPECT_FALSE(isPackaged("/usr/local/bin/kest", m_folder.path()));
     EXPECT_FALSE(isPackaged("/usr/bin/kest", m_folder.path() / "none"));
+    // Or a mark, whichever way the package went.
+    const auto share = m_folder.path() / "share/velvetnook";
+    EXPECT_FALSE(isPackaged(m_folder.path() / "bin/kest", share));
+    std::filesystem::create_directories(share);
+    std::ofstream{share / "packaged"} << "yes";
+    EXPECT_TRUE(isPackaged(m_folder.path() / "bin/kest", share));
 }

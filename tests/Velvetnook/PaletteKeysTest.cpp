@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
-#include "Velvetnook/Platform/PaletteHotkey.h"
+#include "Velvetnook/Platform/GlobalKeys.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
 #include "Velvetnook/Platform/WindowShape.h"
 #include "Velvetnook/Platform/Xcb.h"
@@ -19,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 
 // The palette's key and window on a real X server.
 namespace
@@ -27,6 +28,7 @@ namespace
 using namespace Velvetnook;
 
 constexpr std::uint32_t kControl = 0xFFE3;
+constexpr std::uint32_t kAlt = 0xFFE9;
 constexpr std::uint32_t kShift = 0xFFE1;
 constexpr std::uint32_t kEscape = 0xFF1B;
 constexpr std::uint32_t kCapsLock = 0xFFE5;
@@ -129,7 +131,7 @@ protected:
         EXPECT_TRUE(m_window->prepare());
     }
 
-    void listen() { m_hotkey = std::make_unique<PaletteHotkey>(*m_model, *m_app->palette()); }
+    void listen() { m_hotkey = std::make_unique<GlobalKeys>(*m_model, *m_app->palette()); }
     void pressHotkey()
     {
         m_keys.press(kControl);
@@ -148,7 +150,7 @@ protected:
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<PaletteWindow> m_window;
-    std::unique_ptr<PaletteHotkey> m_hotkey;
+    std::unique_ptr<GlobalKeys> m_hotkey;
 };
 
 TEST_F(PaletteKeysTest, LosesNoKeyThatIsTypedRightBehindItsOwn)
@@ -278,6 +280,43 @@ TEST_F(PaletteKeysTest, NamesTheKeyThatAnotherProgramHas)
     });
     EXPECT_TRUE(waitUntil([&] { return m_app->palette()->isHotkeyFull(); }));
     EXPECT_EQ(m_app->palette()->hotkeyText(), "Ctrl+Alt+Space");
+}
+
+// Each key summons its own, and none does while one is typed into the settings.
+TEST_F(PaletteKeysTest, SummonsWhatEachKeyIsFor)
+{
+    m_model->changeCompanion([](KestCore::CompanionState &companion) {
+        const std::set held{KestCore::ShortcutModifier::control,
+                            KestCore::ShortcutModifier::option};
+        companion.shortcuts.push_back(
+            {.id = "notes", .target = "notes", .keyCode = 45, .modifiers = held});
+        companion.shortcuts.push_back(
+            {.id = "units", .target = "units", .keyCode = 45, .modifiers = held});
+    });
+    ASSERT_TRUE(waitUntil([&] { return m_model->companion().shortcuts.size() == 3; }));
+    listen();
+    QStringList summoned;
+    QObject::connect(m_hotkey.get(), &GlobalKeys::summoned,
+                     [&](const QString &target) { summoned.append(target); });
+    const auto pressN = [&] {
+        m_keys.press(kControl);
+        m_keys.press(kAlt);
+        m_keys.tap('n');
+        m_keys.release(kAlt);
+        m_keys.release(kControl);
+    };
+    EXPECT_EQ(m_hotkey->stateOf("notes").level, HotkeyState::Level::full);
+    EXPECT_EQ(m_hotkey->stateOf("units").level, HotkeyState::Level::degraded);
+    pressN();
+    EXPECT_TRUE(waitUntil([&] { return summoned == QStringList{QStringLiteral("notes")}; }));
+    EXPECT_FALSE(m_window->isVisible());
+    m_hotkey->setPaused(true);
+    pressN();
+    settle(200);
+    EXPECT_EQ(summoned.size(), 1);
+    m_hotkey->setPaused(false);
+    pressHotkey();
+    EXPECT_TRUE(waitUntil([&] { return m_window->isVisible(); }));
 }
 
 } // namespace

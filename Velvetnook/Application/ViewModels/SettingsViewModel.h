@@ -9,6 +9,7 @@
 #include "Velvetnook/Application/ViewModels/Settings/NotchSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/PlaceSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/PrayerSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/ShortcutSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/ToolSettings.h"
 
 namespace Velvetnook
@@ -25,6 +26,7 @@ class SettingsViewModel : public QObject
     Q_PROPERTY(Velvetnook::PrayerSettings *prayer READ prayer CONSTANT)
     Q_PROPERTY(Velvetnook::ToolSettings *tools READ tools CONSTANT)
     Q_PROPERTY(Velvetnook::DataSettings *data READ data CONSTANT)
+    Q_PROPERTY(Velvetnook::ShortcutSettings *shortcuts READ shortcuts CONSTANT)
     Q_PROPERTY(Velvetnook::AboutSettings *about READ about CONSTANT)
     // The pages that the search leaves, [{page, title, icon, group}].
     Q_PROPERTY(QVariantList pages READ pages NOTIFY pagesChanged)
@@ -45,6 +47,7 @@ public:
     PrayerSettings *prayer() { return &m_prayer; }
     ToolSettings *tools() { return &m_tools; }
     DataSettings *data() { return &m_data; }
+    ShortcutSettings *shortcuts() { return &m_shortcuts; }
     AboutSettings *about() { return &m_about; }
 
     QVariantList pages() const;
@@ -75,6 +78,7 @@ private:
     PrayerSettings m_prayer;
     ToolSettings m_tools;
     DataSettings m_data;
+    ShortcutSettings m_shortcuts;
     AboutSettings m_about;
     QString m_query;
     QString m_page;

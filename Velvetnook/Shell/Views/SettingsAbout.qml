@@ -32,9 +32,10 @@ Column {
         }
         SettingsRow {
             title: qsTr("Privacy")
-            note: qsTr("Counts, notes and places stay on this computer. Nothing is sent anywhere.")
+            note: qsTr("Counts and notes stay on this computer. Only what you switch on asks the network.")
         }
     }
+    UpdateGroup {}
     SettingsGroup {
         visible: root.page.capabilities !== null
         title: qsTr("What this desktop offers")

@@ -27,7 +27,7 @@ Column {
         {text: qsTr("History"), keys: ["H"]},
     ]
 
-    HotkeyGroup {}
+    ShortcutGroup {}
     KeyTable {
         title: qsTr("In the panel")
         keyRows: root.panelKeys

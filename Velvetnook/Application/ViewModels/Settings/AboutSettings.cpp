@@ -2,8 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/ViewModels/Settings/AboutSettings.h"
 
+#include "Velvetnook/Application/ViewModels/Settings/UpdateSettings.h"
+
 namespace Velvetnook
 {
+
+AboutSettings::AboutSettings(ApplicationModel &model, const Formatting &formatting,
+                             QObject *parent)
+    : QObject{parent},
+      m_updates{new UpdateSettings{model, formatting, ownUpdateSource(KEST_VERSION), this}}
+{
+}
 
 QString AboutSettings::version() const { return QStringLiteral(KEST_VERSION); }
 

@@ -24,6 +24,10 @@ struct ShortcutKey {
 
 std::optional<ShortcutKey> shortcutKey(std::int64_t code);
 
+// The key that Qt names so. Where the keyboard writes another script than the Latin, or a shift
+// makes another sign of a digit, the key's place says which is meant.
+std::optional<ShortcutKey> pressedKey(int key, quint32 scanCode);
+
 // "Ctrl+Shift+Space".
 QString shortcutText(const KestCore::ShortcutBinding &binding);
 

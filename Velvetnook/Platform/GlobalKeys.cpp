@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "Velvetnook/Platform/PaletteHotkey.h"
+#include "Velvetnook/Platform/GlobalKeys.h"
 
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/ShortcutKeys.h"
 #include "Velvetnook/Application/ViewModels/PaletteViewModel.h"
-#include "Velvetnook/Platform/ShortcutKeys.h"
 #include "Velvetnook/Platform/Xcb.h"
 
 #include <QCoreApplication>
@@ -89,10 +89,20 @@ std::uint16_t masksOf(const ShortcutBinding &binding)
     return static_cast<std::uint16_t>(mask);
 }
 
+// What summons the same from a terminal.
+QString commandOf(const std::string &target)
+{
+    if (target == "command") {
+        return QStringLiteral("kest palette toggle");
+    }
+    return target == "notch"
+               ? QStringLiteral("kest notch toggle")
+               : QStringLiteral("kest notch open %1").arg(QString::fromStdString(target));
+}
+
 } // namespace
 
-PaletteHotkey::PaletteHotkey(ApplicationModel &model, PaletteViewModel &palette,
-                             QObject *parent)
+GlobalKeys::GlobalKeys(ApplicationModel &model, PaletteViewModel &palette, QObject *parent)
     : QObject{parent}, m_model{model}, m_palette{palette}, m_server{Xcb::connection()}
 {
     if (m_server != nullptr) {
@@ -107,14 +117,14 @@ PaletteHotkey::PaletteHotkey(ApplicationModel &model, PaletteViewModel &palette,
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
     connect(&model, &ApplicationModel::companionChanged, this, [this] {
-        if (storedBinding() != m_binding) {
+        if (m_model.companion().shortcuts != m_bindings) {
             follow();
         }
     });
     follow();
 }
 
-PaletteHotkey::~PaletteHotkey()
+GlobalKeys::~GlobalKeys()
 {
     if (m_server != nullptr) {
         QCoreApplication::instance()->removeNativeEventFilter(this);
@@ -124,50 +134,76 @@ PaletteHotkey::~PaletteHotkey()
     }
 }
 
-std::optional<ShortcutBinding> PaletteHotkey::storedBinding() const
+HotkeyState GlobalKeys::stateOf(const std::string &target) const
 {
-    const auto &shortcuts = m_model.companion().shortcuts;
-    const auto found = std::ranges::find(shortcuts, "command", &ShortcutBinding::target);
-    return found == shortcuts.end() ? std::nullopt : std::optional{*found};
+    const auto found = std::ranges::find(
+        m_held, target, [](const Held &held) -> const auto & { return held.binding.target; });
+    return found == m_held.end() ? HotkeyState{} : found->state;
 }
 
-void PaletteHotkey::follow()
+void GlobalKeys::setPaused(bool isPaused)
 {
-    m_binding = storedBinding();
-    if (!m_binding) {
-        release();
-        return tell({}, {.level = Level::off, .reason = tr("No key is set.")});
+    if (std::exchange(m_isPaused, isPaused) != isPaused) {
+        follow();
     }
-    const QString text = shortcutText(*m_binding);
+}
+
+void GlobalKeys::follow()
+{
+    release();
+    m_bindings = m_model.companion().shortcuts;
+    m_held.clear();
+    if (m_isPaused) {
+        return;
+    }
+    if (m_server != nullptr) {
+        const std::uint16_t numLock = numLockMask(m_server, readKeyboard(m_server));
+        m_locks = {0, kLocks, numLock, static_cast<std::uint16_t>(kLocks | numLock)};
+    }
+    for (const ShortcutBinding &binding : m_bindings) {
+        Held held{.binding = binding};
+        held.state = ask(held);
+        m_held.push_back(std::move(held));
+    }
+    tellPalette();
+    emit statesChanged();
+}
+
+HotkeyState GlobalKeys::ask(Held &held) const
+{
+    const QString text = shortcutText(held.binding);
     const bool isWayland = qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String{"wayland"};
     if (m_server == nullptr || isWayland) {
-        return tell(text, {.level = Level::degraded,
-                           .reason = tr("This kind of session gives no program a key of its "
-                                        "own. Bind %1 to “kest palette toggle” in the "
-                                        "desktop's keyboard settings.")
-                                         .arg(text)});
+        return {.level = Level::degraded,
+                .reason = tr("This kind of session gives no program a key of its own. Bind %1 "
+                             "to “%2” in the desktop's keyboard settings.")
+                              .arg(text, commandOf(held.binding.target))};
     }
-    release();
     const Keyboard keyboard = readKeyboard(m_server);
-    const auto key = shortcutKey(m_binding->keyCode);
+    const auto key = shortcutKey(held.binding.keyCode);
     const std::uint8_t keycode = key ? keyboard.keycodeOf(key->keysym) : std::uint8_t{0};
     if (keycode == 0) {
-        return tell(text, {.level = Level::degraded,
-                           .reason = tr("This keyboard has no such key. Choose another.")});
+        return {.level = Level::degraded,
+                .reason = tr("This keyboard has no such key. Choose another.")};
     }
-    if (!take({.keycode = keycode, .modifiers = masksOf(*m_binding)},
-              numLockMask(m_server, keyboard))) {
-        return tell(text, {.level = Level::degraded,
-                           .reason = tr("Another program has %1. Choose another key, or bind "
-                                        "one to “kest palette toggle” in the desktop's "
-                                        "keyboard settings.")
-                                         .arg(text)});
+    const Grab grab{.keycode = keycode, .modifiers = masksOf(held.binding)};
+    const auto same = std::ranges::find(m_held, std::optional{grab}, &Held::grab);
+    if (same != m_held.end()) {
+        return {.level = Level::degraded,
+                .reason = tr("%1 is another shortcut's already. Choose another.").arg(text)};
     }
-    tell(text, {.level = Level::full, .reason = {}});
+    if (!take(grab)) {
+        return {.level = Level::degraded,
+                .reason = tr("Another program has %1. Choose another key, or bind one to “%2” "
+                             "in the desktop's keyboard settings.")
+                              .arg(text, commandOf(held.binding.target))};
+    }
+    held.grab = grab;
+    return {.level = Level::full, .reason = {}};
 }
 
 // A change of the layout comes as many events.
-void PaletteHotkey::followSoon()
+void GlobalKeys::followSoon()
 {
     if (!std::exchange(m_isFollowDue, true)) {
         QMetaObject::invokeMethod(
@@ -180,17 +216,21 @@ void PaletteHotkey::followSoon()
     }
 }
 
-void PaletteHotkey::tell(const QString &text, const HotkeyState &state)
+void GlobalKeys::tellPalette()
 {
+    const auto found = std::ranges::find(m_bindings, "command", &ShortcutBinding::target);
+    const bool isSet = found != m_bindings.end();
+    const QString text = isSet ? shortcutText(*found) : QString{};
+    const HotkeyState state =
+        isSet ? stateOf("command")
+              : HotkeyState{.level = Level::off, .reason = tr("No key is set.")};
     if (m_palette.hotkeyText() != text || m_palette.hotkey() != state) {
         m_palette.setHotkey(text, state);
     }
 }
 
-bool PaletteHotkey::take(const Grab &grab, std::uint16_t numLock)
+bool GlobalKeys::take(const Grab &grab) const
 {
-    m_locks = {0, kLocks, numLock, static_cast<std::uint16_t>(kLocks | numLock)};
-    m_grab = grab;
     std::vector<xcb_void_cookie_t> asked;
     for (const std::uint16_t locks : m_locks) {
         asked.push_back(xcb_grab_key_checked(
@@ -203,25 +243,31 @@ bool PaletteHotkey::take(const Grab &grab, std::uint16_t numLock)
         isGiven = isGiven && !refusal;
     }
     if (!isGiven) {
-        release();
+        letGo(grab);
     }
     return isGiven;
 }
 
-void PaletteHotkey::release()
+void GlobalKeys::letGo(const Grab &grab) const
 {
-    if (m_server == nullptr || !m_grab) {
-        return;
-    }
     for (const std::uint16_t locks : m_locks) {
-        xcb_ungrab_key(m_server, m_grab->keycode, m_root,
-                       static_cast<std::uint16_t>(m_grab->modifiers | locks));
+        xcb_ungrab_key(m_server, grab.keycode, m_root,
+                       static_cast<std::uint16_t>(grab.modifiers | locks));
     }
     xcb_flush(m_server);
-    m_grab.reset();
 }
 
-bool PaletteHotkey::nativeEventFilter(const QByteArray &kind, void *message, qintptr *)
+void GlobalKeys::release()
+{
+    for (Held &held : m_held) {
+        if (held.grab) {
+            letGo(*held.grab);
+            held.grab.reset();
+        }
+    }
+}
+
+bool GlobalKeys::nativeEventFilter(const QByteArray &kind, void *message, qintptr *)
 {
     if (kind != "xcb_generic_event_t") {
         return false;
@@ -234,7 +280,7 @@ bool PaletteHotkey::nativeEventFilter(const QByteArray &kind, void *message, qin
         if (m_heldKey != 0) {
             return whileHeld(key, isPress);
         }
-        return (isPress && press(key)) || letGo(key, isPress);
+        return (isPress && press(key)) || giveBack(key, isPress);
     }
     // Another layout may have the key elsewhere. Its first two events tell of one.
     const bool isNewLayout =
@@ -245,17 +291,28 @@ bool PaletteHotkey::nativeEventFilter(const QByteArray &kind, void *message, qin
     return false;
 }
 
-bool PaletteHotkey::press(const xcb_key_press_event_t &event)
+void GlobalKeys::summon(const std::string &target)
 {
-    if (!m_grab || event.detail != m_grab->keycode ||
-        (event.state & kSeen) != m_grab->modifiers) {
+    if (target == "command") {
+        emit m_palette.toggleWanted();
+    } else {
+        emit summoned(QString::fromStdString(target));
+    }
+}
+
+bool GlobalKeys::press(const xcb_key_press_event_t &event)
+{
+    const Grab grab{.keycode = event.detail,
+                    .modifiers = static_cast<std::uint16_t>(event.state & kSeen)};
+    const auto held = std::ranges::find(m_held, std::optional{grab}, &Held::grab);
+    if (held == m_held.end()) {
         return false;
     }
     // A server that is busy tells a repetition as a release and a press of one moment.
     const bool isRepetition = event.time == m_releaseTime;
     m_heldKey = event.detail;
     if (!isRepetition) {
-        emit m_palette.toggleWanted();
+        summon(held->binding.target);
     }
     goOn(XCB_ALLOW_SYNC_KEYBOARD, event);
     return true;
@@ -263,7 +320,7 @@ bool PaletteHotkey::press(const xcb_key_press_event_t &event)
 
 // A key of ours that is the wrong one when it arrives, as the grab was changed while it was on
 // its way: the keyboard of every program stands still until the server hears of it.
-bool PaletteHotkey::letGo(const xcb_key_press_event_t &event, bool isPress)
+bool GlobalKeys::giveBack(const xcb_key_press_event_t &event, bool isPress)
 {
     if (event.event != m_root) {
         return false;
@@ -273,7 +330,7 @@ bool PaletteHotkey::letGo(const xcb_key_press_event_t &event, bool isPress)
 }
 
 // The server stops at each key until this one is released, and says all of them here.
-bool PaletteHotkey::whileHeld(const xcb_key_press_event_t &event, bool isPress)
+bool GlobalKeys::whileHeld(const xcb_key_press_event_t &event, bool isPress)
 {
     const bool isOurs = event.detail == m_heldKey;
     if (isPress && !isOurs) {
@@ -289,7 +346,7 @@ bool PaletteHotkey::whileHeld(const xcb_key_press_event_t &event, bool isPress)
     return true;
 }
 
-void PaletteHotkey::goOn(std::uint8_t how, const xcb_key_press_event_t &event)
+void GlobalKeys::goOn(std::uint8_t how, const xcb_key_press_event_t &event)
 {
     xcb_allow_events(m_server, how, event.time);
     xcb_flush(m_server);

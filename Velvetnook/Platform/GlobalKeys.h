@@ -3,12 +3,14 @@
 #pragma once
 
 #include "KestCore/Surfaces/CompanionState.h"
+#include "Velvetnook/Application/HotkeyState.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QObject>
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 struct xcb_connection_t;
@@ -19,28 +21,36 @@ namespace Velvetnook
 
 class ApplicationModel;
 class PaletteViewModel;
-struct HotkeyState;
 
-// The key that opens the palette wherever the user is: the shortcut of the companion whose
-// target is "command". Only an X server gives it; what is in the way, and the way round it,
-// is told to the palette's model.
+// The keys that work wherever the user is: the shortcuts of the companion. The one whose target
+// is "command" opens the palette. Only an X server gives such keys; what is in the way of each,
+// and the way round it, is told.
 //
-// The server stops the keyboard the moment that the key is pressed. The palette is asked to
+// The server stops the keyboard the moment that a key is pressed. What it summons is asked to
 // open, and has the keyboard when that returns; then it goes on. So what is typed meanwhile,
 // however soon, lands there. The release of the key is heard wherever the keyboard is then:
 // a key that is held repeats itself, and that must not be taken for another press.
-class PaletteHotkey : public QObject, public QAbstractNativeEventFilter
+class GlobalKeys : public QObject, public QAbstractNativeEventFilter
 {
     Q_OBJECT
 
 public:
-    PaletteHotkey(ApplicationModel &model, PaletteViewModel &palette,
-                  QObject *parent = nullptr);
-    ~PaletteHotkey() override;
-    PaletteHotkey(const PaletteHotkey &) = delete;
-    PaletteHotkey &operator=(const PaletteHotkey &) = delete;
+    GlobalKeys(ApplicationModel &model, PaletteViewModel &palette, QObject *parent = nullptr);
+    ~GlobalKeys() override;
+    GlobalKeys(const GlobalKeys &) = delete;
+    GlobalKeys &operator=(const GlobalKeys &) = delete;
 
     bool nativeEventFilter(const QByteArray &kind, void *message, qintptr *result) override;
+
+    // Nothing until the server was asked for it.
+    HotkeyState stateOf(const std::string &target) const;
+    // Lets go of all of them, so that one can be typed into the settings.
+    void setPaused(bool isPaused);
+
+signals:
+    // Any but that of the palette, which opens by itself.
+    void summoned(const QString &target);
+    void statesChanged();
 
 private:
     // What the server was asked for.
@@ -51,17 +61,26 @@ private:
         bool operator==(const Grab &) const = default;
     };
 
-    std::optional<KestCore::ShortcutBinding> storedBinding() const;
+    // A shortcut, and what became of it.
+    struct Held {
+        KestCore::ShortcutBinding binding{};
+        std::optional<Grab> grab{};
+        HotkeyState state{};
+    };
+
     void follow();
     void followSoon();
     void release();
+    HotkeyState ask(Held &held) const;
     // Whether the server gave all of it.
-    bool take(const Grab &grab, std::uint16_t numLock);
+    bool take(const Grab &grab) const;
+    void letGo(const Grab &grab) const;
+    void summon(const std::string &target);
     bool press(const xcb_key_press_event_t &event);
     bool whileHeld(const xcb_key_press_event_t &event, bool isPress);
-    bool letGo(const xcb_key_press_event_t &event, bool isPress);
+    bool giveBack(const xcb_key_press_event_t &event, bool isPress);
     void goOn(std::uint8_t how, const xcb_key_press_event_t &event);
-    void tell(const QString &text, const HotkeyState &state);
+    void tellPalette();
 
     ApplicationModel &m_model;
     PaletteViewModel &m_palette;
@@ -69,8 +88,9 @@ private:
     std::uint32_t m_root = 0;
     std::uint8_t m_keyboardEvents = 0; // of the keyboard extension; 0: none
     std::vector<std::uint16_t> m_locks;
-    std::optional<KestCore::ShortcutBinding> m_binding;
-    std::optional<Grab> m_grab;
+    std::vector<KestCore::ShortcutBinding> m_bindings; // as they are stored
+    std::vector<Held> m_held;
+    bool m_isPaused = false;
     bool m_isFollowDue = false;
     std::uint8_t m_heldKey = 0;      // down since it was pressed; 0: none
     std::uint32_t m_releaseTime = 0; // when it was let go last

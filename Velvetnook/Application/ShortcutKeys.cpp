@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "Velvetnook/Platform/ShortcutKeys.h"
+#include "Velvetnook/Application/ShortcutKeys.h"
 
 #include "KestCore/Surfaces/CompanionState.h"
 
@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 
 namespace Velvetnook
@@ -57,6 +58,42 @@ std::optional<ShortcutKey> shortcutKey(std::int64_t code)
 {
     const auto *const found = std::ranges::find(kKeys, code, &ShortcutKey::code);
     return found == kKeys.end() ? std::nullopt : std::optional{*found};
+}
+
+std::optional<ShortcutKey> pressedKey(int key, quint32 scanCode)
+{
+    // As an X server counts the places.
+    struct Row {
+        quint32 first;
+        std::string_view keys;
+    };
+    static constexpr Row kRows[]{
+        {10, "1234567890"}, {24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM"}};
+    static constexpr std::array kNamed{
+        std::pair{Qt::Key_Space, "Space"}, std::pair{Qt::Key_Return, "Enter"},
+        std::pair{Qt::Key_Enter, "Enter"}, std::pair{Qt::Key_Tab, "Tab"},
+        std::pair{Qt::Key_Backtab, "Tab"}, std::pair{Qt::Key_Escape, "Esc"}};
+    QString name;
+    const bool isPlain =
+        (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
+    if (isPlain) {
+        name = QChar{static_cast<char16_t>(key)};
+    } else if (key >= Qt::Key_F1 && key <= Qt::Key_F12) {
+        name = QStringLiteral("F%1").arg(key - Qt::Key_F1 + 1);
+    } else if (const auto *const found = std::ranges::find(
+                   kNamed, key, [](const auto &pair) { return static_cast<int>(pair.first); });
+               found != kNamed.end()) {
+        name = QLatin1String{found->second};
+    } else if (key < Qt::Key_Escape) {
+        for (const auto &[first, keys] : kRows) {
+            if (scanCode >= first && scanCode - first < keys.size()) {
+                name = QLatin1Char{keys[scanCode - first]};
+            }
+        }
+    }
+    const auto *const known = std::ranges::find_if(
+        kKeys, [&](const ShortcutKey &each) { return name == QLatin1String{each.name}; });
+    return known == kKeys.end() ? std::nullopt : std::optional{*known};
 }
 
 QString shortcutText(const KestCore::ShortcutBinding &binding)
