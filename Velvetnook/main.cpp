@@ -385,6 +385,9 @@ int run(const Launch &launch, BusActivation &activation, LastWords &lastWords,
     FirstSurface surface;
     const std::filesystem::path file = KestCore::dataDirectory() / KestCore::kDatabaseName;
     auto store = KestCore::StateStore::open(file);
+    if (store) {
+        store->leaveClipboardOnDisk();
+    }
     auto first = store ? store->snapshot() : std::unexpected(store.error());
     fonts.join();
     if (!first) {

@@ -3,7 +3,7 @@
 #include "Base/Secret.h"
 #include "KestCore/Clipboard/ClipboardHistory.h"
 #include "KestCore/Clipboard/ClipboardKey.h"
-#include "KestCore/Clipboard/ClipboardVault.h"
+#include "KestCore/Clipboard/ClipboardReader.h"
 #include "KestCore/Models/RecordIds.h"
 #include "SecretService/SecretService.h"
 #include "cli/Answers.h"

@@ -296,6 +296,19 @@ Result<void> ClipboardHistory::remove(std::string_view id)
     return m_store.changeRecords(changes);
 }
 
+Result<RecordChanges> ClipboardHistory::takeOut(std::string_view id)
+{
+    RecordChanges taken;
+    for (const std::string &each : {std::string{id}, clipboardIndexId(id)}) {
+        KEST_TRY(auto record, m_store.record(each));
+        if (record) {
+            taken.written.push_back(*std::move(record));
+        }
+    }
+    KEST_CHECK(remove(id));
+    return taken;
+}
+
 Result<void> ClipboardHistory::clear()
 {
     KEST_TRY(const Rows all, rows());

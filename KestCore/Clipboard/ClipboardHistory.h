@@ -55,6 +55,8 @@ public:
                                              Base::Instant now);
     [[nodiscard]] Result<ClipboardEntry> setFavourite(std::string_view id, bool favourite);
     [[nodiscard]] Result<void> remove(std::string_view id);
+    // The same; the answer is what puts the entry back as it was, sealed as it is.
+    [[nodiscard]] Result<RecordChanges> takeOut(std::string_view id);
     // Removes everything but the favourites, those of other builds among them.
     [[nodiscard]] Result<void> clear();
     // Removes what has grown too old meanwhile.

@@ -3,20 +3,16 @@
 #pragma once
 
 #include "KestCore/Clipboard/ClipboardHistory.h"
-#include "KestCore/Clipboard/Pasteboard.h"
+#include "KestCore/Clipboard/ClipboardReader.h"
 
 #include <cstdint>
-#include <string>
 
 namespace KestCore
 {
 
-// What a text is kept as: as a link when it is one web address, blanks around it aside.
-ClipboardPayload clipboardTextPayload(std::string text);
-
-// Watches the clipboard and keeps what may be kept. Has no lock and no timer of its own: lives
-// beside the store, and somebody calls `poll` now and then. What is on the clipboard when it
-// comes into being is not kept, nor what is copied while recording is off.
+// Watches the clipboard and keeps what may be kept, for a program that has the store and the
+// clipboard on one thread. Has no lock and no timer of its own: somebody calls `poll` now and
+// then.
 class ClipboardVault
 {
 public:
@@ -44,18 +40,12 @@ public:
     [[nodiscard]] Result<void> copyBack(std::string_view id);
 
 private:
-    bool isExcluded(const ClipboardSettings &settings);
     [[nodiscard]] Result<void> applyRetention(Base::Instant now);
-    [[nodiscard]] Result<void> read(std::optional<ClipboardPayload> &payload);
-    [[nodiscard]] Result<void> prepareImage(ClipboardPayload &payload);
 
     StateStore &m_store;
     ClipboardHistory m_history;
-    Pasteboard &m_pasteboard;
-    ImageCodec *m_codec;
-    std::int64_t m_seenChange;
+    ClipboardReader m_reader;
     std::optional<Base::Instant> m_tidied{}; // when retention was last applied
-    std::string m_ownWrite;                  // fingerprint of what copyBack put there last
 };
 
 } // namespace KestCore

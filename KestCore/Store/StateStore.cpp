@@ -29,12 +29,15 @@ constexpr std::string_view kReadState = "SELECT body FROM state WHERE id=1";
 constexpr std::string_view kProbeState =
     "SELECT name FROM sqlite_master WHERE type='table' AND name='state'";
 constexpr std::string_view kReadRecords = "SELECT body FROM records ORDER BY rowid";
+constexpr std::string_view kReadAllButClipboard =
+    "SELECT body FROM records WHERE kind<>'clipboard' ORDER BY rowid";
 constexpr std::string_view kWriteState =
     "INSERT INTO state(id,body) VALUES(1,?) ON CONFLICT(id) DO UPDATE SET body=excluded.body";
 constexpr std::string_view kClearHistory =
     "DELETE FROM records WHERE kind IN ('usage','clipboard','completion')";
 constexpr std::string_view kClearRecords = "DELETE FROM records";
 
+constexpr std::string_view kClipboardKind = "clipboard";
 constexpr std::array<std::string_view, 3> kHistoryKinds{"usage", "clipboard", "completion"};
 constexpr std::string_view kSchemaVersion = "1";
 
@@ -131,6 +134,12 @@ Result<void> StateStore::loadCompanion()
     });
 }
 
+void StateStore::leaveClipboardOnDisk()
+{
+    m_leavesClipboard = true;
+    m_recordsVersion.clear(); // what was read before may hold them
+}
+
 Result<Snapshot> StateStore::snapshot()
 {
     KEST_TRY(const bool isFresh, hasFreshRecords());
@@ -153,7 +162,8 @@ Result<void> StateStore::readRecords()
 {
     KEST_TRY(std::string version, m_database.dataVersion());
     RecordList records;
-    KEST_CHECK(m_database.forEachRow(kReadRecords, {}, [&](const auto &row) -> Result<void> {
+    const std::string_view sql = m_leavesClipboard ? kReadAllButClipboard : kReadRecords;
+    KEST_CHECK(m_database.forEachRow(sql, {}, [&](const auto &row) -> Result<void> {
         KEST_TRY(auto record, decodeLocalRecord(row));
         records.push_back(std::make_shared<const LocalRecord>(std::move(record)));
         return {};
@@ -194,6 +204,10 @@ Result<void> StateStore::commit(NativeState next, const Write &alsoWrite,
     if (hadRecords && edit) {
         RecordList edited = m_records.items();
         edit(edited);
+        if (m_leavesClipboard) {
+            std::erase_if(
+                edited, [](const RecordRef &record) { return record->kind == kClipboardKind; });
+        }
         m_records = Base::SharedList<RecordRef>{std::move(edited)};
     }
     return {};

@@ -46,10 +46,15 @@ public:
     // which another owner has lent them.
     void holdUntilClosed(std::shared_ptr<const void> thing) { m_held = std::move(thing); }
 
+    // From now on snapshots lack the clipboard's records, for a program that stays: their
+    // images may take more memory than all the rest of it.
+    void leaveClipboardOnDisk();
+
     const NativeState &state() const { return m_state; }
     const CompanionState &companion() const { return m_companion; }
 
-    // Everything, all records included. One row that does not decode fails the whole call.
+    // Everything, all records included, unless the clipboard's are left on the disk. One row
+    // that does not decode fails the whole call.
     [[nodiscard]] Result<Snapshot> snapshot();
 
     [[nodiscard]] Result<Snapshot> update(const StateMutation &mutation);
@@ -134,6 +139,8 @@ private:
     NativeState m_state{};
     CompanionState m_companion{};
     StateEncoder m_encoder;
+
+    bool m_leavesClipboard = false;
 
     // The decoded rows, while no other connection has written since they were read.
     Base::SharedList<RecordRef> m_records;

@@ -84,6 +84,7 @@ void StateKeeper::lend(std::function<void()> lent)
 Result<Committed> StateKeeper::reopen(Slot &slot)
 {
     KEST_TRY(auto opened, KestCore::StateStore::open(slot.file));
+    opened.leaveClipboardOnDisk();
     // Every change raises the revision. Without one there is no need to read the records.
     if (opened.state().revision == slot.lentRevision) {
         slot.store = std::move(opened);

@@ -149,6 +149,9 @@ bool draw(const Shot &shot, const Variant &variant, const QDir &folder)
     const std::filesystem::path file =
         data.filePath(QStringLiteral("kest.sqlite")).toStdString();
     auto store = KestCore::StateStore::open(file);
+    if (store) {
+        store->leaveClipboardOnDisk();
+    }
     auto snapshot = store ? fill(*store, shot, variant) : std::unexpected(store.error());
     if (!snapshot) {
         return say(shot, QString::fromStdString(snapshot.error().message));

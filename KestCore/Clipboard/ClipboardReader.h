@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/AesGcm.h"
+#include "KestCore/Clipboard/ClipboardSettings.h"
+#include "KestCore/Clipboard/Pasteboard.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace KestCore
+{
+
+// What a text is kept as: as a link when it is one web address, blanks around it aside.
+ClipboardPayload clipboardTextPayload(std::string text);
+
+// Looks at what was copied and reads what may be kept. Knows neither the store nor the key, so
+// that nobody else waits while it waits for a slow application: lives where its pasteboard
+// does. What is on the clipboard when it comes into being is not kept, nor what is copied while
+// recording is off.
+class ClipboardReader
+{
+public:
+    enum class Found : std::uint8_t {
+        nothingNew, // nothing was copied, or something else meanwhile
+        notAsked,   // not recording
+        excluded,   // marked as private, or copied in an excluded application
+        empty,      // nothing that can be kept
+        own,        // what `write` put there
+        content,
+    };
+    struct Reading {
+        Found found{};
+        std::optional<ClipboardPayload> content{}; // the caller wipes it
+    };
+
+    // Without a codec images are kept as they are, without a preview.
+    explicit ClipboardReader(Pasteboard &pasteboard, ImageCodec *codec = nullptr);
+
+    // An error is about this copy only: the next call waits for another.
+    [[nodiscard]] Result<Reading> read(const ClipboardSettings &settings);
+
+    // Puts it on the clipboard again.
+    [[nodiscard]] Result<void> write(const ClipboardPayload &payload);
+
+private:
+    bool isExcluded(const ClipboardSettings &settings);
+    [[nodiscard]] Result<void> take(std::optional<ClipboardPayload> &payload);
+    [[nodiscard]] Result<void> prepareImage(ClipboardPayload &payload);
+    std::string fingerprint(const ClipboardPayload &payload) const;
+
+    Pasteboard &m_pasteboard;
+    ImageCodec *m_codec;
+    std::int64_t m_seenChange;
+    Base::AesKey m_fingerprintKey = Base::AesKey::random();
+    std::string m_ownWrite; // fingerprint of what `write` put there last
+};
+
+} // namespace KestCore
