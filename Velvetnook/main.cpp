@@ -9,6 +9,7 @@
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Languages.h"
 #include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
+#include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
 #include "Velvetnook/Notch/NotchDriver.h"
 #include "Velvetnook/Notch/NotchWindow.h"
 #include "Velvetnook/Notch/SurfaceWindow.h"
@@ -17,6 +18,7 @@
 #include "Velvetnook/Platform/GlobalKeys.h"
 #include "Velvetnook/Platform/LastWords.h"
 #include "Velvetnook/Platform/Linux/BusActivation.h"
+#include "Velvetnook/Platform/Linux/MonitorOfHost.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
 #include "Velvetnook/Platform/StartUp.h"
 #include "Velvetnook/Shell/Engine.h"
@@ -176,6 +178,7 @@ private:
     void openSettings();
     void openOnboarding();
 
+    std::filesystem::path m_file; // the database
     ApplicationModel m_model;
     App m_app;
     Languages m_languages; // before the view models, which word themselves
@@ -197,8 +200,8 @@ private:
 
 Running::Running(FirstSurface surface, const std::filesystem::path &file,
                  KestCore::StateStore store, KestCore::Snapshot first)
-    : m_model{std::make_unique<StateKeeper>(file, std::move(store)),
-              committedAll(std::move(first)), Base::wallClock},
+    : m_file{file}, m_model{std::make_unique<StateKeeper>(file, std::move(store)),
+                            committedAll(std::move(first)), Base::wallClock},
       m_app{m_model}, m_languages{m_model, *m_app.format()}, m_theme{m_model},
       m_surface{std::move(surface)}, m_engine{*m_surface.engine},
       m_driver{m_model, m_app, steadySeconds}, m_commands{m_model, file},
@@ -256,6 +259,7 @@ void Running::needTheRest()
     }
     followWishes();
     m_desktop.begin();
+    m_app.monitor()->begin(monitorOfHost(m_file.parent_path()));
     m_desktop.follow(*m_activation);
     m_activation->begin();
     if (!m_isQuiet) {

@@ -66,6 +66,8 @@ void Alarms::act(const QString &notificationId, const QString &key)
         m_timers->startBreak();
     } else if (notificationId.startsWith(u"timer-")) {
         emit toolWanted(QStringLiteral("timers"));
+    } else if (notificationId.startsWith(u"monitor-")) {
+        emit toolWanted(QStringLiteral("stats"));
     } else if (notificationId.startsWith(u"prayer-")) {
         emit toolWanted(QStringLiteral("prayer"));
     } else if (key == u"begin") {

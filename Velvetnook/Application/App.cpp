@@ -115,7 +115,25 @@ WeatherViewModel *App::weather() { return made(m_weather); }
 InsightsViewModel *App::insights() { return made(m_insights); }
 MusicViewModel *App::music() { return made(m_music); }
 SoundMixViewModel *App::sounds() { return made(m_sounds); }
-MonitorViewModel *App::monitor() { return made(m_monitor); }
+MonitorViewModel *App::monitor()
+{
+    if (m_monitor == nullptr) {
+        made(m_monitor);
+        connect(m_monitor, &MonitorViewModel::said, this,
+                [this](const QString &message) { panel()->showMessage(message, {}); });
+        connect(m_monitor, &MonitorViewModel::notificationWanted, this,
+                [this](const NotificationRequest &request) {
+                    const bool isInView =
+                        panel()->isOpen() && panel()->tool() == QLatin1String{"stats"};
+                    if (!isInView) {
+                        emit alarms().notificationWanted(request);
+                    }
+                });
+        connect(m_monitor, &MonitorViewModel::notificationObsolete, this,
+                [this](const QString &id) { emit alarms().notificationObsolete(id); });
+    }
+    return m_monitor;
+}
 ScreenTimeViewModel *App::screenTime() { return made(m_screenTime); }
 AssistantsViewModel *App::assistants()
 {

@@ -24,6 +24,7 @@ constexpr std::array kViews{
     ToolView{"friday", "Friday"},    ToolView{"timers", "Timers"},
     ToolView{"units", "Units"},      ToolView{"notes", "Notes"},
     ToolView{"scratchpad", "Notes"}, ToolView{"claude", "Assistants"},
+    ToolView{"scratchpad", "Notes"}, ToolView{"stats", "Monitor"},
 };
 
 bool contains(const std::vector<std::string> &ids, std::string_view id)

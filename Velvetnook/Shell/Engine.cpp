@@ -5,9 +5,11 @@
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Shell/Beads.h"
 #include "Velvetnook/Shell/DayArc.h"
+#include "Velvetnook/Shell/HistoryChart.h"
 #include "Velvetnook/Shell/IconImages.h"
 #include "Velvetnook/Shell/QiblaDial.h"
 #include "Velvetnook/Shell/ShadowImages.h"
+#include "Velvetnook/Shell/Sparkline.h"
 #include "Velvetnook/Shell/Theme.h"
 
 #include <QQuickWindow>
@@ -54,7 +56,9 @@ void prepareEngine(QQmlEngine &engine, const std::shared_ptr<const Singletons> &
     registerSingleton("Theme", singletons, &Singletons::theme);
     qmlRegisterType<Beads>("Velvetnook.Application", 1, 0, "Beads");
     qmlRegisterType<DayArc>("Velvetnook.Application", 1, 0, "DayArc");
+    qmlRegisterType<HistoryChart>("Velvetnook.Application", 1, 0, "HistoryChart");
     qmlRegisterType<QiblaDial>("Velvetnook.Application", 1, 0, "QiblaDial");
+    qmlRegisterType<Sparkline>("Velvetnook.Application", 1, 0, "Sparkline");
     engine.addImageProvider(QStringLiteral("icon"), new IconImages);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowImages);
     engine.addImportPath(QStringLiteral("qrc:/"));
