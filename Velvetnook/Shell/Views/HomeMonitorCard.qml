@@ -36,7 +36,7 @@ Card {
                 height: 76
                 Accessible.role: Accessible.StaticText
                 Accessible.name: qsTr("%1: %2").arg(modelData.title)
-                                 .arg(modelData.isMissing ? modelData.problem : modelData.value)
+                                 .arg(modelData.isMissing ? modelData.problem : modelData.whole)
 
                 Txt {
                     anchors.left: parent.left
@@ -48,7 +48,7 @@ Card {
                 Txt {
                     anchors.right: parent.right
                     role: "label"
-                    text: figure.modelData.isMissing ? figure.modelData.problem : figure.modelData.value
+                    text: figure.modelData.isMissing ? figure.modelData.problem : figure.modelData.whole
                     color: figure.modelData.isMissing ? Theme.color.text3 : Theme.color.text1
                     Accessible.ignored: true
                 }

@@ -43,7 +43,7 @@ Rectangle {
         anchors.right: buttons.left
         anchors.rightMargin: 6
         anchors.verticalCenter: parent.verticalCenter
-        horizontalAlignment: LayoutMirroring.enabled ? Text.AlignRight : Text.AlignLeft
+        horizontalAlignment: Text.AlignLeft
         role: "label"
         font.weight: Font.Normal
         text: App.monitor.alertText

@@ -47,7 +47,7 @@ Item {
             anchors.left: parent.left
             anchors.right: cpu.left
             anchors.verticalCenter: parent.verticalCenter
-            horizontalAlignment: LayoutMirroring.enabled ? Text.AlignRight : Text.AlignLeft
+            horizontalAlignment: Text.AlignLeft
             role: "caption"
             text: App.monitor.appPorts === "" ? qsTr("Processes")
                                               : qsTr("Processes") + " · " + App.monitor.appPorts

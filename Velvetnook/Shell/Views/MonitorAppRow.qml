@@ -88,7 +88,7 @@ T.AbstractButton {
             anchors.rightMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             width: 44
-            horizontalAlignment: LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
+            horizontalAlignment: Text.AlignRight
             role: "label"
             elide: Text.ElideNone
             text: root.cpu
@@ -101,7 +101,7 @@ T.AbstractButton {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             width: 54
-            horizontalAlignment: LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
+            horizontalAlignment: Text.AlignRight
             role: "label"
             font.weight: Font.Normal
             elide: Text.ElideNone

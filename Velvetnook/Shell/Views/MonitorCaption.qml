@@ -8,7 +8,7 @@ import Velvetnook.Shell
 Txt {
     height: 20
     verticalAlignment: Text.AlignVCenter
-    horizontalAlignment: LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
+    horizontalAlignment: Text.AlignRight
     role: "caption"
     color: Theme.color.text3
 }

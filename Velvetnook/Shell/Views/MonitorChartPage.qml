@@ -18,12 +18,20 @@ Item {
         width: parent.width
         title: root.chart.title
         note: root.chart.subtitle
-        Picker {
-            width: 150
+        IconButton {
+            id: other
+
+            size: 30
+            iconName: "updown"
             name: qsTr("What is shown")
-            options: root.chart.metrics
-            value: root.chart.metric
-            onChosen: value => root.chart.open(value)
+            onClicked: metrics.popup(0, other.height + 4)
+
+            PopupMenu {
+                id: metrics
+
+                items: root.chart.metrics.map(metric => ({text: metric.label}))
+                onChosen: index => root.chart.open(root.chart.metrics[index].value)
+            }
         }
         Segmented {
             name: qsTr("How far back")

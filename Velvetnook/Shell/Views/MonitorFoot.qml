@@ -52,6 +52,7 @@ Item {
         }
     }
     FooterLink {
+        visible: App.monitor.availability === "ready"
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         text: qsTr("Export image…")

@@ -43,7 +43,7 @@ Item {
         anchors.right: slot.left
         anchors.rightMargin: 10
         anchors.verticalCenter: parent.verticalCenter
-        horizontalAlignment: LayoutMirroring.enabled ? Text.AlignRight : Text.AlignLeft
+        horizontalAlignment: Text.AlignLeft
         role: "note"
         text: root.note
         color: Theme.color.text3

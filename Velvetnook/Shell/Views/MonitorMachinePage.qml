@@ -20,7 +20,8 @@ Item {
         id: rows
 
         y: 40
-        width: parent.width
+        x: LayoutMirroring.enabled ? -16 : 0
+        width: parent.width + 16 // the gap after the last column
         height: parent.height - 40
         cellWidth: Math.floor(width / 2)
         cellHeight: 36

@@ -19,8 +19,6 @@ Rectangle {
     required property string spoken
     property bool isCurrent: false
 
-    readonly property int figures: LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
-
     height: 32
     radius: 8
     color: area.hovered || isCurrent ? Theme.color.bg1 : "transparent"
@@ -60,7 +58,7 @@ Rectangle {
         anchors.right: size.left
         anchors.verticalCenter: parent.verticalCenter
         width: 60
-        horizontalAlignment: root.figures
+        horizontalAlignment: Text.AlignRight
         role: "label"
         text: root.cpu
         color: root.isHot ? Theme.color.warn : Theme.color.text1
@@ -72,7 +70,7 @@ Rectangle {
         anchors.right: traffic.left
         anchors.verticalCenter: parent.verticalCenter
         width: 70
-        horizontalAlignment: root.figures
+        horizontalAlignment: Text.AlignRight
         role: "label"
         font.weight: Font.Normal
         text: root.memory
@@ -86,7 +84,7 @@ Rectangle {
         anchors.rightMargin: 70
         anchors.verticalCenter: parent.verticalCenter
         width: 80
-        horizontalAlignment: root.figures
+        horizontalAlignment: Text.AlignRight
         role: "label"
         font.weight: Font.Normal
         text: root.disk

@@ -25,7 +25,7 @@ T.AbstractButton {
 
     contentItem: Txt {
         verticalAlignment: Text.AlignVCenter
-        horizontalAlignment: LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
+        horizontalAlignment: Text.AlignRight
         role: "caption"
         text: root.text
         color: root.isChosen || root.hovered ? Theme.color.text1 : Theme.color.text3

@@ -15,7 +15,7 @@ Card {
     padding: 0
     corner: 14
     interactive: true
-    name: qsTr("%1: %2 %3").arg(tile.title).arg(tile.isMissing ? tile.problem : tile.value).arg(tile.rest)
+    name: qsTr("%1: %2 %3").arg(tile.title).arg(tile.isMissing ? tile.problem : tile.whole).arg(tile.note)
 
     Icon {
         id: sign
@@ -44,7 +44,7 @@ Card {
         anchors.right: parent.right
         anchors.rightMargin: 12
         y: 11
-        horizontalAlignment: LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
+        horizontalAlignment: Text.AlignRight
         role: "caption"
         text: root.tile.note
         color: Theme.color.text3
@@ -68,7 +68,7 @@ Card {
         anchors.right: parent.right
         anchors.rightMargin: 6
         anchors.baseline: figure.baseline
-        horizontalAlignment: LayoutMirroring.enabled ? Text.AlignRight : Text.AlignLeft
+        horizontalAlignment: Text.AlignLeft
         role: root.tile.isMissing ? "caption" : "body"
         text: root.tile.isMissing ? root.tile.problem : root.tile.rest
         color: root.tile.isMissing ? Theme.color.text3 : Theme.color.text2

@@ -94,6 +94,7 @@ QList<qreal> MonitorTile::series() const
 void MonitorTile::clear()
 {
     m_value = QStringLiteral("—");
+    m_whole = m_value;
     m_rest.clear();
     m_note.clear();
     m_problem = missingText(m_formatting, {.state = MetricState::warmingUp});
@@ -130,6 +131,7 @@ void MonitorTile::show(const Snapshot &snapshot, bool isNew)
         m_series.clear();
     }
     m_value = QStringLiteral("—");
+    m_whole = m_value;
     m_rest.clear();
     m_note.clear();
     switch (m_kind) {
@@ -145,6 +147,9 @@ void MonitorTile::show(const Snapshot &snapshot, bool isNew)
     case Kind::network:
         showNetwork(snapshot);
         break;
+    }
+    if (m_kind != Kind::memory) {
+        m_whole = m_value;
     }
     emit changed();
 }
@@ -169,7 +174,8 @@ void MonitorTile::showMemory(const Snapshot &snapshot)
     if (!used) {
         return;
     }
-    m_value = bytesText(m_formatting, *used);
+    m_whole = bytesText(m_formatting, *used);
+    m_value = m_whole;
     if (total && *total > 0) {
         m_most = *total;
         m_rest = tr("of %1", "9.4 of 16 GB").arg(bytesText(m_formatting, *total));

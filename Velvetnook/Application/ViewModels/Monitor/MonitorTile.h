@@ -21,6 +21,7 @@ class MonitorTile : public QObject
     Q_PROPERTY(QString icon READ icon CONSTANT)
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString value READ value NOTIFY changed) // an em dash where there is none
+    Q_PROPERTY(QString whole READ whole NOTIFY changed) // the same with its unit
     Q_PROPERTY(QString rest READ rest NOTIFY changed)   // "of 16 GB", one step back
     Q_PROPERTY(QString note READ note NOTIFY changed)
     Q_PROPERTY(QString problem READ problem NOTIFY changed) // why there is none
@@ -36,6 +37,7 @@ public:
     QString icon() const;
     QString title() const;
     QString value() const { return m_value; }
+    QString whole() const { return m_whole; }
     QString rest() const { return m_rest; }
     QString note() const { return m_note; }
     QString problem() const { return m_problem; }
@@ -68,6 +70,7 @@ private:
     int m_cores = 0;
     bool m_isNew = false;
     QString m_value;
+    QString m_whole;
     QString m_rest;
     QString m_note;
     QString m_problem;
