@@ -5,6 +5,7 @@
 #include "Base/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <tuple>
 
@@ -54,6 +55,33 @@ std::vector<Player> inOrder(std::vector<Player> players, std::string_view contro
                           std::string_view{player.name}};
     });
     return players;
+}
+
+bool isBrowser(const Player &player)
+{
+    static constexpr std::array<std::string_view, 8> kBrowsers{
+        "brave", "chrome", "chromium", "edge", "epiphany", "firefox", "librewolf", "vivaldi"};
+    const std::string name = Base::lowerAscii(player.name + " " + player.identity);
+    return name.contains("browser") ||
+           std::ranges::any_of(kBrowsers, [&](auto browser) { return name.contains(browser); });
+}
+
+std::vector<Player> withoutDoubles(std::vector<Player> players)
+{
+    constexpr double kNear = 3; // seconds between two answers about one place in a track
+    const auto isDouble = [](const Player &one, const Player &other) {
+        const bool isSame = !one.title.empty() && one.title == other.title &&
+                            one.artist == other.artist && one.status == other.status;
+        return isSame && (isBrowser(one) || isBrowser(other) ||
+                          std::abs(one.position - other.position) < kNear);
+    };
+    std::vector<Player> each;
+    for (Player &player : players) {
+        if (std::ranges::none_of(each, [&](const auto &it) { return isDouble(it, player); })) {
+            each.push_back(std::move(player));
+        }
+    }
+    return each;
 }
 
 const Player *find(const std::vector<Player> &players, std::string_view wanted)

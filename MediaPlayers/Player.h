@@ -29,6 +29,7 @@ struct Player {
     Status status = Status::stopped;
     std::string title{};
     std::string artist{};
+    std::string art{};   // the address of its picture; empty: there is none
     std::string track{}; // the path by which the player knows what it plays; empty: it has none
     double position{};   // seconds, like duration
     double duration{};
@@ -52,6 +53,13 @@ KestCore::BrowserPlayback playbackOf(const Player &player);
 // Those that play come first, then those that are paused; among equals the one that was
 // controlled last, then by name. The bus itself does not know who was active last.
 std::vector<Player> inOrder(std::vector<Player> players, std::string_view controlledLast);
+
+// Whether it is a web browser, by its name on the bus.
+bool isBrowser(const Player &player);
+
+// Each thing that plays once, in the same order: a browser and its extension tell of the same
+// page, and some programs stand on the bus for whichever player is active.
+std::vector<Player> withoutDoubles(std::vector<Player> players);
 
 // The one that the user means: by its name on the bus, by the name's first part, or by what it
 // calls itself, whatever the case. An exact name on the bus wins. Null: none. Of several, the

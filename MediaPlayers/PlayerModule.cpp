@@ -85,6 +85,7 @@ void describe(Player &player, const BusMap &map)
     }
     player.title = valueOr(metadata, "xesam:title", std::string{});
     player.artist = valueOr(metadata, "xesam:artist", std::string{});
+    player.art = valueOr(metadata, "mpris:artUrl", std::string{});
     player.track = valueOr(metadata, "mpris:trackid", std::string{});
     player.duration = valueOr(metadata, "mpris:length", 0.0) / kMicroseconds;
     player.position = valueOr(map, "Position", 0.0) / kMicroseconds;

@@ -4,7 +4,7 @@
 #include "HttpTransport/HttpTransport.h"
 #include "KestCore/Clients/DirectInsightsClient.h"
 #include "KestCore/Clients/InsightKeys.h"
-#include "KestCore/Clients/ServiceAddress.h"
+#include "KestCore/Clients/InsightSettings.h"
 #include "SecretService/SecretService.h"
 #include "cli/InsightAnswers.h"
 #include "cli/KeyInput.h"
@@ -26,20 +26,11 @@ using KestCore::InsightPeriod;
 using KestCore::InsightProvider;
 using KestCore::Settings;
 
-constexpr const char *kWebsiteSetting = "analytics.website";
-
 struct Arguments {
     std::optional<std::string> period{};
     std::string website{};
     InsightProvider provider{}; // of connect and disconnect
 };
-
-// The tool that shows a provider's figures keeps its settings under its own name.
-std::string settingOf(InsightProvider provider, std::string_view name)
-{
-    const bool isPayments = provider == InsightProvider::stripe;
-    return fmt::format("{}.{}", isPayments ? "revenue" : "analytics", name);
-}
 
 std::string settingIn(const Settings &settings, const std::string &key)
 {
@@ -88,33 +79,10 @@ Result<Base::SecretBytes> keyFor(InsightProvider provider)
     return *std::move(key);
 }
 
-KestCore::InsightHosts chosenHosts()
-{
-    const KestCore::InsightHosts usual;
-    return {.stripe = KestCore::serviceAddress(usual.stripe, "KEST_STRIPE_URL"),
-            .datafast = KestCore::serviceAddress(usual.datafast, "KEST_DATAFAST_URL")};
-}
-
-Result<InsightPeriod> periodFrom(const std::string &text)
-{
-    if (const auto period = Base::fromText<InsightPeriod>(text)) {
-        return *period;
-    }
-    std::vector<std::string_view> known;
-    for (const auto &[period, name] : enumTexts(Base::Of<InsightPeriod>{})) {
-        known.push_back(name);
-    }
-    return std::unexpected(KestError::invalidData(fmt::format(
-        "There is no period \"{}\"; choose one of {}", text, fmt::join(known, ", "))));
-}
-
 // What was given, else what is set, else the usual one.
 Result<InsightPeriod> periodOf(const Arguments &args, const std::string &setting)
 {
-    if (!args.period && setting.empty()) {
-        return KestCore::kUsualInsightPeriod;
-    }
-    return periodFrom(args.period.value_or(setting));
+    return KestCore::insightPeriodFrom(args.period.value_or(setting));
 }
 
 // What the provider asked for holds for the next run too.
@@ -141,18 +109,18 @@ Result<KestCore::InsightReport> load(const Session &session, InsightProvider pro
         return given.empty() ? settingIn(settings, setting) : given;
     };
     KEST_TRY(const auto period,
-             periodOf(args, settingIn(settings, settingOf(provider, "period"))));
+             periodOf(args, settingIn(settings, KestCore::insightSetting(provider, "period"))));
     KEST_TRY(const auto key, keyFor(provider));
     KEST_TRY(const auto transport, Web::openTransport());
-    KestCore::DirectInsightsClient client{*transport, chosenHosts()};
-    const std::string waitSetting = settingOf(provider, "waitUntil");
+    KestCore::DirectInsightsClient client{*transport, KestCore::insightHosts()};
+    const std::string waitSetting = KestCore::insightSetting(provider, "waitUntil");
     if (const auto until = Base::fromIso8601(settingIn(settings, waitSetting))) {
         client.waitUntil(provider, *until);
     }
     const auto waitBefore = client.waitsUntil(provider);
     const std::string_view word{reinterpret_cast<const char *>(key.data()), key.size()};
     auto report =
-        client.load(provider, word, period, orSetting(args.website, kWebsiteSetting),
+        client.load(provider, word, period, orSetting(args.website, KestCore::kWebsiteSetting),
                     Base::wallClock(), KestCore::InsightZone::ofHost(), std::stop_token{});
     if (client.waitsUntil(provider) != waitBefore) {
         KEST_CHECK(keepWait(session, waitSetting, client.waitsUntil(provider)));
@@ -206,9 +174,10 @@ Result<void> runConnect(const Session &session, const Arguments &args)
         return std::unexpected(asKestError(kept.error()));
     }
     KEST_CHECK(store.change([&](KestCore::NativeState &state) -> Result<void> {
-        state.settings.erase(settingOf(provider, "waitUntil")); // that was for another key
+        state.settings.erase(
+            KestCore::insightSetting(provider, "waitUntil")); // that was for another key
         if (!args.website.empty()) {
-            state.settings.insert_or_assign(kWebsiteSetting, args.website);
+            state.settings.insert_or_assign(KestCore::kWebsiteSetting, args.website);
         }
         return {};
     }));

@@ -23,6 +23,15 @@ constexpr Base::Seconds kUsualLife{900}; // of an answer that does not say how l
 constexpr Base::Seconds kShortestBreak{600};
 constexpr Base::Seconds kLongestBreak{86'400};
 
+// More places than anybody goes to and fro between; a document is of some hundred kilobytes.
+constexpr std::size_t kMostPlaces = 4;
+
+constexpr const char *kNoPlace = "Choose a valid location";
+constexpr const char *kOnBreak =
+    "Weather is taking a break. Please try again in a few minutes.";
+constexpr const char *kBusy = "Weather is busy. Please try again in a few minutes.";
+constexpr const char *kSilent = "Weather did not respond. Try again shortly.";
+
 constexpr int kFound = 200;
 constexpr int kFoundButDeprecated = 203;
 constexpr int kUnchanged = 304;
@@ -60,7 +69,7 @@ Result<WeatherForecast> WeatherClient::fetch(double latitude, double longitude,
 {
     // Neither holds for a value that is no number.
     if (!(std::abs(latitude) <= 90 && std::abs(longitude) <= 180)) {
-        return std::unexpected(KestError::invalidData("Choose a valid location"));
+        return std::unexpected(KestError::invalidData(kNoPlace));
     }
     const std::string url =
         fmt::format("{}/weatherapi/locationforecast/2.0/compact?lat={:.2f}&lon={:.2f}",
@@ -71,16 +80,15 @@ Result<WeatherForecast> WeatherClient::fetch(double latitude, double longitude,
         return parseForecast(known->second.data);
     }
     if (now < m_retryAfter) {
-        return unavailable("Weather is taking a break. Please try again in a few minutes.");
+        return unavailable(kOnBreak);
     }
     auto response = m_transport.get(requestFor(url), stop);
     if (response) {
         return take(url, *std::move(response));
     }
     m_options.log("Weather: " + response.error().message);
-    return response.error().kind == Base::HttpFailure::Kind::tooLarge
-               ? isUnavailable()
-               : unavailable("Weather did not respond. Try again shortly.");
+    return response.error().kind == Base::HttpFailure::Kind::tooLarge ? isUnavailable()
+                                                                      : unavailable(kSilent);
 }
 
 Base::HttpRequest WeatherClient::requestFor(const std::string &url) const
@@ -103,7 +111,7 @@ Result<WeatherForecast> WeatherClient::take(const std::string &url, Base::HttpRe
 {
     if (response.status == kTooMany) {
         takeBreak(response);
-        return unavailable("Weather is busy. Please try again in a few minutes.");
+        return unavailable(kBusy);
     }
     const Base::Instant expires = expiryOf(response, m_options.clock());
     if (response.status == kUnchanged) {
@@ -121,6 +129,9 @@ Result<WeatherForecast> WeatherClient::take(const std::string &url, Base::HttpRe
                  .expires = expires,
                  .modified = header ? std::optional<std::string>{*header} : std::nullopt};
     KEST_TRY(auto forecast, parseForecast(fresh.data));
+    if (!m_cache.contains(url) && m_cache.size() >= kMostPlaces) {
+        m_cache.clear();
+    }
     m_cache.insert_or_assign(url, std::move(fresh));
     return forecast;
 }
@@ -143,6 +154,22 @@ void WeatherClient::takeBreak(const Base::HttpResponse &response)
     const bool isNumber = seconds && std::isfinite(*seconds);
     const Base::Seconds wanted{isNumber ? *seconds : kShortestBreak.count()};
     m_retryAfter = m_options.clock() + std::clamp(wanted, kShortestBreak, kLongestBreak);
+}
+
+std::optional<Base::Instant> WeatherClient::waitsUntil(Base::Instant now) const
+{
+    return now < m_retryAfter ? std::optional{m_retryAfter} : std::nullopt;
+}
+
+Availability weatherAvailability(const KestError &failure)
+{
+    if (failure.message == kNoPlace) {
+        return Availability::unconfigured;
+    }
+    if (failure.message == kOnBreak || failure.message == kBusy) {
+        return Availability::rateLimited;
+    }
+    return failure.message == kSilent ? Availability::offline : Availability::error;
 }
 
 } // namespace KestCore

@@ -4,10 +4,12 @@
 
 #include "Base/Http.h"
 #include "KestCore/Clients/WeatherForecast.h"
+#include "KestCore/Registry/Availability.h"
 
 #include <functional>
 #include <limits>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -38,6 +40,9 @@ public:
     [[nodiscard]] Result<WeatherForecast> fetch(double latitude, double longitude,
                                                 const std::stop_token &stop = {});
 
+    // Until when the service wants to be left alone, where that is later than `now`.
+    std::optional<Base::Instant> waitsUntil(Base::Instant now) const;
+
 private:
     struct Cached {
         json::PaddedText data{};
@@ -56,5 +61,8 @@ private:
     Base::Instant m_retryAfter =
         Base::fromSeconds1970(-std::numeric_limits<double>::infinity());
 };
+
+// What the failure of a fetch means for who shows it.
+Availability weatherAvailability(const KestError &failure);
 
 } // namespace KestCore

@@ -43,18 +43,22 @@ std::future<FetchAnswer> RefreshCoordinator::refresh(std::string key, Base::Seco
 {
     std::promise<FetchAnswer> promise;
     auto answer = promise.get_future();
-    (void)m_owned.ask([this, key = std::move(key), lifetime, fetch = std::move(fetch),
-                       promise = std::move(promise)](Owned &owned) mutable {
-        auto next = owned.plan.request(
-            key, m_clock(), lifetime,
+    refresh(std::move(key), lifetime, std::move(fetch),
             [promise = std::move(promise)](const FetchAnswer &result) mutable {
                 promise.set_value(result);
             });
-        if (next) {
+    return answer;
+}
+
+void RefreshCoordinator::refresh(std::string key, Base::Seconds lifetime, Fetch fetch,
+                                 RefreshPlan::Waiter done)
+{
+    (void)m_owned.ask([this, key = std::move(key), lifetime, fetch = std::move(fetch),
+                       done = std::move(done)](Owned &owned) mutable {
+        if (auto next = owned.plan.request(key, m_clock(), lifetime, std::move(done))) {
             start(owned, key, std::move(*next), std::move(fetch));
         }
     });
-    return answer;
 }
 
 void RefreshCoordinator::start(Owned &owned, const std::string &key, RefreshPlan::Start start,

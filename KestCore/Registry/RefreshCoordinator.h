@@ -31,6 +31,11 @@ public:
     [[nodiscard]] std::future<FetchAnswer> refresh(std::string key, Base::Seconds lifetime,
                                                    Fetch fetch);
 
+    // The same for who must not wait: `done` is called on the coordinator's own thread, and
+    // does no more than to hand the answer on.
+    void refresh(std::string key, Base::Seconds lifetime, Fetch fetch,
+                 RefreshPlan::Waiter done);
+
     // When the future is there, all who waited have their answer, and whatever the fetch still
     // brings is dropped.
     std::future<void> cancel(std::string key);

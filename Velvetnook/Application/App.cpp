@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/ToolServices.h"
 #include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
 #include "Velvetnook/Application/ViewModels/CalendarPageViewModel.h"
 #include "Velvetnook/Application/ViewModels/ClipboardViewModel.h"
@@ -23,8 +24,14 @@ namespace Velvetnook
 {
 
 App::App(ApplicationModel &model, QObject *parent)
-    : QObject{parent}, m_model{model}, m_formatting{model}
+    : QObject{parent}, m_model{model}, m_formatting{model},
+      m_services{std::make_shared<const ToolServices>()}
 {
+}
+
+void App::setServices(ToolServices services)
+{
+    m_services = std::make_shared<const ToolServices>(std::move(services));
 }
 
 template <class T>
@@ -111,9 +118,35 @@ ShelfViewModel *App::shelf() { return made(m_shelf); }
 FilesViewModel *App::files() { return made(m_files); }
 LinksViewModel *App::links() { return made(m_links); }
 CalendarPageViewModel *App::calendar() { return made(m_calendar); }
-WeatherViewModel *App::weather() { return made(m_weather); }
-InsightsViewModel *App::insights() { return made(m_insights); }
-MusicViewModel *App::music() { return made(m_music); }
+WeatherViewModel *App::weather()
+{
+    if (m_weather == nullptr) {
+        m_weather = new WeatherViewModel{m_model, m_formatting, m_services, this};
+    }
+    return m_weather;
+}
+
+InsightsViewModel *App::insights()
+{
+    if (m_insights == nullptr) {
+        m_insights = new InsightsViewModel{m_model, m_formatting, m_services, this};
+    }
+    return m_insights;
+}
+
+MusicViewModel *App::music()
+{
+    if (m_music == nullptr) {
+        m_music = new MusicViewModel{m_model, m_formatting, m_services, this};
+        const auto tellStrip = [this] { strip()->setNowPlaying(m_music->nowPlaying()); };
+        connect(m_music, &MusicViewModel::nowPlayingChanged, this, tellStrip);
+        connect(m_music, &MusicViewModel::failed, this,
+                [this](const QString &message) { m_model.say(message); });
+        tellStrip();
+    }
+    return m_music;
+}
+
 SoundMixViewModel *App::sounds() { return made(m_sounds); }
 MonitorViewModel *App::monitor()
 {

@@ -21,6 +21,8 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace Velvetnook
 {
 
@@ -38,6 +40,7 @@ class MusicViewModel;
 class ScreenTimeViewModel;
 class ShelfViewModel;
 class SoundMixViewModel;
+struct ToolServices;
 class WeatherViewModel;
 
 // The root of what QML sees, as the singleton `App`. A view model is made when it is first
@@ -95,6 +98,8 @@ public:
 
     // What happens by itself: made once, by whoever shows it first.
     Alarms &alarms();
+    // What the tools reach the world with, before the first of them is made.
+    void setServices(ToolServices services);
     // Hands the store what is being written and waits for a pause.
     void saveOpenWork();
 
@@ -135,6 +140,7 @@ private:
 
     ApplicationModel &m_model;
     Formatting m_formatting;
+    std::shared_ptr<const ToolServices> m_services;
     Alarms *m_alarms = nullptr;
     PanelViewModel *m_panel = nullptr;
     StripViewModel *m_strip = nullptr;

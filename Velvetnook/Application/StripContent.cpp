@@ -44,6 +44,7 @@ private:
     Content counting();
     Content assistant();
     Content runningTimer();
+    Content nowPlaying();
     Content prayerSoon();
     Content pinned();
 
@@ -100,7 +101,8 @@ StripStep Strip::step()
     static constexpr Source kOrder[]{
         &Strip::emphasis,     &Strip::message,    &Strip::prayerNow,
         &Strip::lastMinute,   &Strip::counting,   &Strip::assistant,
-        &Strip::runningTimer, &Strip::prayerSoon, &Strip::pinned};
+        &Strip::runningTimer, &Strip::nowPlaying, &Strip::prayerSoon,
+        &Strip::pinned};
     for (const Source source : kOrder) {
         if (Content content = (this->*source)()) {
             return {.content = std::move(*content), .changesAt = m_changesAt};
@@ -280,6 +282,25 @@ Strip::Content Strip::runningTimer()
             content.isNarrow = false;
             content.trailingIcon = std::exchange(content.icon, {});
         }
+    }
+    return content;
+}
+
+Strip::Content Strip::nowPlaying()
+{
+    const auto &playing = m_sources.nowPlaying;
+    if (!playing) {
+        return std::nullopt;
+    }
+    StripContent content{.kind = QStringLiteral("music"),
+                         .text = playing->title,
+                         .textTone = QStringLiteral("text1"),
+                         .trailingTone = QStringLiteral("text3")};
+    if (m_sources.canBeSeen) {
+        const double passed =
+            std::floor(playing->position + std::max((m_now - playing->at).count(), 0.0));
+        content.trailing = m_formatting.duration(passed);
+        lookAgain(playing->at + Base::Seconds{passed + 1.001 - playing->position});
     }
     return content;
 }

@@ -25,6 +25,9 @@ constexpr std::array kViews{
     ToolView{"units", "Units"},      ToolView{"notes", "Notes"},
     ToolView{"scratchpad", "Notes"}, ToolView{"claude", "Assistants"},
     ToolView{"scratchpad", "Notes"}, ToolView{"stats", "Monitor"},
+    ToolView{"scratchpad", "Notes"}, ToolView{"weather", "Weather"},
+    ToolView{"revenue", "Insights"}, ToolView{"analytics", "Insights"},
+    ToolView{"music", "Music"},      ToolView{"sounds", "Sounds"},
 };
 
 bool contains(const std::vector<std::string> &ids, std::string_view id)

@@ -8,8 +8,10 @@
 #include "Velvetnook/Application/CounterSteps.h"
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/PrayerWatch.h"
+#include "Velvetnook/Application/ViewModels/MusicViewModel.h"
 #include "Velvetnook/Platform/Activation.h"
 #include "Velvetnook/Platform/CapabilityList.h"
+#include "Velvetnook/Platform/DesktopServices.h"
 #include "Velvetnook/Platform/Linux/AutostartFile.h"
 #include "Velvetnook/Platform/Linux/BusNotifications.h"
 #include "Velvetnook/Platform/Linux/BusTray.h"
@@ -92,6 +94,7 @@ void Desktop::begin()
         m_session = QDBusConnection::sessionBus();
         m_system = QDBusConnection::systemBus();
     }
+    m_app.setServices(desktopServices(m_session));
     m_power = new LoginPower{m_system, this};
     connect(m_power, &LoginPower::resumed, &m_model.clock(), &DueClock::reschedule);
     m_power->begin();
@@ -101,6 +104,7 @@ void Desktop::begin()
     followTray();
     followAutostart();
     followCapabilities();
+    m_app.music(); // what plays stands in the strip
 }
 
 void Desktop::followNotifications()

@@ -3,6 +3,7 @@
 #include "Velvetnook/Shell/Engine.h"
 
 #include "Velvetnook/Application/App.h"
+#include "Velvetnook/Shell/ArtImages.h"
 #include "Velvetnook/Shell/Beads.h"
 #include "Velvetnook/Shell/DayArc.h"
 #include "Velvetnook/Shell/HistoryChart.h"
@@ -11,6 +12,7 @@
 #include "Velvetnook/Shell/ShadowImages.h"
 #include "Velvetnook/Shell/Sparkline.h"
 #include "Velvetnook/Shell/Theme.h"
+#include "Velvetnook/Shell/WeatherChart.h"
 
 #include <QQuickWindow>
 
@@ -59,6 +61,8 @@ void prepareEngine(QQmlEngine &engine, const std::shared_ptr<const Singletons> &
     qmlRegisterType<HistoryChart>("Velvetnook.Application", 1, 0, "HistoryChart");
     qmlRegisterType<QiblaDial>("Velvetnook.Application", 1, 0, "QiblaDial");
     qmlRegisterType<Sparkline>("Velvetnook.Application", 1, 0, "Sparkline");
+    qmlRegisterType<WeatherChart>("Velvetnook.Application", 1, 0, "WeatherChart");
+    engine.addImageProvider(QStringLiteral("art"), new ArtImages);
     engine.addImageProvider(QStringLiteral("icon"), new IconImages);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowImages);
     engine.addImportPath(QStringLiteral("qrc:/"));

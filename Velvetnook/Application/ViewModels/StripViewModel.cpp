@@ -209,6 +209,14 @@ void StripViewModel::emphasise()
     refresh();
 }
 
+void StripViewModel::setNowPlaying(std::optional<NowPlaying> nowPlaying)
+{
+    if (nowPlaying != m_sources.nowPlaying) {
+        m_sources.nowPlaying = std::move(nowPlaying);
+        refresh();
+    }
+}
+
 void StripViewModel::setVisible(bool isVisible)
 {
     if (std::exchange(m_sources.canBeSeen, isVisible) != isVisible) {

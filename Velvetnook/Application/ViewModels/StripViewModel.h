@@ -40,6 +40,7 @@ class StripViewModel : public QObject
     Q_PROPERTY(bool showsBoth READ showsBoth NOTIFY changed)
     Q_PROPERTY(int baseWidth READ baseWidth NOTIFY changed)
     Q_PROPERTY(QString animation READ animation NOTIFY messageBegan)
+    Q_PROPERTY(bool canBeSeen READ canBeSeen NOTIFY changed)
     Q_PROPERTY(bool isEmphasised READ isEmphasised NOTIFY changed)
     // One sentence for a screen reader.
     Q_PROPERTY(QString spoken READ spoken NOTIFY changed)
@@ -67,6 +68,7 @@ public:
     bool showsBoth() const { return m_content.showsBoth; }
     int baseWidth() const;
     QString animation() const;
+    bool canBeSeen() const { return m_sources.canBeSeen; }
     bool isEmphasised() const;
     QString spoken() const;
 
@@ -80,6 +82,8 @@ public:
     void showWaiting(std::optional<WaitingAssistant> waiting);
     // Draws the eye to the pinned phrase.
     Q_INVOKABLE void emphasise();
+    // Nothing: it is silent, or not wanted here.
+    void setNowPlaying(std::optional<NowPlaying> nowPlaying);
     // The window says whether the strip can be seen.
     void setVisible(bool isVisible);
     // What is said while the panel is open stands there, and not here afterwards.

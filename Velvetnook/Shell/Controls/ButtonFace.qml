@@ -16,6 +16,7 @@ Item {
     property int pixelSize: 13
     property int weight: Font.Medium
     property real room: implicitWidth
+    property bool signTrails: false
 
     readonly property bool hasSign: iconName !== "" || busy
     readonly property real signRoom: hasSign ? sign.width + (text === "" ? 0 : row.spacing) : 0
@@ -27,6 +28,7 @@ Item {
         id: row
 
         anchors.centerIn: parent
+        layoutDirection: root.signTrails ? Qt.RightToLeft : Qt.LeftToRight
         spacing: 8
 
         Item {

@@ -11,6 +11,10 @@ T.AbstractButton {
     property string iconName
     property bool chosen: false
     property bool small: false
+    property bool bare: false // without an outline, as a quiet link
+    property bool iconTrails: false
+    property int iconSize: 14
+    property int pixelSize: 12
     property bool lit: hovered
     property bool ringed: visualFocus
 
@@ -38,10 +42,11 @@ T.AbstractButton {
     contentItem: ButtonFace {
         text: root.text
         iconName: root.iconName
-        iconSize: 14
+        signTrails: root.iconTrails
+        iconSize: root.iconSize
         ink: root.ink
         iconInk: root.ink
-        pixelSize: 12
+        pixelSize: root.pixelSize
         weight: root.chosen ? Font.DemiBold : Font.Medium
         room: root.width - 2 * root.horizontalPadding
     }
@@ -49,7 +54,7 @@ T.AbstractButton {
         radius: height / 2
         color: !root.enabled && root.chosen ? Theme.color.bg2
              : root.chosen ? root.chosenFill : root.plainFill
-        border.width: root.chosen ? 0 : 1
+        border.width: root.chosen || root.bare ? 0 : 1
         border.color: Theme.color.line2
         Behavior on color { enabled: root.visible; HoverFade {} }
         FocusRing { shown: root.ringed; corner: root.height / 2 }

@@ -51,6 +51,10 @@ Item {
             y: root.middle - height / 2
             visible: App.strip.ring >= 0 && App.strip.ringLeads
         }
+        StripBars {
+            y: root.middle - height / 2
+            visible: App.strip.kind === "music"
+        }
         Icon {
             y: root.middle - height / 2
             visible: name !== ""

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/ViewModels/Insights/InsightFigures.h"
+
+#include "KestCore/Clients/InsightText.h"
+#include "KestCore/Clients/Money.h"
+#include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
+#include "Velvetnook/Application/Formatting.h"
+#include "Velvetnook/Application/LocalDay.h"
+
+#include <QCoreApplication>
+#include <QVariantMap>
+
+#include <algorithm>
+
+namespace Velvetnook
+{
+
+namespace
+{
+
+using KestCore::InsightMetric;
+using KestCore::InsightPoint;
+using KestCore::InsightReport;
+
+constexpr std::string_view kNet = "-net";
+
+class InsightWords
+{
+    Q_DECLARE_TR_FUNCTIONS(InsightWords)
+};
+
+QString shown(std::string text, const Formatting &formatting)
+{
+    QString own = QString::fromStdString(text);
+    if (own.startsWith(u'-')) {
+        own.replace(0, 1, QChar{0x2212});
+    }
+    return formatting.digits(own);
+}
+
+// The currency stands once, above the figures.
+QString amountText(const InsightMetric &metric, const std::string &currency,
+                   const Formatting &formatting)
+{
+    if (metric.detail == KestCore::kUnavailableMetric) {
+        return engineText(KestCore::kUnavailableMetric);
+    }
+    std::string text = KestCore::metricText(metric);
+    // These are taken off, and written so.
+    const bool isTakenOff = metric.id.ends_with("-refunds") || metric.id.ends_with("-fees");
+    if (isTakenOff && metric.value > 0) {
+        text.insert(0, 1, '-');
+    }
+    const std::string code = " " + KestCore::shownCurrency(currency);
+    if (!currency.empty() && text.ends_with(code)) {
+        text.resize(text.size() - code.size());
+    }
+    return shown(std::move(text), formatting);
+}
+
+bool isOf(const InsightMetric &metric, const std::string &currency)
+{
+    return currency.empty() || metric.id.starts_with(currency + "-");
+}
+
+QVariantMap row(const QString &label, const QString &value, const QString &detail = {})
+{
+    return {{QStringLiteral("label"), label},
+            {QStringLiteral("value"), value},
+            {QStringLiteral("detail"), detail}};
+}
+
+QVariantMap list(const QString &title, const std::vector<InsightMetric> &metrics,
+                 const Formatting &formatting)
+{
+    QVariantList rows;
+    for (const InsightMetric &metric : metrics) {
+        rows.push_back(
+            row(QString::fromStdString(metric.label), amountText(metric, {}, formatting)));
+    }
+    return {{QStringLiteral("title"), title}, {QStringLiteral("rows"), rows}};
+}
+
+} // namespace
+
+std::vector<std::string> currenciesOf(const InsightReport &report)
+{
+    std::vector<std::string> currencies;
+    for (const InsightMetric &metric : report.rows) {
+        if (report.provider == KestCore::InsightProvider::stripe && metric.id.ends_with(kNet)) {
+            currencies.push_back(metric.id.substr(0, metric.id.size() - kNet.size()));
+        }
+    }
+    return currencies;
+}
+
+QVariantMap headlineOf(const InsightReport &report, const std::string &currency,
+                       const Formatting &formatting)
+{
+    const auto wanted = currency.empty() ? report.rows.begin()
+                                         : std::ranges::find(report.rows, currency + "-net",
+                                                             &InsightMetric::id);
+    if (wanted == report.rows.end()) {
+        return row({}, {});
+    }
+    const QString label = engineText(wanted->label);
+    return row(currency.empty()
+                   ? label
+                   : InsightWords::tr("%1 · %2").arg(
+                         label, QString::fromStdString(KestCore::shownCurrency(currency))),
+               amountText(*wanted, currency, formatting));
+}
+
+QVariantList figuresOf(const InsightReport &report, const std::string &currency,
+                       const Formatting &formatting)
+{
+    QVariantList rows;
+    for (const InsightMetric &metric : report.rows) {
+        if (isOf(metric, currency)) {
+            rows.push_back(row(engineText(metric.label),
+                               amountText(metric, currency, formatting),
+                               engineText(metric.detail)));
+        }
+    }
+    return rows;
+}
+
+QVariantList barsOf(const InsightReport &report, const std::string &currency,
+                    const ApplicationModel &model, const Formatting &formatting)
+{
+    std::vector<InsightPoint> points;
+    const std::string_view series =
+        currency.empty() ? KestCore::kVisitorSeries : std::string_view{currency};
+    std::ranges::copy_if(report.points, std::back_inserter(points),
+                         [series](const auto &point) { return point.series == series; });
+    const std::size_t each = (points.size() + kMostBars - 1) / kMostBars;
+    std::vector<InsightPoint> sums;
+    for (std::size_t at = 0; at < points.size(); ++at) {
+        if (at % each == 0) {
+            sums.push_back(points.at(at));
+        } else {
+            sums.back().value += points.at(at).value;
+        }
+    }
+    double highest = 0;
+    for (const InsightPoint &sum : sums) {
+        highest = std::max(highest, sum.value);
+    }
+    QVariantList bars;
+    for (const InsightPoint &sum : sums) {
+        bars.push_back(QVariantMap{
+            {QStringLiteral("share"), highest > 0 ? std::max(sum.value, 0.0) / highest : 0.0},
+            {QStringLiteral("isLast"), &sum == &sums.back()},
+            {QStringLiteral("spoken"),
+             InsightWords::tr("%1: %2").arg(momentText(sum.date, model, formatting),
+                                            shown(KestCore::pointText(sum), formatting))}});
+    }
+    return bars;
+}
+
+QVariantList listsOf(const InsightReport &report, const ApplicationModel &model,
+                     const Formatting &formatting)
+{
+    QVariantList lists;
+    if (!report.pages.empty()) {
+        lists.push_back(list(InsightWords::tr("Top pages"), report.pages, formatting));
+    }
+    if (!report.sources.empty()) {
+        lists.push_back(list(InsightWords::tr("Referrers"), report.sources, formatting));
+    }
+    QVariantList recent;
+    for (const KestCore::InsightEntry &entry : report.recent) {
+        recent.push_back(
+            row(InsightWords::tr("%1 · %2").arg(momentText(entry.date, model, formatting),
+                                                QString::fromStdString(entry.title)),
+                shown(entry.value, formatting)));
+    }
+    if (!recent.isEmpty()) {
+        lists.push_back(QVariantMap{{QStringLiteral("title"), InsightWords::tr("Lately")},
+                                    {QStringLiteral("rows"), recent}});
+    }
+    return lists;
+}
+
+} // namespace Velvetnook
