@@ -114,7 +114,20 @@ PaletteViewModel *App::palette()
 
 ClipboardViewModel *App::clipboard() { return made(m_clipboard); }
 EmojiViewModel *App::emoji() { return made(m_emoji); }
-ShelfViewModel *App::shelf() { return made(m_shelf); }
+
+ShelfViewModel *App::shelf()
+{
+    if (m_shelf == nullptr) {
+        connect(made(m_shelf), &ShelfViewModel::changed, this,
+                [this](const QString &message, const std::function<void()> &undo) {
+                    panel()->showMessage(message, tr("Undo"), undo);
+                });
+        connect(m_shelf, &ShelfViewModel::openWanted, this, &App::openWanted);
+        connect(m_shelf, &ShelfViewModel::revealWanted, this, &App::revealWanted);
+    }
+    return m_shelf;
+}
+
 FilesViewModel *App::files() { return made(m_files); }
 LinksViewModel *App::links() { return made(m_links); }
 CalendarPageViewModel *App::calendar() { return made(m_calendar); }

@@ -20,6 +20,7 @@
 #include "Velvetnook/Application/ViewModels/UnitsViewModel.h"
 
 #include <QObject>
+#include <QUrl>
 
 #include <memory>
 
@@ -133,6 +134,11 @@ public:
     ScreenTimeViewModel *screenTime();
     AssistantsViewModel *assistants();
     DockViewModel *dock();
+
+signals:
+    // Something to be opened by the program for it, or shown where it lies.
+    void openWanted(const QUrl &url);
+    void revealWanted(const QString &path);
 
 private:
     template <class T>

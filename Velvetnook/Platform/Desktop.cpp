@@ -12,6 +12,7 @@
 #include "Velvetnook/Platform/Activation.h"
 #include "Velvetnook/Platform/CapabilityList.h"
 #include "Velvetnook/Platform/DesktopServices.h"
+#include "Velvetnook/Platform/FileOpening.h"
 #include "Velvetnook/Platform/Linux/AutostartFile.h"
 #include "Velvetnook/Platform/Linux/BusNotifications.h"
 #include "Velvetnook/Platform/Linux/BusTray.h"
@@ -105,6 +106,7 @@ void Desktop::begin()
     followAutostart();
     followCapabilities();
     m_app.music(); // what plays stands in the strip
+    new FileOpening{m_app, m_session, this};
 }
 
 void Desktop::followNotifications()

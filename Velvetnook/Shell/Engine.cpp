@@ -8,6 +8,7 @@
 #include "Velvetnook/Shell/DayArc.h"
 #include "Velvetnook/Shell/HistoryChart.h"
 #include "Velvetnook/Shell/IconImages.h"
+#include "Velvetnook/Shell/PreviewImages.h"
 #include "Velvetnook/Shell/QiblaDial.h"
 #include "Velvetnook/Shell/ShadowImages.h"
 #include "Velvetnook/Shell/Sparkline.h"
@@ -64,6 +65,7 @@ void prepareEngine(QQmlEngine &engine, const std::shared_ptr<const Singletons> &
     qmlRegisterType<WeatherChart>("Velvetnook.Application", 1, 0, "WeatherChart");
     engine.addImageProvider(QStringLiteral("art"), new ArtImages);
     engine.addImageProvider(QStringLiteral("icon"), new IconImages);
+    engine.addImageProvider(QStringLiteral("preview"), new PreviewImages);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowImages);
     engine.addImportPath(QStringLiteral("qrc:/"));
 }

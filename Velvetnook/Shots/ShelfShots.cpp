@@ -1,10 +1,122 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Base/Json.h"
+#include "KestCore/Models/UtilityPayloads.h"
+#include "KestCore/Tools/RecordOrder.h"
+#include "Velvetnook/Application/App.h"
+#include "Velvetnook/Application/ViewModels/ShelfViewModel.h"
 #include "Velvetnook/Shots/Shot.h"
+
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
 
 namespace Velvetnook
 {
 
-std::vector<Shot> shelfShots() { return {}; }
+namespace
+{
+
+Shot tool(const char *name, const char *view, std::function<void(ShotData &)> prepare = {},
+          std::function<void(App &)> arrange = {})
+{
+    return {.name = QLatin1String{name},
+            .surface = QStringLiteral("Panel"),
+            .view = QLatin1String{view},
+            .prepare = std::move(prepare),
+            .arrange = [arrange = std::move(arrange)](App &app) {
+                app.panel()->setOpen(true);
+                if (arrange) {
+                    arrange(app);
+                }
+            }};
+}
+
+// Real files, as the views look at them.
+QString pathOf(const char *name)
+{
+    static const QTemporaryDir kFolder;
+    return kFolder.filePath(QString::fromUtf8(name));
+}
+
+std::string fileOf(const char *name, qint64 size)
+{
+    QFile file{pathOf(name)};
+    if (file.open(QIODevice::WriteOnly)) {
+        file.resize(size);
+    }
+    return file.fileName().toStdString();
+}
+
+std::string pictureOf(const char *name)
+{
+    QImage image{944, 528, QImage::Format_RGB32};
+    image.fill(QColor{"#6E8791"});
+    QPainter painter{&image};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor{"#E7D7AE"});
+    painter.drawEllipse(QPointF{688, 160}, 64, 64);
+    painter.setBrush(QColor{"#3E5A55"});
+    painter.drawPolygon(QPolygonF{
+        {0, 400}, {240, 224}, {416, 368}, {560, 272}, {944, 496}, {944, 528}, {0, 528}});
+    painter.end();
+    image.save(pathOf(name));
+    return pathOf(name).toStdString();
+}
+
+template <class Payload>
+void add(ShotData &data, const char *kind, const char *title, const Payload &payload)
+{
+    const auto place = static_cast<std::int64_t>(data.records.size());
+    KestCore::LocalRecord record{.id = "shot-" + std::to_string(place),
+                                 .kind = kind,
+                                 .title = title,
+                                 .body = Base::json::encode(payload).value_or(""),
+                                 .updated = Base::milliseconds1970(kShotTime) - 60'000,
+                                 .extra = {}};
+    KestCore::setPosition(record, place);
+    data.records.push_back(std::move(record));
+}
+
+void shelve(ShotData &data, const char *title, std::string path)
+{
+    add(data, "shelf", title, KestCore::ShelfItem{.path = std::move(path)});
+}
+
+void fillShelf(ShotData &data)
+{
+    shelve(data, "invoice-october.pdf", fileOf("invoice-october.pdf", 214'000));
+    shelve(data, "harbour.jpg", pictureOf("harbour.jpg"));
+    shelve(data, "plan-v3.odt", fileOf("plan-v3.odt", 48'000));
+    shelve(data, "notes.tar.gz", fileOf("notes.tar.gz", 1'200'000));
+}
+
+void fillMixedShelf(ShotData &data)
+{
+    fillShelf(data);
+    shelve(data, "a name that no card could ever show on its line.xlsx",
+           fileOf("a name that no card could ever show on its line.xlsx", 12));
+    shelve(data, "letter.txt", "/nowhere/letter.txt");
+    add(data, "shelf", "Meet at the north gate",
+        KestCore::ShelfItem{.text = "Meet at the north gate\nat ten. Bring the small bag and "
+                                    "the two books that I left with you."});
+    add(data, "shelf", "https://example.org/a",
+        KestCore::ShelfItem{.text = "https://example.org/a"});
+    add(data, "shelf", "قائمة السوق",
+        KestCore::ShelfItem{.text = "قائمة السوق\nتمر، زيت، عدس"});
+}
+
+} // namespace
+
+std::vector<Shot> shelfShots()
+{
+    return {
+        tool("shelf", "shelf", fillShelf),
+        tool("shelf-mixed", "shelf", fillMixedShelf),
+        tool("shelf-empty", "shelf"),
+    };
+}
 
 } // namespace Velvetnook
