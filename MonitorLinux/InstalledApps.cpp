@@ -4,6 +4,7 @@
 
 #include "Base/File.h"
 #include "Base/Text.h"
+#include "MonitorLinux/DesktopFile.h"
 #include "MonitorLinux/ProcParsers.h"
 #include "MonitorLinux/TextCursor.h"
 
@@ -21,8 +22,6 @@ using MonitorCore::InstalledApp;
 namespace
 {
 
-constexpr std::size_t kLongestFile = 1'048'576;
-constexpr std::string_view kEnding = ".desktop";
 constexpr std::string_view kSharedPrograms[] = {
     "sh",     "bash", "dash",         "env",      "python", "perl",    "ruby",
     "node",   "java", "mono",         "wine",     "gjs",    "flatpak", "snap",
@@ -36,21 +35,6 @@ struct Keys {
     int nameRank = -1; // 0 of no language, 1 of the language, 2 of its country's kind
     bool isHidden = false;
 };
-
-int rankOfName(std::string_view key, std::string_view language)
-{
-    if (key == "Name") {
-        return 0;
-    }
-    if (!key.starts_with("Name[") || !key.ends_with(']') || language.empty()) {
-        return -1;
-    }
-    const std::string_view of = key.substr(5, key.size() - 6);
-    if (of == language) {
-        return 2;
-    }
-    return of == language.substr(0, language.find('_')) ? 1 : -1;
-}
 
 void take(Keys &keys, std::string_view key, std::string_view value, std::string_view language)
 {
@@ -120,34 +104,6 @@ std::string resolved(const std::string &program, const std::vector<fs::path> &fo
     return "";
 }
 
-// The path below the folder, with dashes for slashes.
-std::string idOf(const fs::path &file, const fs::path &folder)
-{
-    std::string id = file.lexically_relative(folder).string();
-    id.resize(id.size() - kEnding.size());
-    std::ranges::replace(id, '/', '-');
-    return asUtf8(id);
-}
-
-std::vector<fs::path> filesIn(const fs::path &folder)
-{
-    std::vector<fs::path> files;
-    std::error_code error;
-    constexpr auto kOptions = fs::directory_options::skip_permission_denied |
-                              fs::directory_options::follow_directory_symlink;
-    fs::recursive_directory_iterator entries{folder, kOptions, error};
-    for (; !error && entries != fs::recursive_directory_iterator{}; entries.increment(error)) {
-        if (entries.depth() > 3) { // a link may lead back
-            entries.disable_recursion_pending();
-        }
-        if (entries->path().native().ends_with(kEnding)) {
-            files.push_back(entries->path());
-        }
-    }
-    std::ranges::sort(files);
-    return files;
-}
-
 std::string environment(const char *name, const std::string &otherwise)
 {
     const char *const value = std::getenv(name);
@@ -207,15 +163,14 @@ std::vector<InstalledApp> installedApps(const AppPlaces &places)
     std::vector<InstalledApp> apps;
     std::set<std::string> seen;
     for (const fs::path &folder : places.applications) {
-        for (const fs::path &file : filesIn(folder)) {
-            std::string id = idOf(file, folder);
-            const auto text = Base::readFile(file, kLongestFile);
+        for (DesktopFile &file : desktopFilesIn(folder)) {
+            const auto text = Base::readFile(file.path, kLongestDesktopFile);
             // One that hides itself hides those of its id in later folders too.
-            if (!text || text->size() > kLongestFile || !seen.insert(id).second) {
+            if (!text || text->size() > kLongestDesktopFile || !seen.insert(file.id).second) {
                 continue;
             }
             if (auto entry = parseDesktopEntry(*text, places.language)) {
-                apps.push_back({.id = std::move(id),
+                apps.push_back({.id = std::move(file.id),
                                 .name = std::move(entry->name),
                                 .executable = resolved(entry->program, places.programs)});
             }

@@ -189,6 +189,20 @@ AssistantsViewModel *App::assistants()
     }
     return m_assistants;
 }
-DockViewModel *App::dock() { return made(m_dock); }
+
+DockViewModel *App::dock()
+{
+    if (m_dock == nullptr) {
+        connect(made(m_dock), &DockViewModel::toolWanted, this, [this](const QString &tool) {
+            panel()->openTool(tool);
+            if (tool != QLatin1String{"settings"}) { // they have a window of their own
+                emit panel() -> openWanted(true);
+            }
+        });
+        connect(m_dock, &DockViewModel::settingsWanted, this,
+                [this] { settings()->open(QStringLiteral("dock")); });
+    }
+    return m_dock;
+}
 
 } // namespace Velvetnook

@@ -30,6 +30,10 @@ constexpr std::array kPages{
             "Velvetnook::SettingsViewModel",
             "strip panel open delay hidden hide screen display fullscreen applications pause pinned")},
     PageOfSettings{
+        "dock", "dock", 0, QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Dock"),
+        QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel",
+                          "workspaces edge side companion hover floating magnification")},
+    PageOfSettings{
         "shortcuts", "keyboard", 0,
         QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Shortcuts"),
         QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "keys palette hotkey keyboard")},

@@ -24,18 +24,11 @@ constexpr std::array kViews{
     ToolView{"friday", "Friday"},    ToolView{"timers", "Timers"},
     ToolView{"units", "Units"},      ToolView{"notes", "Notes"},
     ToolView{"scratchpad", "Notes"}, ToolView{"claude", "Assistants"},
-    ToolView{"scratchpad", "Notes"}, ToolView{"stats", "Monitor"},
-    ToolView{"scratchpad", "Notes"}, ToolView{"weather", "Weather"},
+    ToolView{"stats", "Monitor"},    ToolView{"weather", "Weather"},
     ToolView{"revenue", "Insights"}, ToolView{"analytics", "Insights"},
     ToolView{"music", "Music"},      ToolView{"sounds", "Sounds"},
-    ToolView{"home", "Home"},         ToolView{"dhikr", "Counter"},
-    ToolView{"history", "History"},   ToolView{"names", "Names"},
-    ToolView{"tasbih", "Names"},      ToolView{"prayer", "Prayer"},
-    ToolView{"friday", "Friday"},     ToolView{"timers", "Timers"},
-    ToolView{"units", "Units"},       ToolView{"notes", "Notes"},
-    ToolView{"scratchpad", "Notes"},  ToolView{"shelf", "Shelf"},
-    ToolView{"links", "Links"},       ToolView{"files", "Files"},
-    ToolView{"calendar", "Calendar"},
+    ToolView{"shelf", "Shelf"},      ToolView{"links", "Links"},
+    ToolView{"files", "Files"},      ToolView{"calendar", "Calendar"},
 };
 
 bool contains(const std::vector<std::string> &ids, std::string_view id)

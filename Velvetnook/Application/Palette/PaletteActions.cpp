@@ -41,6 +41,8 @@ constexpr std::array kActions{
                   "measure time"},
     PaletteAction{"note", QT_TRANSLATE_NOOP("Palette", "New note"), "notes",
                   "write add create"},
+    PaletteAction{"dock", QT_TRANSLATE_NOOP("Palette", "Open the dock"), "dock",
+                  "workspace side companion applications"},
     PaletteAction{"forget", QT_TRANSLATE_NOOP("Palette", "Forget what I choose here"), "reset",
                   "reset learning ranking palette history"},
     PaletteAction{"quit", QT_TRANSLATE_NOOP("Palette", "Quit Velvetnook"), "x",
@@ -87,6 +89,9 @@ bool isPossible(const PaletteAction &action, const ApplicationModel &model)
     }
     if (id == "quiet-hour" || id == "quiet-day") {
         return !isQuiet && devotional.preferences.reminderEnabled;
+    }
+    if (id == "dock") {
+        return model.companion().dock.enabled;
     }
     return id != "remind" || isQuiet;
 }

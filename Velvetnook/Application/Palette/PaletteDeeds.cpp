@@ -19,6 +19,7 @@
 #include "Velvetnook/Application/QtText.h"
 #include "Velvetnook/Application/TimerSteps.h"
 #include "Velvetnook/Application/ToolChoice.h"
+#include "Velvetnook/Application/ViewModels/DockViewModel.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -252,6 +253,8 @@ void PaletteDeeds::act(std::string_view id)
     } else if (id == "note") {
         openTool(QStringLiteral("notes"));
         m_app.notes()->create();
+    } else if (id == "dock") {
+        emit m_app.dock()->openWanted(true);
     } else if (id == "forget") {
         m_model.removeSetting(KestCore::kPaletteUsesKey);
     } else if (id == "quit") {

@@ -5,6 +5,7 @@
 #include "Velvetnook/Application/ViewModels/Settings/AboutSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/AppearanceSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/DataSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/DockSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/GeneralSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/NotchSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/PlaceSettings.h"
@@ -22,6 +23,7 @@ class SettingsViewModel : public QObject
     Q_PROPERTY(Velvetnook::GeneralSettings *general READ general CONSTANT)
     Q_PROPERTY(Velvetnook::AppearanceSettings *appearance READ appearance CONSTANT)
     Q_PROPERTY(Velvetnook::NotchSettings *notch READ notch CONSTANT)
+    Q_PROPERTY(Velvetnook::DockSettings *dock READ dock CONSTANT)
     Q_PROPERTY(Velvetnook::PlaceSettings *place READ place CONSTANT)
     Q_PROPERTY(Velvetnook::PrayerSettings *prayer READ prayer CONSTANT)
     Q_PROPERTY(Velvetnook::ToolSettings *tools READ tools CONSTANT)
@@ -43,6 +45,7 @@ public:
     GeneralSettings *general() { return &m_general; }
     AppearanceSettings *appearance() { return &m_appearance; }
     NotchSettings *notch() { return &m_notch; }
+    DockSettings *dock() { return &m_dock; }
     PlaceSettings *place() { return &m_place; }
     PrayerSettings *prayer() { return &m_prayer; }
     ToolSettings *tools() { return &m_tools; }
@@ -74,6 +77,7 @@ private:
     GeneralSettings m_general;
     AppearanceSettings m_appearance;
     NotchSettings m_notch;
+    DockSettings m_dock;
     PlaceSettings m_place;
     PrayerSettings m_prayer;
     ToolSettings m_tools;

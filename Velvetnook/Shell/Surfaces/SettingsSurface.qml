@@ -16,7 +16,8 @@ Rectangle {
     signal closeWanted
 
     readonly property var files: ({general: "SettingsGeneral", appearance: "SettingsAppearance",
-                                   notch: "SettingsNotch", shortcuts: "SettingsShortcuts",
+                                   notch: "SettingsNotch", dock: "SettingsDock",
+                                   shortcuts: "SettingsShortcuts",
                                    reminders: "SettingsReminders", prayer: "SettingsPrayer",
                                    tools: "SettingsTools", data: "SettingsData",
                                    about: "SettingsAbout"})
