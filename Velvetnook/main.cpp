@@ -10,6 +10,7 @@
 #include "Velvetnook/Application/Languages.h"
 #include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
 #include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
+#include "Velvetnook/Dock/DockKeeper.h"
 #include "Velvetnook/Notch/NotchDriver.h"
 #include "Velvetnook/Notch/NotchWindow.h"
 #include "Velvetnook/Notch/SurfaceWindow.h"
@@ -71,6 +72,7 @@ bool chooseDisplay()
     }
     if (isSet("DISPLAY") && hasXServer()) {
         setenv("QT_QPA_PLATFORM", "xcb", 1);
+        setenv("VELVETNOOK_CHOSE_DISPLAY", "1", 1); // not for what is started from here
         return true;
     }
     return isSet("WAYLAND_DISPLAY");
@@ -190,6 +192,7 @@ private:
     std::unique_ptr<NotchWindow> m_notch;
     std::unique_ptr<PaletteWindow> m_palette;
     std::unique_ptr<GlobalKeys> m_keys;
+    std::unique_ptr<DockKeeper> m_dock;
     Desktop m_desktop;
     std::unique_ptr<SurfaceWindow> m_settings;
     std::unique_ptr<SurfaceWindow> m_onboarding;
@@ -277,6 +280,7 @@ void Running::needTheRest()
     m_palette = std::make_unique<PaletteWindow>(m_engine, m_app);
     followKeys();
     QTimer::singleShot(1500, qGuiApp, [this] { m_palette->prepare(); });
+    m_dock = std::make_unique<DockKeeper>(m_engine, m_model, m_app, steadySeconds);
 }
 
 // The keys that work everywhere, and the page of the settings on which they are chosen.

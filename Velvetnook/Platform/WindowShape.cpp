@@ -97,10 +97,19 @@ void setWindowOutline(QWindow &window, const QRegion &outline, bool isBlended)
     xcb_flush(server);
 }
 
-void keepContentAtTopCentre(QWindow &window)
+void keepContentAtTopCentre(QWindow &window) { keepContentAtEdge(window, Qt::TopEdge); }
+
+void keepContentAtEdge(QWindow &window, Qt::Edge edge)
 {
     if (xcb_connection_t *server = Xcb::connection(); server != nullptr) {
-        const std::uint32_t gravity = XCB_GRAVITY_NORTH;
+        std::uint32_t gravity = XCB_GRAVITY_NORTH;
+        if (edge == Qt::LeftEdge) {
+            gravity = XCB_GRAVITY_WEST;
+        } else if (edge == Qt::RightEdge) {
+            gravity = XCB_GRAVITY_EAST;
+        } else if (edge == Qt::BottomEdge) {
+            gravity = XCB_GRAVITY_SOUTH;
+        }
         xcb_change_window_attributes(server, static_cast<xcb_window_t>(window.winId()),
                                      XCB_CW_BIT_GRAVITY, &gravity);
     }

@@ -32,6 +32,9 @@ void setWindowOutline(QWindow &window, const QRegion &outline, bool isBlended);
 // again: nothing jumps.
 void keepContentAtTopCentre(QWindow &window);
 
+// The same for a window that grows away from the middle of an edge of the screen.
+void keepContentAtEdge(QWindow &window, Qt::Edge edge);
+
 void raiseAboveAll(QWindow &window);
 
 // The window that has the keyboard now, 0 for none; and giving it back, to whatever the

@@ -3,6 +3,7 @@
 #include "Velvetnook/Shell/Engine.h"
 
 #include "Velvetnook/Application/App.h"
+#include "Velvetnook/Shell/ApplicationImages.h"
 #include "Velvetnook/Shell/ArtImages.h"
 #include "Velvetnook/Shell/Beads.h"
 #include "Velvetnook/Shell/DayArc.h"
@@ -64,6 +65,7 @@ void prepareEngine(QQmlEngine &engine, const std::shared_ptr<const Singletons> &
     qmlRegisterType<Sparkline>("Velvetnook.Application", 1, 0, "Sparkline");
     qmlRegisterType<WeatherChart>("Velvetnook.Application", 1, 0, "WeatherChart");
     engine.addImageProvider(QStringLiteral("art"), new ArtImages);
+    engine.addImageProvider(QStringLiteral("application"), new ApplicationImages);
     engine.addImageProvider(QStringLiteral("icon"), new IconImages);
     engine.addImageProvider(QStringLiteral("preview"), new PreviewImages);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowImages);

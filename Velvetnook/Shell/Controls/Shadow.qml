@@ -16,9 +16,10 @@ BorderImage {
     anchors.margins: -reach
     // One that is not shown must not be computed: the strip has none, and starts with it.
     source: visible ? "image://shadow/" + step + "/" + (Theme.isDark ? "dark" : "light") : ""
-    border.left: reach * 2
-    border.right: reach * 2
-    border.top: reach * 2
-    border.bottom: reach * 2
+    // What is narrower than its corners has only their outer parts.
+    border.left: Math.min(reach * 2, Math.floor(width / 2))
+    border.right: Math.min(reach * 2, Math.floor(width / 2))
+    border.top: Math.min(reach * 2, Math.floor(height / 2))
+    border.bottom: Math.min(reach * 2, Math.floor(height / 2))
     Accessible.ignored: true
 }

@@ -24,7 +24,7 @@ FocusScope {
     signal carried(string itemId, point at) // out of the panel
 
     function focusContent() {
-        loader.item?.takeFocus();
+        loader.item?.takeFocus(Qt.TabFocusReason);
     }
     // One step back; false when there is none.
     function back() {
@@ -118,9 +118,9 @@ FocusScope {
             onLoaded: {
                 if (root.page === "name") {
                     item.itemId = root.itemId;
-                    item.title = root.itemTitle;
+                    item.title = root.itemId === "" ? App.dock.title : root.itemTitle;
                 }
-                item.takeFocus();
+                item.takeFocus(Qt.OtherFocusReason);
             }
         }
         Connections {

@@ -12,7 +12,8 @@ FocusScope {
 
     property bool hasShadow: true
 
-    readonly property bool isBottom: App.dock.edge === "bottom"
+    readonly property string edge: App.dock.edge
+    readonly property bool isBottom: edge === "bottom"
     readonly property real slotWidth: isBottom ? (width - 12) / 3 : width - 12
     readonly property real slotHeight: isBottom ? height - 20 : (height - 26) / 3
     readonly property real step: isBottom ? slotWidth : slotHeight
@@ -44,8 +45,8 @@ FocusScope {
         }
         return -1;
     }
-    function reveal(index) {
-        const slot = slotOf(index);
+    function reveal() {
+        const slot = slotOf(App.dock.current);
         if (!slot) {
             return;
         }
@@ -68,10 +69,10 @@ FocusScope {
         property: "anchor"
         value: Math.max(0, Math.min(root.isBottom ? root.width : root.height, root.centre))
     }
-    Connections {
-        target: App.dock
-        function onWorkspacesChanged() { root.reveal(App.dock.current); }
-    }
+    readonly property int shown: App.dock.current
+    onShownChanged: Qt.callLater(reveal)
+    onEdgeChanged: Qt.callLater(reveal)
+    Component.onCompleted: Qt.callLater(reveal)
 
     DockGround {
         anchors.fill: parent

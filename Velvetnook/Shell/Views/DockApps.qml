@@ -13,8 +13,8 @@ FocusScope {
 
     readonly property QtObject found: App.dock.applications
 
-    function takeFocus() {
-        search.forceActiveFocus(Qt.TabFocusReason);
+    function takeFocus(reason) {
+        search.forceActiveFocus(reason);
     }
     function take(id) {
         App.dock.addApplication(id);
@@ -72,7 +72,7 @@ FocusScope {
 
             width: list.width
             onClicked: root.take(applicationId)
-            Keys.onUpPressed: index > 0 ? list.decrementCurrentIndex() : root.takeFocus()
+            Keys.onUpPressed: index > 0 ? list.decrementCurrentIndex() : root.takeFocus(Qt.TabFocusReason)
         }
     }
     AvailabilityView {

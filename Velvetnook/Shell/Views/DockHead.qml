@@ -67,7 +67,7 @@ Item {
         size: 30
         iconName: "plus"
         name: qsTr("Add to this workspace")
-        onClicked: adding.popup(root.width - adding.implicitWidth, 34)
+        onClicked: adding.popupAt(plus)
     }
     IconButton {
         id: more
@@ -77,7 +77,7 @@ Item {
         size: 30
         iconName: "more"
         name: qsTr("This workspace")
-        onClicked: managing.popup(root.width - managing.implicitWidth, 34)
+        onClicked: managing.popupAt(more)
     }
     DockMenu {
         id: adding

@@ -19,9 +19,7 @@ DockMenu {
         itemId = tile.itemId;
         title = tile.title;
         fill(tile);
-        const at = tile.mapToItem(parent, 0, 0);
-        const room = parent.width;
-        popup(Math.max(0, Math.min(at.x, room - implicitWidth)), at.y + Math.min(tile.height, 52));
+        popupAt(tile);
     }
     function fill(tile) {
         const rows = [];

@@ -13,8 +13,8 @@ FocusScope {
     signal tabWanted
     signal carried(string itemId, point at) // out of the panel
 
-    function takeFocus() {
-        (grid.first ?? head.main).forceActiveFocus(Qt.TabFocusReason);
+    function takeFocus(reason) {
+        (grid.first ?? head.main).forceActiveFocus(reason);
     }
 
     DockHead {

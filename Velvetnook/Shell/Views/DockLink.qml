@@ -10,8 +10,8 @@ FocusScope {
 
     signal done
 
-    function takeFocus() {
-        address.forceActiveFocus(Qt.TabFocusReason);
+    function takeFocus(reason) {
+        address.forceActiveFocus(reason);
     }
     function take() {
         address.error = App.dock.addLink(address.text, title.text);

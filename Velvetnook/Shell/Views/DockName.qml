@@ -13,8 +13,8 @@ FocusScope {
 
     signal done
 
-    function takeFocus() {
-        name.forceActiveFocus(Qt.TabFocusReason);
+    function takeFocus(reason) {
+        name.forceActiveFocus(reason);
         name.selectAll();
     }
     function take() {

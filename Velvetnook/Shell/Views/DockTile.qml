@@ -35,7 +35,10 @@ T.AbstractButton {
 
     readonly property bool isDivider: kind === "divider"
     readonly property int forwards: LayoutMirroring.enabled ? -1 : 1
-    readonly property string state: !isThere ? qsTr("not there any more") : lifetimeText
+    readonly property string note: !isThere ? qsTr("not there any more") : lifetimeText
+    // What the tile itself does not say.
+    readonly property string hint: note !== "" && label.truncated ? title + " · " + note
+                                 : label.truncated ? title : note
 
     function readKey(event) {
         const columns = event.key === Qt.Key_Right ? forwards
@@ -58,7 +61,7 @@ T.AbstractButton {
     z: drag.active ? 2 : 0
     Accessible.role: isDivider ? Accessible.Separator : Accessible.Button
     Accessible.name: isDivider ? qsTr("Divider") : title
-    Accessible.description: state
+    Accessible.description: note
     Accessible.onPressAction: App.dock.openItem(itemId)
     onClicked: App.dock.openItem(itemId)
     Keys.onReturnPressed: App.dock.openItem(itemId)
@@ -118,10 +121,11 @@ T.AbstractButton {
             }
         }
         Txt {
+            id: label
+
             visible: !root.isDivider
             y: 54
-            width: parent.width - 4
-            x: 2
+            width: parent.width
             horizontalAlignment: Text.AlignHCenter
             role: "caption"
             text: root.title
@@ -152,11 +156,11 @@ T.AbstractButton {
         }
     }
     Loader {
-        active: root.visible && !drag.active && !root.isDivider && root.state !== ""
+        active: root.visible && !drag.active && !root.isDivider && root.hint !== ""
                 && (root.hovered || root.visualFocus)
         sourceComponent: Tip {
             parent: root
-            text: root.state
+            text: root.hint
             visible: true
         }
     }

@@ -11,8 +11,8 @@ FocusScope {
 
     signal done
 
-    function takeFocus() {
-        (rows.itemAt(0) ?? head.main).forceActiveFocus(Qt.TabFocusReason);
+    function takeFocus(reason) {
+        (rows.itemAt(0) ?? head.main).forceActiveFocus(reason);
     }
 
     DockPageHead {

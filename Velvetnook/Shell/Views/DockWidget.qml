@@ -23,6 +23,8 @@ Card {
         names: [qsTr("Today’s Name"), "", values.nameTitle]
     })[tool] ?? [title, "", summary]
 
+    readonly property bool isRunning: tool === "timers" || tool === "dhikr"
+
     interactive: true
     padding: 14
     name: lines.filter(line => line !== "").join(", ")
@@ -76,12 +78,22 @@ Card {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        width: root.tool === "names" ? arabic.width : value.width
+        width: root.tool === "names" ? arabic.width : root.isRunning ? value.width : plain.width
         height: parent.height
 
+        Txt {
+            id: plain
+
+            visible: !root.isRunning
+            anchors.verticalCenter: parent.verticalCenter
+            role: "strong"
+            text: root.lines[1]
+            Accessible.ignored: true
+        }
         Digits {
             id: value
 
+            visible: root.isRunning
             anchors.verticalCenter: parent.verticalCenter
             role: "strong"
             pixelSize: 13

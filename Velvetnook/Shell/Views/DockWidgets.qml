@@ -11,8 +11,8 @@ FocusScope {
 
     signal done
 
-    function takeFocus() {
-        head.main.forceActiveFocus(Qt.TabFocusReason);
+    function takeFocus(reason) {
+        head.main.forceActiveFocus(reason);
     }
 
     DockPageHead {

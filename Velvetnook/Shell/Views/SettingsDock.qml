@@ -13,7 +13,9 @@ Column {
     SettingsGroup {
         SettingsRow {
             title: qsTr("Dock")
-            note: qsTr("Applications, files, links and tools at an edge of the screen, in workspaces.")
+            note: root.page.problem !== "" ? root.page.problem
+                : qsTr("Applications, files, links and tools at an edge of the screen, in workspaces.")
+            noteColor: root.page.problem !== "" ? Theme.color.warn : Theme.color.text3
             Toggle {
                 name: qsTr("Dock")
                 checked: root.page.isEnabled

@@ -35,7 +35,7 @@ public:
 
     void beginLoading();
     void show(std::vector<DockApplication> applications);
-    void forget();
+    Q_INVOKABLE void forget();
     // Null for an id that is not shown.
     const DockApplication *find(const QString &id) const;
 

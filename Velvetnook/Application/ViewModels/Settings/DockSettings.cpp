@@ -4,6 +4,8 @@
 
 #include "Velvetnook/Application/ApplicationModel.h"
 
+#include <QGuiApplication>
+
 #include <utility>
 
 namespace Velvetnook
@@ -25,6 +27,13 @@ void DockSettings::change(std::function<void(DockPreferences &)> edit)
     model().changeCompanion([edit = std::move(edit)](KestCore::CompanionState &companion) {
         edit(companion.dock);
     });
+}
+
+QString DockSettings::problem()
+{
+    return QGuiApplication::platformName() == QLatin1String{"wayland"}
+               ? tr("This session lets no program stand at an edge of the screen.")
+               : QString{};
 }
 
 bool DockSettings::isEnabled() const { return dock().enabled; }

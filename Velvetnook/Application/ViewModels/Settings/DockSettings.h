@@ -18,6 +18,8 @@ namespace Velvetnook
 class DockSettings : public SettingsPage
 {
     Q_OBJECT
+    // Why there can be none in this session; empty where there can.
+    Q_PROPERTY(QString problem READ problem NOTIFY wordsChanged)
     Q_PROPERTY(bool isEnabled READ isEnabled WRITE setEnabled NOTIFY changed)
     Q_PROPERTY(QString edge READ edge WRITE setEdge NOTIFY changed)
     Q_PROPERTY(QVariantList edges READ edges NOTIFY wordsChanged)
@@ -37,6 +39,7 @@ public:
     DockSettings(ApplicationModel &model, const Formatting &formatting,
                  QObject *parent = nullptr);
 
+    static QString problem();
     bool isEnabled() const;
     QString edge() const;
     static QVariantList edges();
