@@ -43,6 +43,145 @@
     </message>
 </context>
 <context>
+    <name>AssistantChangePage</name>
+    <message>
+        <source>Connect %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnect %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">إلغاء</translation>
+    </message>
+    <message>
+        <source>Write this</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AssistantConnection</name>
+    <message>
+        <source>Connected in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected in part in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not on this computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not connected. %1 would be changed, once you have seen how.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnect…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnect %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Complete…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AssistantConnectionsPage</name>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished">رجوع</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say who waits for you</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the strip, for a quarter of an hour, until you look here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AssistantDiff</name>
+    <message>
+        <source>The change</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AssistantsView</name>
+    <message>
+        <source>What is written or said is never passed on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connections…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished">Esc</translation>
+    </message>
+    <message>
+        <source>back</source>
+        <translation type="unfinished">رجوع</translation>
+    </message>
+    <message>
+        <source>Assistants</source>
+        <translation type="unfinished">المساعدون</translation>
+    </message>
+    <message>
+        <source>%1 is connected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not connected any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 The file as it was: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the logs…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No coding assistant has left logs here this week.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Claude Code and Codex are read from their own logs. Claude Code and Cursor can be connected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BackupFileDialog</name>
     <message>
         <source>Export a backup</source>
@@ -628,17 +767,6 @@
     <message>
         <source>For now, “kest weather” tells it in the terminal.</source>
         <translation>يخبر به الآن الأمر «kest weather» في الطرفية.</translation>
-    </message>
-</context>
-<context>
-    <name>HotkeyGroup</name>
-    <message>
-        <source>Open the palette from anywhere</source>
-        <translation>فتح لوحة الأوامر من أي مكان</translation>
-    </message>
-    <message>
-        <source>It works over every application.</source>
-        <translation>يعمل فوق كل تطبيق.</translation>
     </message>
 </context>
 <context>
@@ -1533,16 +1661,16 @@
         <translation>الخصوصية</translation>
     </message>
     <message>
-        <source>Counts, notes and places stay on this computer. Nothing is sent anywhere.</source>
-        <translation>العدّات والملاحظات والأماكن تبقى على هذا الحاسوب. لا يُرسل شيء إلى أي مكان.</translation>
-    </message>
-    <message>
         <source>What this desktop offers</source>
         <translation>ما يتيحه سطح المكتب هذا</translation>
     </message>
     <message>
         <source>The same list that “velvetnook --capabilities” prints.</source>
         <translation>القائمة نفسها التي يطبعها الأمر «velvetnook --capabilities».</translation>
+    </message>
+    <message>
+        <source>Counts and notes stay on this computer. Only what you switch on asks the network.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2015,6 +2143,59 @@
     </message>
 </context>
 <context>
+    <name>ShortcutGroup</name>
+    <message>
+        <source>From anywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A key for a tool</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It opens the panel with that tool.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a tool</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRecorder</name>
+    <message>
+        <source>Press the keys…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutRow</name>
+    <message>
+        <source>Press the keys together. Esc leaves it as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set…</source>
+        <translation type="unfinished">تعيين…</translation>
+    </message>
+    <message>
+        <source>Change the key of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the key of %1 away</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Spinner</name>
     <message>
         <source>Working</source>
@@ -2050,6 +2231,11 @@
         <source>in %1</source>
         <comment>42 min</comment>
         <translation>بعد %1</translation>
+    </message>
+    <message>
+        <source>%1 is waiting for you</source>
+        <comment>Claude Code</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2519,6 +2705,40 @@
     </message>
 </context>
 <context>
+    <name>UpdateGroup</name>
+    <message>
+        <source>Updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look for a newer version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks the maker&apos;s server once a day. Nothing but the version of this program is told to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UpdateOffer</name>
+    <message>
+        <source>Velvetnook %1 is there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy its address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SHA-256 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook</name>
     <message>
         <source>Session</source>
@@ -2844,6 +3064,141 @@
     </message>
 </context>
 <context>
+    <name>Velvetnook::AssistantsViewModel</name>
+    <message>
+        <source>weekly</source>
+        <comment>span of a limit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>monthly</source>
+        <comment>span of a limit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n day(s)</source>
+        <comment>span of a limit</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 h window</source>
+        <comment>span of a limit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bn</source>
+        <comment>tokens</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 M</source>
+        <comment>tokens</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 k</source>
+        <comment>tokens</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>resets %1</source>
+        <comment>15:40 or Mon</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 percent used. %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in seven days</source>
+        <comment>1.2 M tokens</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5 h window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seven days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <comment>15:40</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tokens</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing in the last five hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 tokens. %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>working</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>working · %1 ago</source>
+        <comment>4 min</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>waiting for your answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · waiting for your answer</source>
+        <comment>a folder</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No activity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>idle since %1</source>
+        <comment>11:20 or Mon</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the logs…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n log(s) could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Read from the tools’ own logs · %1</source>
+        <comment>13:06</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook::BusNotifications</name>
     <message>
         <source>The notification service does not answer.</source>
@@ -3094,6 +3449,29 @@
     </message>
 </context>
 <context>
+    <name>Velvetnook::GlobalKeys</name>
+    <message>
+        <source>No key is set.</source>
+        <translation>لا مفتاح معيّن.</translation>
+    </message>
+    <message>
+        <source>This keyboard has no such key. Choose another.</source>
+        <translation>لا مفتاح كهذا في لوحة المفاتيح. اختر غيره.</translation>
+    </message>
+    <message>
+        <source>This kind of session gives no program a key of its own. Bind %1 to “%2” in the desktop&apos;s keyboard settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is another shortcut&apos;s already. Choose another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has %1. Choose another key, or bind one to “%2” in the desktop&apos;s keyboard settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook::HistoryViewModel</name>
     <message>
         <source>today, in one session</source>
@@ -3205,6 +3583,17 @@
     <message>
         <source>paused</source>
         <translation>متوقف</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::HookConnections</name>
+    <message>
+        <source>The command kest is not where this program is: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to change in %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3393,25 +3782,6 @@
     <message>
         <source>Open</source>
         <translation>مفتوح</translation>
-    </message>
-</context>
-<context>
-    <name>Velvetnook::GlobalKeys</name>
-    <message>
-        <source>No key is set.</source>
-        <translation>لا مفتاح معيّن.</translation>
-    </message>
-    <message>
-        <source>This kind of session gives no program a key of its own. Bind %1 to “kest palette toggle” in the desktop&apos;s keyboard settings.</source>
-        <translation>هذا النوع من الجلسات لا يعطي البرامج مفتاحًا. اربط %1 بالأمر «kest palette toggle» في إعدادات لوحة المفاتيح.</translation>
-    </message>
-    <message>
-        <source>This keyboard has no such key. Choose another.</source>
-        <translation>لا مفتاح كهذا في لوحة المفاتيح. اختر غيره.</translation>
-    </message>
-    <message>
-        <source>Another program has %1. Choose another key, or bind one to “kest palette toggle” in the desktop&apos;s keyboard settings.</source>
-        <translation>%1 عند برنامج آخر. اختر مفتاحًا غيره، أو اربط مفتاحًا بالأمر «kest palette toggle» في إعدادات لوحة المفاتيح.</translation>
     </message>
 </context>
 <context>
@@ -3763,17 +4133,6 @@
 </context>
 <context>
     <name>Velvetnook::RemindersViewModel</name>
-    <message numerus="yes">
-        <source>%n minute(s)</source>
-        <translation>
-            <numerusform>%n دقيقة</numerusform>
-            <numerusform>دقيقة واحدة</numerusform>
-            <numerusform>دقيقتان</numerusform>
-            <numerusform>%n دقائق</numerusform>
-            <numerusform>%n دقيقة</numerusform>
-            <numerusform>%n دقيقة</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Reminders are off.</source>
         <translation>التذكيرات متوقفة.</translation>
@@ -3900,6 +4259,38 @@
     <message>
         <source>version licence license capabilities</source>
         <translation>إصدار رخصة قدرات</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::ShortcutSettings</name>
+    <message>
+        <source>Palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No key is set.</source>
+        <translation type="unfinished">لا مفتاح معيّن.</translation>
+    </message>
+    <message>
+        <source>It works over every application.</source>
+        <translation type="unfinished">يعمل فوق كل تطبيق.</translation>
+    </message>
+    <message>
+        <source>This key cannot be taken. A letter, a digit or F1 to F12 can.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold Ctrl, Alt or Super together with it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 opens %2 already.</source>
+        <comment>Ctrl+K, Notes</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4082,6 +4473,46 @@
     <message>
         <source>Data</source>
         <translation>البيانات</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::UpdateSettings</name>
+    <message>
+        <source>Stable build</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release candidate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Development build</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asking…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody was asked yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody is asked until you allow it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a date and a time</comment>
+        <translation type="unfinished">%1، %2</translation>
+    </message>
+    <message>
+        <source>Asked: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing newer was there: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

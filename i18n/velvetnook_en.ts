@@ -12,6 +12,24 @@
     </message>
 </context>
 <context>
+    <name>Velvetnook::AssistantsViewModel</name>
+    <message numerus="yes">
+        <source>%n day(s)</source>
+        <comment>span of a limit</comment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n log(s) could not be read</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook::DataSettings</name>
     <message numerus="yes">
         <source>%n record(s) and the settings are in %1</source>
@@ -52,16 +70,6 @@
         <translation>
             <numerusform>%n result</numerusform>
             <numerusform>%n results</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>Velvetnook::RemindersViewModel</name>
-    <message numerus="yes">
-        <source>%n minute(s)</source>
-        <translation>
-            <numerusform>%n minute</numerusform>
-            <numerusform>%n minutes</numerusform>
         </translation>
     </message>
 </context>

@@ -48,6 +48,17 @@ namespace
     QT_TRANSLATE_NOOP("Engine", "Velvetnook timer"),
     QT_TRANSLATE_NOOP("Engine", "A note"),
     QT_TRANSLATE_NOOP("Engine", "The scratchpad"),
+    QT_TRANSLATE_NOOP("Engine",
+                      "The system's package manager installed Velvetnook and updates it"),
+    QT_TRANSLATE_NOOP("Engine", "A development build does not look for updates"),
+    QT_TRANSLATE_NOOP("Engine", "This build has no updates"),
+    QT_TRANSLATE_NOOP("Engine",
+                      "The server of updates did not answer. Please try again tomorrow."),
+    QT_TRANSLATE_NOOP("Engine", "What was sent is no signed feed"),
+    QT_TRANSLATE_NOOP("Engine", "The signature of the feed does not hold"),
+    QT_TRANSLATE_NOOP("Engine", "The feed is signed, but says what it must not"),
+    QT_TRANSLATE_NOOP("Engine", "The feed is not meant for this build"),
+    QT_TRANSLATE_NOOP("Engine", "The feed is older than one that was seen already"),
 };
 
 // Texts with something of the user's in them: how the engine writes them, and how they are
@@ -64,6 +75,14 @@ constexpr Pattern kPatterns[]{
     {"^Unknown time zone \"(.*)\"$", QT_TRANSLATE_NOOP("Engine", "There is no time zone “%1”")},
     {"^(.*) holds at most 1,000,000 bytes$",
      QT_TRANSLATE_NOOP("Engine", "%1 holds at most 1,000,000 bytes")},
+    {"^(/.*): It is no file of your own$",
+     QT_TRANSLATE_NOOP("Engine", "%1: It is no file of your own")},
+    {"^(/.*): It is larger than a megabyte$",
+     QT_TRANSLATE_NOOP("Engine", "%1: It is larger than a megabyte")},
+    {"^(/.*): It has changed just now; try again$",
+     QT_TRANSLATE_NOOP("Engine", "%1: It has changed just now; try again")},
+    {"^(/.*): It is not written as strict JSON\\. Nothing was changed$",
+     QT_TRANSLATE_NOOP("Engine", "%1: It is not written as strict JSON. Nothing was changed")},
     {"^(.*) finished\\.$", QT_TRANSLATE_NOOP("Engine", "%1 finished.")},
 };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Store/StateStore.h"
 #include "Velvetnook/Application/App.h"
+#include "Velvetnook/Application/ViewModels/Settings/UpdateSettings.h"
 #include "Velvetnook/Shots/Shot.h"
 
 #include <QStandardItemModel>
@@ -122,6 +123,33 @@ void recordTakenKey(App &app)
                 static_cast<int>(Qt::ControlModifier) | static_cast<int>(Qt::AltModifier), 57);
 }
 
+// A feed that was signed once, with a key that signs nothing else.
+constexpr auto kFeedKey = "3OvEsbcOi1LFZMu+BVsnLdPtlSCZHV0jmsWb4lmnG8w=";
+constexpr auto kFeed =
+    "NKlvekqgf0/5Lkidb0gSsimCeKAiK7XSJvqBofcGipgS3WYS0BG3sTVzPYIMJVDer9R1xT+GJ/YWgXVcRwjkAg==\n"
+    R"({"version":"0.2.0","channel":"stable","notes":"A weather tool, and a dock that keeps to its edge.\n)"
+    R"(The counter starts in half the time.",)"
+    R"("address":"https://example.org/velvetnook_0.2.0_amd64.deb","size":11,)"
+    R"("sha256":"c67c199595622dfbdc9e415c4a0ad6166eb49cbf74c6aac7bb3e958604d5ecb8","published":"2025-11-13T09:00:00Z"})"
+    "\n";
+
+void knowUpdate(ShotData &data)
+{
+    data.state.settings["update.allowed"] = "true";
+    data.state.settings["update.checkedAt"] = "2025-11-14T09:12:00Z";
+    data.state.settings["update.feed"] = kFeed;
+}
+
+void offerUpdate(App &app)
+{
+    auto *const updates = app.settings()->about()->updates();
+    updates->setSource({.build = {.version = "0.1.0",
+                                  .channel = KestCore::UpdateChannel::stable,
+                                  .publicKey = kFeedKey,
+                                  .address = "https://example.org"},
+                        .openTransport = {}});
+}
+
 std::vector<Shot> pageShots()
 {
     return {
@@ -161,6 +189,8 @@ std::vector<Shot> pageShots()
              [](App &app) { app.settings()->data()->ask(QStringLiteral("reset")); }),
         page("data-refused", "data", {}, openBrokenBackup),
         page("about", "about", {}, offerCapabilities),
+        page("about-update", "about", knowUpdate, offerUpdate),
+        page("about-allowed", "about", {}, offerUpdate),
         page("search", "notch", {},
              [](App &app) { app.settings()->setQuery(QStringLiteral("pa")); }),
     };

@@ -141,8 +141,7 @@ TEST_F(AssistantsTest, ShowsTheLimitsThatAreTold)
                           R"("payload":{{"type":"token_count","info":null,"rate_limits":)"
                           R"({{"primary":{{"used_percent":{},{}}}}}}}}})"
                           "\n",
-                          each.percent, each.window),
-              std::ios::trunc);
+                          each.percent, each.window));
         m_view->enter();
         EXPECT_TRUE(RunningModel::waitUntil([&] { return card("span") == each.span; }))
             << qPrintable(card("span"));

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
 import QtQuick
 import Velvetnook.Application
 import Velvetnook.Shell
@@ -55,7 +54,7 @@ FocusScope {
         focus: true
         sourceComponent: root.connections.isOpen
             ? (root.connections.tool === "" ? connectionPage : changePage)
-            : root.model.availability === "ready" ? activity : state
+            : root.model.availability === "ready" ? activity : absent
         // The page that was left had the focus.
         onLoaded: {
             item.focus = true;
@@ -82,7 +81,7 @@ FocusScope {
         AssistantChangePage {}
     }
     Component {
-        id: state
+        id: absent
 
         AvailabilityView {
             readonly property bool isLoading: availability === "loading"

@@ -9,7 +9,7 @@ Rectangle {
     id: root
 
     signal pressed(int key, int modifiers, int scanCode)
-    signal left
+    signal abandoned
 
     implicitWidth: 150
     implicitHeight: 32
@@ -21,7 +21,7 @@ Rectangle {
     Accessible.name: words.text
     Accessible.focusable: true
     Component.onCompleted: forceActiveFocus(Qt.OtherFocusReason)
-    onActiveFocusChanged: if (!activeFocus) { left(); }
+    onActiveFocusChanged: if (!activeFocus) { abandoned(); }
     Keys.onShortcutOverride: event => event.accepted = true
     Keys.onPressed: event => {
         event.accepted = true;

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-pragma ComponentBehavior: Bound
 import QtQuick
 import Velvetnook.Application
 import Velvetnook.Shell
@@ -53,7 +52,7 @@ SettingsRow {
         visible: active
         sourceComponent: ShortcutRecorder {
             onPressed: (key, modifiers, scanCode) => root.page.press(key, modifiers, scanCode)
-            onLeft: root.page.cancel()
+            onAbandoned: root.page.cancel()
         }
     }
 }

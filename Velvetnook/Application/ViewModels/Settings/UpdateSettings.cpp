@@ -46,18 +46,25 @@ UpdateSource ownUpdateSource(std::string version)
 
 UpdateSettings::UpdateSettings(ApplicationModel &model, const Formatting &formatting,
                                UpdateSource source, QObject *parent)
-    : QObject{parent}, m_model{model}, m_formatting{formatting}, m_source{std::move(source)},
-      m_own{ownSettings(model.state().settings)},
-      m_known{KestCore::knownUpdate(m_source.build, m_own)}, m_begunAt{model.now()}
+    : QObject{parent}, m_model{model}, m_formatting{formatting},
+      m_own{ownSettings(model.state().settings)}, m_begunAt{model.now()}
 {
-    const auto possible = KestCore::mayCheck(
-        m_source.build, KestCore::Settings{{kAllowed, "true"}}, m_source.isPackaged);
-    m_obstacle = possible ? QString{} : fromView(possible.error().message);
+    setSource(std::move(source));
     connect(&model, &ApplicationModel::choicesChanged, this, &UpdateSettings::follow);
     connect(&formatting, &Formatting::wordsChanged, this, &UpdateSettings::changed);
     model.clock().add(
         this, [this](Base::Instant now) { return dueAt(now); },
         [this](Base::Instant) { ask(); });
+}
+
+void UpdateSettings::setSource(UpdateSource source)
+{
+    m_source = std::move(source);
+    const auto possible = KestCore::mayCheck(
+        m_source.build, KestCore::Settings{{kAllowed, "true"}}, m_source.isPackaged);
+    m_obstacle = possible ? QString{} : fromView(possible.error().message);
+    m_known = KestCore::knownUpdate(m_source.build, m_own);
+    emit changed();
 }
 
 UpdateSettings::~UpdateSettings() { m_stop.request_stop(); }
@@ -160,7 +167,7 @@ QString UpdateSettings::channel() const
     using enum KestCore::UpdateChannel;
     switch (m_source.build.channel) {
     case stable:
-        return tr("Stable");
+        return tr("Stable build");
     case candidate:
         return tr("Release candidate");
     case development:

@@ -54,6 +54,8 @@ public:
     UpdateSettings(const UpdateSettings &) = delete;
     UpdateSettings &operator=(const UpdateSettings &) = delete;
 
+    void setSource(UpdateSource source);
+
     QString channel() const;
     bool isPossible() const { return m_obstacle.isEmpty(); }
     bool isAllowed() const;
