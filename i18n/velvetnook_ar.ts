@@ -4193,7 +4193,7 @@
         <translation>عام</translation>
     </message>
     <message>
-        <source>language arabic english digits clock start login history sound onboarding updates</source>
+        <source>language arabic english digits clock start login history sound onboarding</source>
         <translation>لغة عربية إنجليزية أرقام ساعة بدء دخول سجل صوت</translation>
     </message>
     <message>
@@ -4257,8 +4257,8 @@
         <translation>حول</translation>
     </message>
     <message>
-        <source>version licence license capabilities</source>
-        <translation>إصدار رخصة قدرات</translation>
+        <source>version licence license updates capabilities</source>
+        <translation>إصدار رخصة تحديثات قدرات</translation>
     </message>
 </context>
 <context>

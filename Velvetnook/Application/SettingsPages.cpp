@@ -17,18 +17,19 @@ constexpr std::array kPages{
         "general", "settings", 0, QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "General"),
         QT_TRANSLATE_NOOP(
             "Velvetnook::SettingsViewModel",
-            "language arabic english digits clock start login history sound onboarding updates")},
-    PageOfSettings{
-        "appearance", "palette", 0,
-        QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Appearance"),
-        QT_TRANSLATE_NOOP(
-            "Velvetnook::SettingsViewModel",
-            "theme dark light accent colour color motion material text size surface transliteration")},
+            "language arabic english digits clock start login history sound onboarding")},
+    PageOfSettings{"appearance", "palette", 0,
+                   QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Appearance"),
+                   QT_TRANSLATE_NOOP(
+                       "Velvetnook::SettingsViewModel",
+                       "theme dark light accent colour color motion material text size surface "
+                       "transliteration")},
     PageOfSettings{
         "notch", "notch", 0, QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Notch"),
         QT_TRANSLATE_NOOP(
             "Velvetnook::SettingsViewModel",
-            "strip panel open delay hidden hide screen display fullscreen applications pause pinned")},
+            "strip panel open delay hidden hide screen display fullscreen applications pause "
+            "pinned")},
     PageOfSettings{
         "dock", "dock", 0, QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Dock"),
         QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel",
@@ -58,7 +59,7 @@ constexpr std::array kPages{
     PageOfSettings{"about", "info", 3,
                    QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "About"),
                    QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel",
-                                     "version licence license capabilities")},
+                                     "version licence license updates capabilities")},
 };
 
 QString translated(const char *text)

@@ -65,6 +65,7 @@ TEST_F(StripTest, ShowsTheFirstOfWhatThereIs)
     m_sources.nextPrayer = NextPrayer{.prayer = Prayer::asr, .at = kNow + 42 * kMinute};
     m_sources.timers = {timerWith(45)};
     m_sources.countedAt = kNow - kMinute;
+    m_sources.waiting = WaitingAssistant{.title = QStringLiteral("Cursor"), .since = kNow};
     const auto shown = [&] { return said(step().content); };
 
     EXPECT_EQ(shown(), "pin: Subḥāna llāh | ");
@@ -77,6 +78,8 @@ TEST_F(StripTest, ShowsTheFirstOfWhatThereIs)
     m_sources.timers = {timerWith(872)};
     EXPECT_EQ(shown(), "count: Subḥāna llāh | 21 / 33");
     m_sources.countedAt.reset();
+    EXPECT_EQ(shown(), "assistant: Cursor is waiting for you | ");
+    m_sources.waiting.reset();
     EXPECT_EQ(shown(), "timer: Subḥāna llāh | 14:32"); // trails the pinned phrase
     m_state.devotional.preferences.pinEnabled = false;
     EXPECT_EQ(shown(), "timer: Focus | 14:32");
@@ -102,6 +105,10 @@ TEST_F(StripTest, EachThingEndsAtItsMoment)
     EXPECT_EQ(said(step(kCountingTime - Base::Seconds{1}).content),
               "count: Subḥāna llāh | 21 / 33");
     EXPECT_EQ(said(step(kCountingTime).content), "rest:  | ");
+    m_sources.countedAt.reset();
+    m_sources.waiting = WaitingAssistant{.title = QStringLiteral("Cursor"), .since = kNow};
+    EXPECT_EQ(step().changesAt, kNow + kWaitingTime);
+    EXPECT_EQ(said(step(kWaitingTime).content), "rest:  | ");
 }
 
 TEST_F(StripTest, LooksAgainOnlyWhenTheTextIsAnother)
