@@ -207,6 +207,24 @@ const std::vector<Emoji> &allEmoji()
     return kList;
 }
 
+std::span<const Emoji> emojiOfGroup(EmojiGroup group)
+{
+    // The first of each group but the first one.
+    static const std::vector<std::size_t> kEnds = [] {
+        std::vector<std::size_t> ends;
+        for (const std::string_view first :
+             {"\U0001F435", "\U0001F347", "\U0001F30D", "\U0001F383", "\U0001F453"}) {
+            const auto found = std::ranges::find(allEmoji(), first, &Emoji::text);
+            ends.push_back(static_cast<std::size_t>(found - allEmoji().begin()));
+        }
+        ends.push_back(allEmoji().size());
+        return ends;
+    }();
+    const auto at = static_cast<std::size_t>(group);
+    const std::size_t begin = at == 0 ? 0 : kEnds[at - 1];
+    return std::span{allEmoji()}.subspan(begin, kEnds[at] - begin);
+}
+
 SkinTone chosenTone(const Settings &settings)
 {
     const auto found = settings.find("emoji.skinTone");

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,27 @@ struct Emoji {
 // The list that ships with the program, read on first use and kept. A missing or broken one
 // is a fault of the build and ends the process.
 const std::vector<Emoji> &allEmoji();
+
+// The groups in which keyboards show them.
+enum class EmojiGroup : std::uint8_t {
+    people,
+    nature,
+    food,
+    travel,
+    activities,
+    objects, // and symbols and flags
+};
+constexpr auto enumTexts(Of<EmojiGroup>)
+{
+    using enum EmojiGroup;
+    return Base::EnumTexts<EmojiGroup, 6>{{{people, "people"},
+                                           {nature, "nature"},
+                                           {food, "food"},
+                                           {travel, "travel"},
+                                           {activities, "activities"},
+                                           {objects, "objects"}}};
+}
+std::span<const Emoji> emojiOfGroup(EmojiGroup group);
 
 enum class SkinTone : std::uint8_t { none, light, mediumLight, medium, mediumDark, dark };
 constexpr auto enumTexts(Of<SkinTone>)

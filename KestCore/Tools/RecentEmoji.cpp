@@ -4,12 +4,14 @@
 
 #include "Base/Uuid.h"
 #include "KestCore/Tools/Emoji.h"
+#include "KestCore/Tools/RecordOrder.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 namespace KestCore
@@ -33,7 +35,7 @@ std::vector<LocalRecord> byWeight(std::span<const LocalRecord> records, Base::In
 {
     std::vector<LocalRecord> sorted{records.begin(), records.end()};
     std::ranges::stable_sort(sorted, std::ranges::greater{}, [&](const LocalRecord &record) {
-        return std::pair{weightOf(record, now), record.updated};
+        return std::tuple{isPinned(record), weightOf(record, now), record.updated};
     });
     return sorted;
 }
@@ -62,7 +64,8 @@ std::vector<RecentEmoji> recentEmoji(std::span<const LocalRecord> records, Base:
             const auto use = payloadOf<EmojiUse>(record);
             recent.push_back({.emoji = use.emoji,
                               .uses = use.uses,
-                              .lastUsed = Base::fromMilliseconds1970(record.updated)});
+                              .lastUsed = Base::fromMilliseconds1970(record.updated),
+                              .isPinned = isPinned(record)});
         }
     }
     return recent;
@@ -102,6 +105,24 @@ Result<RecordChanges> usingEmoji(std::span<const LocalRecord> records, std::stri
     for (std::size_t at = kMostKept - 1; at < kept.size(); ++at) {
         changes.removed.push_back(kept[at].id);
     }
+    return changes;
+}
+
+Result<RecordChanges> pinningEmoji(std::span<const LocalRecord> records, std::string_view text,
+                                   Base::Instant now)
+{
+    const auto known = emojiOf(text);
+    if (known) {
+        for (const LocalRecord &record : records) {
+            if (isSame(payloadOf<EmojiUse>(record).emoji, *known)) {
+                LocalRecord changed = record;
+                setPinned(changed, !isPinned(record));
+                return RecordChanges{.written = {std::move(changed)}, .removed = {}};
+            }
+        }
+    }
+    KEST_TRY(auto changes, usingEmoji(records, text, now));
+    setPinned(changes.written.front(), true);
     return changes;
 }
 

@@ -17,7 +17,7 @@ namespace KestCore
 
 // Emoji that were used before. One weighs as much as it was used, and half of that for each
 // week since it was used last, so that a habit stands before a single use and a habit of last
-// year does not.
+// year does not. Those that the user has pinned stand before all others and are not forgotten.
 
 inline constexpr const char *kEmojiKind = "emoji";
 
@@ -25,6 +25,7 @@ struct RecentEmoji {
     std::string emoji{};
     std::int64_t uses{};
     Base::Instant lastUsed{};
+    bool isPinned{};
 
     bool operator==(const RecentEmoji &) const = default;
 };
@@ -37,5 +38,10 @@ std::vector<RecentEmoji> recentEmoji(std::span<const LocalRecord> records, Base:
 // forgotten. Fails for a text that is no emoji.
 [[nodiscard]] Result<RecordChanges> usingEmoji(std::span<const LocalRecord> records,
                                                std::string_view text, Base::Instant now);
+
+// What pinning an emoji changes, or no longer pinning it. One that was never used has been used
+// once by that. Fails for a text that is no emoji.
+[[nodiscard]] Result<RecordChanges> pinningEmoji(std::span<const LocalRecord> records,
+                                                 std::string_view text, Base::Instant now);
 
 } // namespace KestCore

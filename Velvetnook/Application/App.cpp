@@ -112,8 +112,36 @@ PaletteViewModel *App::palette()
     return m_palette;
 }
 
-ClipboardViewModel *App::clipboard() { return made(m_clipboard); }
-EmojiViewModel *App::emoji() { return made(m_emoji); }
+ClipboardViewModel *App::clipboard()
+{
+    if (m_clipboard == nullptr) {
+        made(m_clipboard);
+        connect(m_clipboard, &ClipboardViewModel::copied, this,
+                [this] { panel()->showMessage(tr("Copied")); });
+        connect(m_clipboard, &ClipboardViewModel::used, this,
+                [this] { emit panel() -> closeWanted(); });
+        connect(m_clipboard, &ClipboardViewModel::removed, this, [this] {
+            panel()->showMessage(tr("Removed from the history."), tr("Undo"),
+                                 [this] { m_clipboard->restore(); });
+        });
+    }
+    return m_clipboard;
+}
+
+EmojiViewModel *App::emoji()
+{
+    if (m_emoji == nullptr) {
+        made(m_emoji);
+        m_emoji->setPasting({.isPossible = [this] { return clipboard()->pastes(); },
+                             .begin = [this] { clipboard()->desktop().paste(); }});
+        connect(m_emoji, &EmojiViewModel::copied, this, [this](const QString &text) {
+            panel()->showMessage(tr("Copied %1").arg(text));
+        });
+        connect(m_emoji, &EmojiViewModel::used, this,
+                [this] { emit panel() -> closeWanted(); });
+    }
+    return m_emoji;
+}
 
 ShelfViewModel *App::shelf()
 {

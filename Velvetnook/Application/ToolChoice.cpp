@@ -29,6 +29,8 @@ constexpr std::array kViews{
     ToolView{"music", "Music"},      ToolView{"sounds", "Sounds"},
     ToolView{"shelf", "Shelf"},      ToolView{"links", "Links"},
     ToolView{"files", "Files"},      ToolView{"calendar", "Calendar"},
+    ToolView{"scratchpad", "Notes"}, ToolView{"clipboard", "Clipboard"},
+    ToolView{"emoji", "Emoji"},
 };
 
 bool contains(const std::vector<std::string> &ids, std::string_view id)

@@ -9,6 +9,7 @@
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/PrayerWatch.h"
 #include "Velvetnook/Application/ViewModels/MusicViewModel.h"
+#include "Velvetnook/Application/ViewModels/ClipboardViewModel.h"
 #include "Velvetnook/Platform/Activation.h"
 #include "Velvetnook/Platform/CapabilityList.h"
 #include "Velvetnook/Platform/DesktopServices.h"
@@ -16,6 +17,7 @@
 #include "Velvetnook/Platform/Linux/AutostartFile.h"
 #include "Velvetnook/Platform/Linux/BusNotifications.h"
 #include "Velvetnook/Platform/Linux/BusTray.h"
+#include "Velvetnook/Platform/Linux/ClipboardServices.h"
 #include "Velvetnook/Platform/Linux/LoginPower.h"
 #include "Velvetnook/Platform/Linux/PortalLook.h"
 #include "Velvetnook/Platform/Linux/PulseSounds.h"
@@ -107,6 +109,7 @@ void Desktop::begin()
     followCapabilities();
     m_app.music(); // what plays stands in the strip
     new FileOpening{m_app, m_session, this};
+    m_app.clipboard()->setDesktop(clipboardServices(this));
 }
 
 void Desktop::followNotifications()

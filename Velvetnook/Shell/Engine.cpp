@@ -10,6 +10,7 @@
 #include "Velvetnook/Shell/HistoryChart.h"
 #include "Velvetnook/Shell/IconImages.h"
 #include "Velvetnook/Shell/PreviewImages.h"
+#include "Velvetnook/Shell/Picture.h"
 #include "Velvetnook/Shell/QiblaDial.h"
 #include "Velvetnook/Shell/ShadowImages.h"
 #include "Velvetnook/Shell/Sparkline.h"
@@ -61,6 +62,7 @@ void prepareEngine(QQmlEngine &engine, const std::shared_ptr<const Singletons> &
     qmlRegisterType<Beads>("Velvetnook.Application", 1, 0, "Beads");
     qmlRegisterType<DayArc>("Velvetnook.Application", 1, 0, "DayArc");
     qmlRegisterType<HistoryChart>("Velvetnook.Application", 1, 0, "HistoryChart");
+    qmlRegisterType<Picture>("Velvetnook.Application", 1, 0, "Picture");
     qmlRegisterType<QiblaDial>("Velvetnook.Application", 1, 0, "QiblaDial");
     qmlRegisterType<Sparkline>("Velvetnook.Application", 1, 0, "Sparkline");
     qmlRegisterType<WeatherChart>("Velvetnook.Application", 1, 0, "WeatherChart");

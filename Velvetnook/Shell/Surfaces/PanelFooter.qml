@@ -19,7 +19,31 @@ FocusScope {
     // Some views draw the end of their footer themselves.
     readonly property var custom: hasMessage ? null : shown?.footerContent ?? null
 
+    // A dot before the words, and what can be done about them behind.
+    readonly property string dot: hasMessage ? "" : shown?.footerSign ?? ""
+    readonly property var lead: hasMessage ? null : shown?.footerLead ?? null
+
     Hairline { width: parent.width }
+    Rectangle {
+        id: dotSign
+
+        visible: root.dot !== ""
+        anchors.left: parent.left
+        anchors.verticalCenter: parent.verticalCenter
+        width: 6
+        height: 6
+        radius: 3
+        color: root.dot === "warn" ? Theme.color.warn : Theme.color.accent
+    }
+    Loader {
+        id: leadItem
+
+        anchors.left: said.right
+        anchors.leftMargin: 14
+        anchors.verticalCenter: parent.verticalCenter
+        active: root.lead !== null
+        sourceComponent: root.lead
+    }
     Icon {
         id: sign
 
@@ -39,11 +63,14 @@ FocusScope {
         sourceComponent: root.custom
     }
     Txt {
+        id: said
+
         anchors.left: parent.left
-        anchors.leftMargin: sign.visible ? 20 : 0
+        anchors.leftMargin: sign.visible ? 20 : dotSign.visible ? 14 : 0
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, parent.width - 14 - anchors.leftMargin - (link.visible ? link.width : 0)
-                        - (hints.visible ? hints.width : 0) - (own.active ? own.width : 0))
+                        - (hints.visible ? hints.width : 0) - (own.active ? own.width : 0)
+                        - (leadItem.active ? leadItem.width + 14 : 0))
         role: "note"
         color: root.hasMessage ? Theme.color.text1 : Theme.color.text3
         text: root.hasMessage ? App.panel.message : root.shown?.footerText ?? ""

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/SecretStore.h"
+#include "KestCore/Clipboard/Pasteboard.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+namespace Velvetnook
+{
+
+// The system's clipboard, watched from a thread of its own: asking it may take seconds. What is
+// asked is done there, one after the other. Its end breaks off what waits for an application.
+class ClipboardWatch
+{
+public:
+    using Task = std::move_only_function<void(KestCore::Pasteboard &)>;
+
+    ClipboardWatch() = default;
+    virtual ~ClipboardWatch() = default;
+    ClipboardWatch(const ClipboardWatch &) = delete;
+    ClipboardWatch &operator=(const ClipboardWatch &) = delete;
+
+    virtual void ask(Task task) = 0;
+};
+
+// What the clipboard tool needs of the desktop. A function that is not there is something that
+// this desktop does not give.
+struct ClipboardDesktop {
+    using Changed = std::function<void()>;
+    // Puts it on the clipboard, sooner or later.
+    using Offer = std::function<void(const KestCore::ClipboardPayload &)>;
+    using Keyring = Base::SecretResult<std::unique_ptr<Base::SecretStore>>;
+
+    // Both are called on the thread of the watch. Null when it cannot be watched.
+    std::function<std::unique_ptr<ClipboardWatch>(Changed, Offer)> watch{};
+    // Called on a thread of its own. It may ask the user to unlock the keyring, or not.
+    std::function<Keyring(bool mayAsk)> openKeyring{};
+    // Presses the keys that paste, once another window has the keyboard again.
+    std::function<void()> paste{};
+    // The names that the windows of running applications go by.
+    std::function<QStringList()> applications{};
+};
+
+} // namespace Velvetnook

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Velvetnook/Application/Clipboard/ClipboardDesktop.h"
+#include "Velvetnook/Platform/Linux/XSelection.h"
+
+namespace Velvetnook
+{
+
+// The clipboard of the X server, in the forms in which programs here offer what was copied. A
+// program that is slow or silent offers nothing.
+class XPasteboard : public KestCore::Pasteboard
+{
+public:
+    XPasteboard(std::unique_ptr<XSelection> selection, ClipboardDesktop::Offer offer)
+        : m_selection{std::move(selection)}, m_offer{std::move(offer)}
+    {
+    }
+
+    XSelection &selection() { return *m_selection; }
+
+    std::int64_t changeCount() override { return m_selection->changeCount(); }
+    std::vector<std::string> types() override;
+    std::optional<std::string> marker(std::string_view type) override;
+    std::optional<std::string> ownerApplication() override;
+    Result<std::optional<std::vector<KestCore::ClipboardFileReference>>> readFiles() override;
+    Result<std::optional<Base::Bytes>> readImage(std::size_t most) override;
+    Result<std::optional<std::string>> readText(std::size_t most) override;
+    bool reaches(const KestCore::ClipboardFileReference &file) override;
+    Result<void> write(const KestCore::ClipboardPayload &payload) override;
+
+private:
+    std::string firstOf(std::span<const char *const> forms);
+
+    std::unique_ptr<XSelection> m_selection;
+    ClipboardDesktop::Offer m_offer;
+    std::int64_t m_askedChange = -1;
+    std::vector<std::string> m_types; // of that change
+};
+
+} // namespace Velvetnook
