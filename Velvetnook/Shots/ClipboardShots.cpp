@@ -166,13 +166,21 @@ Shot clipboard(const char *name, std::function<void(ShotData &)> prepare,
     return {.name = QLatin1String{name},
             .surface = QStringLiteral("Panel"),
             .view = QStringLiteral("clipboard"),
-            .prepare = std::move(prepare),
-            .arrange = [arrange = std::move(arrange), failure](App &app) {
-                app.clipboard()->setDesktop(quietDesktop(failure));
-                if (arrange) {
-                    arrange(app);
-                }
-            }};
+            .prepare =
+                [prepare = std::move(prepare)](ShotData &data) {
+                    data.state.enabled.emplace_back("clipboard");
+                    data.state.navigationFavorites.emplace_back("clipboard");
+                    if (prepare) {
+                        prepare(data);
+                    }
+                },
+            .arrange =
+                [arrange = std::move(arrange), failure](App &app) {
+                    app.clipboard()->setDesktop(quietDesktop(failure));
+                    if (arrange) {
+                        arrange(app);
+                    }
+                }};
 }
 
 Shot emoji(const char *name, std::function<void(ShotData &)> prepare = {},

@@ -21,7 +21,7 @@ FocusScope {
 
     // A dot before the words, and what can be done about them behind.
     readonly property string dot: hasMessage ? "" : shown?.footerSign ?? ""
-    readonly property var lead: hasMessage ? null : shown?.footerLead ?? null
+    readonly property string action: hasMessage ? "" : shown?.footerAction ?? ""
 
     Hairline { width: parent.width }
     Rectangle {
@@ -35,14 +35,15 @@ FocusScope {
         radius: 3
         color: root.dot === "warn" ? Theme.color.warn : Theme.color.accent
     }
-    Loader {
-        id: leadItem
+    FooterLink {
+        id: deed
 
+        visible: text !== ""
         anchors.left: said.right
         anchors.leftMargin: 14
         anchors.verticalCenter: parent.verticalCenter
-        active: root.lead !== null
-        sourceComponent: root.lead
+        text: root.action
+        onClicked: root.shown.footerActionClicked()
     }
     Icon {
         id: sign
@@ -70,7 +71,7 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, parent.width - 14 - anchors.leftMargin - (link.visible ? link.width : 0)
                         - (hints.visible ? hints.width : 0) - (own.active ? own.width : 0)
-                        - (leadItem.active ? leadItem.width + 14 : 0))
+                        - (deed.visible ? deed.width + 14 : 0))
         role: "note"
         color: root.hasMessage ? Theme.color.text1 : Theme.color.text3
         text: root.hasMessage ? App.panel.message : root.shown?.footerText ?? ""

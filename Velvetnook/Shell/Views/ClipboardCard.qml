@@ -17,12 +17,12 @@ Item {
     required property string icon
     required property string meta
     required property var preview
+    required property bool previewed
     required property bool favourite
     required property bool hidden
     required property bool whole
     required property bool code
     property bool selected: false
-    property bool ringed: false
 
     signal clicked
     signal doubleClicked
@@ -46,28 +46,33 @@ Item {
     Accessible.selected: selected
     Accessible.onPressAction: clicked()
 
-    Card {
+    Rectangle {
+        id: ground
+
         anchors.fill: parent
-        anchors.rightMargin: LayoutMirroring.enabled ? 0 : 10
-        anchors.leftMargin: LayoutMirroring.enabled ? 10 : 0
+        anchors.rightMargin: 10
         anchors.bottomMargin: 10
-        corner: 14
-        padding: 12
-        selected: root.selected
-        fill: area.pressed ? Theme.color.bg3 : area.containsMouse ? Theme.color.bg2 : Theme.color.bg1
-        ringed: root.ringed
+        radius: 14
+        color: root.selected ? Theme.color.soft
+             : area.pressed ? Theme.color.bg3 : area.containsMouse ? Theme.color.bg2 : Theme.color.bg1
+        border.width: root.selected ? Theme.outline : 0
+        border.color: Theme.color.accent
+    }
+    Item {
+        anchors.fill: ground
+        anchors.margins: 12
 
         Picture {
             id: sample
 
-            visible: root.isImage && root.preview.width > 0
+            visible: root.isImage && root.previewed
             anchors.left: parent.left
             anchors.top: parent.top
             anchors.topMargin: -2
             width: 54
             height: 36
             corner: 7
-            image: root.isImage ? root.preview : undefined
+            image: root.preview
         }
         Txt {
             id: words
@@ -95,6 +100,8 @@ Item {
             anchors.top: words.bottom
             role: "note"
             color: Theme.color.text3
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
             text: root.detail
             Accessible.ignored: true
         }
@@ -126,24 +133,23 @@ Item {
             filled: true
             color: Theme.color.accent
         }
-        MouseArea {
-            id: area
+    }
+    MouseArea {
+        id: area
 
-            anchors.fill: parent
-            anchors.margins: -12
-            hoverEnabled: true
-            acceptedButtons: Qt.LeftButton | Qt.RightButton
-            onClicked: mouse => {
-                root.clicked();
-                if (mouse.button === Qt.RightButton) {
-                    const at = area.mapToItem(root, mouse.x, mouse.y);
-                    root.menuWanted(at.x, at.y);
-                }
+        anchors.fill: ground
+        hoverEnabled: true
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: mouse => {
+            root.clicked();
+            if (mouse.button === Qt.RightButton) {
+                const at = area.mapToItem(root, mouse.x, mouse.y);
+                root.menuWanted(at.x, at.y);
             }
-            onDoubleClicked: mouse => {
-                if (mouse.button === Qt.LeftButton) {
-                    root.doubleClicked();
-                }
+        }
+        onDoubleClicked: mouse => {
+            if (mouse.button === Qt.LeftButton) {
+                root.doubleClicked();
             }
         }
     }

@@ -84,7 +84,6 @@ FocusScope {
         highlightFollowsCurrentItem: true
         highlightMoveDuration: 0
         currentIndex: 0
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
         model: root.model.list
         Keys.onPressed: event => root.act(event)
         onCountChanged: {
@@ -99,7 +98,6 @@ FocusScope {
             width: cards.cellWidth
             height: cards.cellHeight
             selected: GridView.isCurrentItem
-            ringed: selected && cards.activeFocus && root.isRinged
             onClicked: {
                 cards.currentIndex = index;
                 cards.forceActiveFocus(Qt.MouseFocusReason);
@@ -111,9 +109,6 @@ FocusScope {
             }
         }
     }
-    // The outline of the chosen card shows already where the keyboard is.
-    readonly property bool isRinged: false
-
     PopupMenu {
         id: menu
 

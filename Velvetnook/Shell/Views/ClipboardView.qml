@@ -14,7 +14,7 @@ FocusScope {
     readonly property Item mainItem: isReady ? grid : state
     readonly property string footerText: model.status
     readonly property string footerSign: model.statusSign
-    readonly property Component footerLead: model.statusAction === "" ? null : lead
+    readonly property string footerAction: model.statusAction
     readonly property var footerKeys: !isReady ? [] : [
         {key: qsTr("Enter"), text: model.pastes ? qsTr("paste") : qsTr("copy")},
         {key: "S", text: qsTr("favourite")}, {key: qsTr("Del"), text: qsTr("remove")}]
@@ -23,6 +23,10 @@ FocusScope {
                                   {value: "link", label: qsTr("Links")},
                                   {value: "image", label: qsTr("Images")},
                                   {value: "files", label: qsTr("Files")}]
+
+    signal footerActionClicked
+
+    onFooterActionClicked: model.takeStatusAction()
 
     implicitWidth: 600
     implicitHeight: 220
@@ -34,15 +38,6 @@ FocusScope {
         onIsShownChanged: root.model.setShown(isShown)
         Component.onCompleted: root.model.setShown(isShown)
     }
-    Component {
-        id: lead
-
-        FooterLink {
-            text: root.model.statusAction
-            onClicked: root.model.takeStatusAction()
-        }
-    }
-
     Field {
         id: search
 

@@ -48,7 +48,7 @@ FocusScope {
             return;
         }
         grid.currentIndex = index;
-        oneOff.tones = tones;
+        oneOff.forms = tones;
         const cell = grid.currentItem;
         oneOff.popup(grid.x + cell.x, grid.y + cell.y - grid.contentY + 20);
     }
@@ -134,7 +134,6 @@ FocusScope {
         clip: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
         model: root.model.list
         Keys.onPressed: event => root.act(event)
         onCountChanged: currentIndex = count > 0 ? 0 : -1
@@ -171,9 +170,9 @@ FocusScope {
     PopupMenu {
         id: oneOff
 
-        property var tones: []
+        property var forms: []
 
-        items: tones.map((each, at) => ({text: each.text + "  " + root.model.tones[at].label}))
-        onChosen: index => root.model.copyToned(grid.currentIndex, tones[index].value)
+        items: forms.map((each, at) => ({text: each.text + "  " + root.model.tones[at].label}))
+        onChosen: index => root.model.copyToned(grid.currentIndex, forms[index].value)
     }
 }

@@ -16,10 +16,10 @@ int ClipboardList::rowCount(const QModelIndex &parent) const
 
 QHash<int, QByteArray> ClipboardList::roleNames() const
 {
-    return {
-        {entryId, "entryId"}, {kind, "kind"},   {title, "title"},     {detail, "detail"},
-        {icon, "icon"},       {meta, "meta"},   {preview, "preview"}, {favourite, "favourite"},
-        {hidden, "hidden"},   {whole, "whole"}, {code, "code"}};
+    return {{entryId, "entryId"}, {kind, "kind"},           {title, "title"},
+            {detail, "detail"},   {icon, "icon"},           {meta, "meta"},
+            {preview, "preview"}, {previewed, "previewed"}, {favourite, "favourite"},
+            {hidden, "hidden"},   {whole, "whole"},         {code, "code"}};
 }
 
 QVariant ClipboardList::data(const QModelIndex &index, int role) const
@@ -43,6 +43,8 @@ QVariant ClipboardList::data(const QModelIndex &index, int role) const
         return row.meta;
     case preview:
         return row.preview;
+    case previewed:
+        return !row.preview.isNull();
     case favourite:
         return row.isFavourite;
     case hidden:

@@ -43,6 +43,7 @@ public:
         icon,
         meta,
         preview,
+        previewed,
         favourite,
         hidden,
         whole,
