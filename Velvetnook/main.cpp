@@ -10,6 +10,7 @@
 #include "Velvetnook/Application/Languages.h"
 #include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
 #include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
+#include "Velvetnook/Application/ViewModels/ScreenTimeViewModel.h"
 #include "Velvetnook/Dock/DockKeeper.h"
 #include "Velvetnook/Notch/NotchDriver.h"
 #include "Velvetnook/Notch/NotchWindow.h"
@@ -19,6 +20,8 @@
 #include "Velvetnook/Platform/GlobalKeys.h"
 #include "Velvetnook/Platform/LastWords.h"
 #include "Velvetnook/Platform/Linux/BusActivation.h"
+#include "Velvetnook/Platform/Linux/DesktopActivity.h"
+#include "Velvetnook/Platform/Linux/LoginPower.h"
 #include "Velvetnook/Platform/Linux/MonitorOfHost.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
 #include "Velvetnook/Platform/StartUp.h"
@@ -263,6 +266,8 @@ void Running::needTheRest()
     followWishes();
     m_desktop.begin();
     m_app.monitor()->begin(monitorOfHost(m_file.parent_path()));
+    m_app.screenTime()->service().begin(
+        [this] { return std::make_unique<DesktopActivity>(m_desktop.power()); });
     m_desktop.follow(*m_activation);
     m_activation->begin();
     if (!m_isQuiet) {

@@ -60,6 +60,9 @@ void App::saveOpenWork()
     if (m_notes != nullptr) {
         m_notes->leave();
     }
+    if (m_screenTime != nullptr) {
+        m_screenTime->service().write();
+    }
 }
 
 PanelViewModel *App::panel() { return made(m_panel); }
@@ -208,7 +211,19 @@ MonitorViewModel *App::monitor()
     }
     return m_monitor;
 }
-ScreenTimeViewModel *App::screenTime() { return made(m_screenTime); }
+ScreenTimeViewModel *App::screenTime()
+{
+    if (m_screenTime == nullptr) {
+        connect(made(m_screenTime), &ScreenTimeViewModel::excludedNow, this,
+                [this](const QString &application) {
+                    panel()->showMessage(
+                        tr("%1 is counted no more.").arg(application), tr("Undo"),
+                        [this, application] { m_screenTime->include(application); });
+                });
+    }
+    return m_screenTime;
+}
+
 AssistantsViewModel *App::assistants()
 {
     if (m_assistants == nullptr) {

@@ -31,6 +31,19 @@ constexpr std::array kViews{
     ToolView{"files", "Files"},      ToolView{"calendar", "Calendar"},
     ToolView{"scratchpad", "Notes"}, ToolView{"clipboard", "Clipboard"},
     ToolView{"emoji", "Emoji"},
+    ToolView{"home", "Home"},
+    ToolView{"dhikr", "Counter"},
+    ToolView{"history", "History"},
+    ToolView{"names", "Names"},
+    ToolView{"tasbih", "Names"},
+    ToolView{"prayer", "Prayer"},
+    ToolView{"friday", "Friday"},
+    ToolView{"timers", "Timers"},
+    ToolView{"units", "Units"},
+    ToolView{"notes", "Notes"},
+    ToolView{"scratchpad", "Notes"},
+    ToolView{"stats", "Monitor"},
+    ToolView{"screen-time", "ScreenTime"},
 };
 
 bool contains(const std::vector<std::string> &ids, std::string_view id)

@@ -49,6 +49,8 @@ public:
     // One of kDesktopActions, or a key of the tray's menu.
     void act(const QString &action);
 
+    // Null before `begin`.
+    LoginPower *power() { return m_power; }
     CapabilityList &capabilities() { return *m_capabilities; }
 
 signals:

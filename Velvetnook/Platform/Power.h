@@ -21,6 +21,7 @@ public:
     virtual ServiceState state() const = 0;
 
 signals:
+    void suspending();
     void resumed();
     void lockedChanged();
 };

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "Base/JsonWriter.h"
+#include "KestCore/Tools/ScreenTimeTotals.h"
 #include "MonitorCore/MonitorHistoryStore.h"
 #include "MonitorCore/MonitorPreferences.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
+#include "Velvetnook/Application/ViewModels/ScreenTimeViewModel.h"
 #include "Velvetnook/Shots/Shot.h"
 
 #include <QEventLoop>
@@ -236,11 +237,68 @@ Shot monitor(const char *name, Scene scene, std::function<void(MonitorViewModel 
                 }};
 }
 
+// A week at the screen, as it would have been counted.
+void fillUsage(ShotData &data)
+{
+    struct Use {
+        const char *application;
+        const char *name;
+        double share;
+    };
+    constexpr Use kUses[]{{"firefox", "Firefox", 0.38},
+                          {"org.gnome.Nautilus", "Nautilus", 0.08},
+                          {"code", "Code", 0.31},
+                          {"xterm", "Xterm", 0.14},
+                          {"libreoffice", "Libreoffice", 0.09}};
+    constexpr double kHours[]{3.1, 5.2, 4.4, 6.3, 2.2, 0, 4.2, 3.4};
+    const std::int64_t today = 20'406;
+    std::vector<KestCore::UsagePiece> pieces;
+    for (std::int64_t age = 0; age < 8; ++age) {
+        const double hours = kHours[static_cast<std::size_t>(7 - age)];
+        for (const Use &use : kUses) {
+            if (hours > 0) {
+                pieces.push_back({.application = {.id = use.application, .name = use.name},
+                                  .day = today - age,
+                                  .seconds = Base::Seconds{3600 * hours * use.share},
+                                  .stretch = Base::Seconds{4000}});
+            }
+        }
+    }
+    data.records = KestCore::usageChanges({}, pieces, today, kShotTime).written;
+    data.state.settings["screen-time.enabled"] = "true";
+}
+
+Shot screenTime(const char *name, bool hasUsage,
+                std::function<void(ScreenTimeViewModel &)> then = {})
+{
+    return {.name = QLatin1String{name},
+            .surface = QStringLiteral("Panel"),
+            .view = QStringLiteral("screen-time"),
+            .prepare =
+                [hasUsage](ShotData &data) {
+                    data.state.enabled.emplace_back("screen-time");
+                    if (hasUsage) {
+                        fillUsage(data);
+                        data.state.settings["screen-time.excluded"] = "keepassxc";
+                    }
+                },
+            .arrange =
+                [then](App &app) {
+                    if (then) {
+                        then(*app.screenTime());
+                    }
+                }};
+}
+
 } // namespace
 
 std::vector<Shot> monitorShots()
 {
     return {
+        screenTime("screentime", true),
+        screenTime("screentime-week", true,
+                   [](ScreenTimeViewModel &view) { view.setPeriod(QStringLiteral("week")); }),
+        screenTime("screentime-off", false),
         monitor("monitor", {}),
         monitor("monitor-warming", {.isFirst = true}),
         monitor("monitor-alert", {},

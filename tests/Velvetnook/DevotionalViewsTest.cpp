@@ -96,6 +96,7 @@ TEST(HomeCards, StandWhereTheyHaveRoom)
          }) {
         SCOPED_TRACE(name);
         auto state = KestCore::defaultNativeState();
+        state.enabled.emplace_back("stats"); // samples, so nobody has it unasked
         std::erase(state.enabled, off);
         if (widgets != nullptr) {
             state.settings["home.widgets"] = widgets;

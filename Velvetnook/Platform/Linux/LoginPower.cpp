@@ -68,7 +68,9 @@ void LoginPower::followSession(const QString &path)
 
 void LoginPower::hearSleep(bool isGoingToSleep)
 {
-    if (!isGoingToSleep) {
+    if (isGoingToSleep) {
+        emit suspending();
+    } else {
         emit resumed();
     }
 }
