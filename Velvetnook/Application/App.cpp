@@ -79,6 +79,7 @@ RemindersViewModel *App::reminders()
     }
     return m_reminders;
 }
+
 FridayViewModel *App::friday() { return made(m_friday); }
 
 // A removal is told, and can be taken back, also when its view has gone.
@@ -191,7 +192,14 @@ MusicViewModel *App::music()
     return m_music;
 }
 
-SoundMixViewModel *App::sounds() { return made(m_sounds); }
+SoundMixViewModel *App::sounds()
+{
+    if (m_sounds == nullptr) {
+        m_sounds = new SoundMixViewModel{m_model, m_formatting, m_services, this};
+    }
+    return m_sounds;
+}
+
 MonitorViewModel *App::monitor()
 {
     if (m_monitor == nullptr) {
@@ -211,6 +219,7 @@ MonitorViewModel *App::monitor()
     }
     return m_monitor;
 }
+
 ScreenTimeViewModel *App::screenTime()
 {
     if (m_screenTime == nullptr) {

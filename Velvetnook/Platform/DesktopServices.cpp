@@ -5,6 +5,7 @@
 #include "HttpTransport/HttpTransport.h"
 #include "SecretService/SecretService.h"
 #include "Velvetnook/Platform/Linux/BusPlayers.h"
+#include "Velvetnook/Platform/Linux/PulseMixer.h"
 
 namespace Velvetnook
 {
@@ -40,6 +41,9 @@ ToolServices desktopServices(const QDBusConnection &session)
             .playInTab = playInTab,
             .makePlayers = [session](QObject *parent) -> Players * {
                 return new BusPlayers{session, parent};
+            },
+            .makeSoundMixer = [](QObject *parent) -> SoundMixer * {
+                return new PulseMixer{parent};
             }};
 }
 

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/Players.h"
+#include "Velvetnook/Application/SoundMixer.h"
 #include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ToolServices.h"
 #include "Velvetnook/Application/ViewModels/MusicViewModel.h"
+#include "Velvetnook/Application/ViewModels/SoundMixViewModel.h"
 #include "Velvetnook/Application/ViewModels/WeatherViewModel.h"
 #include "Velvetnook/Shots/Shot.h"
 
@@ -285,12 +287,38 @@ std::vector<Shot> insightShots()
             tool("insights-error", "revenue", {}, withAccount(key, found("no report")))};
 }
 
+class SilentMixer : public SoundMixer
+{
+public:
+    using SoundMixer::SoundMixer;
+    void play(const Gains & /*gains*/, Base::Seconds /*fade*/) override {}
+};
+
+std::vector<Shot> soundShots()
+{
+    const auto mixed = [](ShotData &data) {
+        data.state.settings["sounds.mix"] = "rain:0.62,stream:0.28";
+        data.state.settings["sounds.volume"] = "0.52";
+        data.state.settings["sounds.sleepMinutes"] = "30";
+    };
+    const auto playing = [](App &app) {
+        app.setServices({.makeSoundMixer = [](QObject *parent) -> SoundMixer * {
+            return new SilentMixer{parent};
+        }});
+        app.panel()->setOpen(true);
+        app.sounds()->playOrPause();
+    };
+    return {tool("sounds", "sounds", mixed, playing),
+            tool("sounds-paused", "sounds", mixed, {}),
+            tool("sounds-none", "sounds", {}, playing)};
+}
+
 } // namespace
 
 std::vector<Shot> onlineShots()
 {
     std::vector<Shot> all = weatherShots();
-    for (const auto &more : {musicShots(), insightShots()}) {
+    for (const auto &more : {musicShots(), insightShots(), soundShots()}) {
         all.insert(all.end(), more.begin(), more.end());
     }
     return all;

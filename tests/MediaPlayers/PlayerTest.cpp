@@ -46,6 +46,40 @@ public:
 
 } // namespace
 
+TEST(Player, OnePlaybackIsShownOnceHoweverManyTellOfIt)
+{
+    const auto with = [](std::string name, std::string title, Status status, double position,
+                         std::string artist = "One") {
+        return Player{.name = std::move(name),
+                      .status = status,
+                      .title = std::move(title),
+                      .artist = std::move(artist),
+                      .position = position};
+    };
+    struct Case {
+        const char *name;
+        Player other;
+        bool isDouble;
+    };
+    const Player first = with("vlc", "Song", Status::playing, 30);
+    for (const auto &[name, other, isDouble] : {
+             Case{"a stand-in", with("standin", "Song", Status::playing, 31), true},
+             Case{"a browser tells no place",
+                  with("firefox.instance_1", "Song", Status::playing, 0), true},
+             Case{"elsewhere in it", with("mpd", "Song", Status::playing, 90), false},
+             Case{"another state", with("standin", "Song", Status::paused, 30), false},
+             Case{"another artist", with("standin", "Song", Status::playing, 30, "Two"), false},
+             Case{"another title", with("firefox", "Other", Status::playing, 30), false},
+         }) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(withoutDoubles({first, other}).size(), isDouble ? 1U : 2U);
+        EXPECT_EQ(withoutDoubles({first, other}).front(), first);
+    }
+    const Player silent = with("a", "", Status::stopped, 0, "");
+    const Player alsoSilent = with("b", "", Status::stopped, 0, "");
+    EXPECT_EQ(withoutDoubles({silent, alsoSilent}).size(), 2U); // nothing is no same thing
+}
+
 TEST(Player, IsBroughtIntoTheBoundsOfAPlayback)
 {
     constexpr double kNone = std::numeric_limits<double>::quiet_NaN();

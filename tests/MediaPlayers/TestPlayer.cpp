@@ -45,6 +45,9 @@ int control(sd_bus_message *message, void *data, sd_bus_error *error)
         state.track += member == "Next" ? 1 : -1;
         state.position = 0;
     }
+    sd_bus_emit_signal(sd_bus_message_get_bus(message), kPath,
+                       "org.freedesktop.DBus.Properties", "PropertiesChanged", "sa{sv}as",
+                       "org.mpris.MediaPlayer2.Player", 0, 1, "PlaybackStatus");
     return replyEmpty(message);
 }
 
