@@ -168,7 +168,8 @@ QRectF DockWindow::sensor() const
 }
 
 // On the screen, with the middle of the tab always in the middle along its edge: what was drawn
-// keeps its place there while the window grows.
+// keeps its place there while the window grows. Open, it has room for the panel beside any
+// slot, so that it stands still under the pointer that goes from one to the other.
 QRectF DockWindow::wanted() const
 {
     const bool isTabDrawn = m_dock.isTabShown() || m_surface->property("isTabDrawn").toBool();
@@ -181,13 +182,14 @@ QRectF DockWindow::wanted() const
     all.adjust(-around, -around, around, around);
     const QPointF middle = tab.center();
     const QSizeF screen = m_dock.screenSize();
+    const QSizeF room = isPanelDrawn() ? tab.size() + m_dock.panel().size() : tab.size();
     if (m_dock.edge() == QLatin1String{"bottom"}) {
-        const double half = std::max(middle.x() - all.left(), all.right() - middle.x());
+        const double half = room.width() / 2 + around;
         all.setLeft(middle.x() - half);
         all.setRight(middle.x() + half);
         all.setBottom(std::min(all.bottom(), screen.height()));
     } else {
-        const double half = std::max(middle.y() - all.top(), all.bottom() - middle.y());
+        const double half = room.height() / 2 + around;
         all.setTop(middle.y() - half);
         all.setBottom(middle.y() + half);
         all.setLeft(std::max(all.left(), 0.0));
@@ -252,8 +254,9 @@ void DockWindow::place()
     if (rect != geometry()) {
         setGeometry(rect);
         m_surface->setSize(rect.size());
+        m_surface->setProperty("origin", QPointF{onScreen.topLeft()});
+        tellPointer();
     }
-    m_surface->setProperty("origin", QPointF{onScreen.topLeft()});
     if (const QRegion region = outline(onScreen.topLeft()); region != m_outline) {
         m_outline = region;
         setWindowOutline(*this, region, m_hasCompositor);
@@ -261,6 +264,19 @@ void DockWindow::place()
     const bool isWanted = !m_driver.isSuppressed();
     if (isWanted != isVisible()) {
         setVisible(isWanted);
+    }
+}
+
+// The window has moved under the pointer, of which the server tells nothing: what is under it
+// now would be known only when it moves.
+void DockWindow::tellPointer()
+{
+    const QPoint at = QCursor::pos();
+    if (isVisible() && geometry().contains(at) &&
+        QGuiApplication::mouseButtons() == Qt::NoButton) {
+        QCoreApplication::postEvent(
+            this, new QMouseEvent{QEvent::MouseMove, at - position(), at, Qt::NoButton,
+                                  Qt::NoButton, QGuiApplication::keyboardModifiers()});
     }
 }
 

@@ -49,6 +49,7 @@ private:
     QRectF sensor() const;
     QRectF wanted() const;
     QRegion outline(const QPointF &origin) const;
+    void tellPointer();
     void takeKeyboard();
     void giveKeyboardBack();
     void readPointer(const QEvent &event);
