@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
 #include "Base/JsonWriter.h"
+#include "CalendarFiles/SourceCheck.h"
 #include "KestCore/Tools/CalendarSources.h"
 #include "cli/CalendarAnswers.h"
 #include "cli/PrayerText.h"
@@ -19,7 +20,6 @@ namespace
 {
 
 namespace chrono = std::chrono;
-namespace fs = std::filesystem;
 
 using CalendarFiles::AgendaDay;
 using CalendarFiles::CalendarLibrary;
@@ -38,20 +38,6 @@ struct Arguments {
     int days = 7;
     std::string path{};
 };
-
-// The path as it is kept: whole, and the same however it was typed.
-Result<std::string> wholePath(const std::string &typed)
-{
-    std::error_code error;
-    std::string path = fs::absolute(typed, error).lexically_normal().string();
-    if (error) {
-        return std::unexpected(Base::fileError(typed, error));
-    }
-    while (path.size() > 1 && path.ends_with('/')) {
-        path.pop_back();
-    }
-    return path;
-}
 
 std::vector<std::string> problemsOf(const CalendarLibrary &library)
 {
@@ -294,19 +280,6 @@ Result<void> printSources(const Console &console, const std::vector<std::string>
     });
 }
 
-// Only what is a calendar, or may come to hold some.
-Result<void> checkSource(const std::string &path)
-{
-    KEST_TRY(auto library, CalendarLibrary::open());
-    library.refresh({path});
-    const auto &report = library.reports().front();
-    std::error_code error;
-    if (!fs::is_directory(path, error) && !report.problems.empty()) {
-        return std::unexpected(KestError::invalidData(report.problems.front()));
-    }
-    return {};
-}
-
 using Change = Result<void>(KestCore::Settings &, std::string_view);
 
 Result<void> changeSources(const Session &session, const std::string &path, Change *change)
@@ -323,14 +296,14 @@ Result<void> changeSources(const Session &session, const std::string &path, Chan
 
 Result<void> runAdd(const Session &session, const Arguments &args)
 {
-    KEST_TRY(const std::string path, wholePath(args.path));
-    KEST_CHECK(checkSource(path));
+    KEST_TRY(const std::string path, CalendarFiles::wholePath(args.path));
+    KEST_CHECK(CalendarFiles::checkSource(path));
     return changeSources(session, path, KestCore::addCalendarSource);
 }
 
 Result<void> runRemove(const Session &session, const Arguments &args)
 {
-    KEST_TRY(const std::string path, wholePath(args.path));
+    KEST_TRY(const std::string path, CalendarFiles::wholePath(args.path));
     return changeSources(session, path, KestCore::removeCalendarSource);
 }
 

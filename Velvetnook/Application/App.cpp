@@ -160,9 +160,42 @@ ShelfViewModel *App::shelf()
     return m_shelf;
 }
 
-FilesViewModel *App::files() { return made(m_files); }
-LinksViewModel *App::links() { return made(m_links); }
-CalendarPageViewModel *App::calendar() { return made(m_calendar); }
+FilesViewModel *App::files()
+{
+    if (m_files == nullptr) {
+        connect(made(m_files), &FilesViewModel::changed, this,
+                [this](const QString &message, const std::function<void()> &undo) {
+                    panel()->showMessage(message, tr("Undo"), undo);
+                });
+        connect(m_files, &FilesViewModel::openWanted, this, &App::openWanted);
+        connect(m_files, &FilesViewModel::revealWanted, this, &App::revealWanted);
+    }
+    return m_files;
+}
+
+LinksViewModel *App::links()
+{
+    if (m_links == nullptr) {
+        connect(made(m_links), &LinksViewModel::changed, this,
+                [this](const QString &message, const std::function<void()> &undo) {
+                    panel()->showMessage(message, tr("Undo"), undo);
+                });
+        connect(m_links, &LinksViewModel::openWanted, this, &App::openWanted);
+    }
+    return m_links;
+}
+
+CalendarPageViewModel *App::calendar()
+{
+    if (m_calendar == nullptr) {
+        connect(made(m_calendar), &CalendarPageViewModel::told, this,
+                [this](const QString &message, const std::function<void()> &undo) {
+                    panel()->showMessage(message, tr("Undo"), undo);
+                });
+    }
+    return m_calendar;
+}
+
 WeatherViewModel *App::weather()
 {
     if (m_weather == nullptr) {

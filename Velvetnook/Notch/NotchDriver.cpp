@@ -7,6 +7,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/NotchChoices.h"
 #include "Velvetnook/Application/QtText.h"
+#include "Velvetnook/Application/ToolChoice.h"
 
 #include <algorithm>
 #include <cmath>
@@ -79,6 +80,12 @@ void NotchDriver::pointer(bool isInside, bool isPressed)
     m_isInside = isInside;
     m_isPressed = isPressed;
     observe();
+}
+
+void NotchDriver::drag(bool isInside)
+{
+    m_isDragComing = isInside && (m_isDragComing || !isOpen());
+    pointer(isInside, isInside && isOpen());
 }
 
 // While a dialog is open over the panel, or beside it, the pointer may be anywhere.
@@ -197,6 +204,9 @@ void NotchDriver::setTimer()
 void NotchDriver::announce()
 {
     const bool open = isOpen();
+    if (open && std::exchange(m_isDragComing, false) && isToolOn(m_model.state(), "shelf")) {
+        m_app.panel()->openTool(QStringLiteral("shelf"));
+    }
     m_app.panel()->setOpen(open);
     m_app.strip()->setPanelOpen(open);
     m_app.strip()->setVisible(m_notch.state == InteractionState::compact ||

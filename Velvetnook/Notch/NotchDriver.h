@@ -44,6 +44,9 @@ public:
 
     // One observation of the pointer; a drag counts as pressed.
     void pointer(bool isInside, bool isPressed);
+    // Something that is dragged comes in or goes: it opens a closed panel on the shelf, which
+    // is where it can be put down.
+    void drag(bool isInside);
     void open(bool isSticky);
     Q_INVOKABLE void close();
     void toggle();
@@ -79,6 +82,7 @@ private:
     QTimer m_timer;
     bool m_isInside = false;
     bool m_isPressed = false;
+    bool m_isDragComing = false; // over the closed notch
     bool m_isPrepared = false;
     bool m_wasOpen = false;
     bool m_isFullScreen = false;

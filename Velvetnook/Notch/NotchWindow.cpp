@@ -218,11 +218,14 @@ void NotchWindow::readPointer(const QEvent &event)
         break;
     }
     case QEvent::DragEnter:
-        m_driver.pointer(true, m_driver.isOpen()); // something dragged here opens it as well
+        m_driver.drag(true);
         break;
     case QEvent::DragLeave:
+        m_driver.drag(false);
+        break;
     case QEvent::Drop:
-        m_driver.pointer(event.type() == QEvent::Drop, false);
+        m_driver.drag(false);
+        m_driver.pointer(true, false);
         break;
     default:
         break;

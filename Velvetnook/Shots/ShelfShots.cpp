@@ -4,13 +4,17 @@
 #include "KestCore/Models/UtilityPayloads.h"
 #include "KestCore/Tools/RecordOrder.h"
 #include "Velvetnook/Application/App.h"
-#include "Velvetnook/Application/ViewModels/ShelfViewModel.h"
+#include "Velvetnook/Application/ViewModels/CalendarPageViewModel.h"
+#include "Velvetnook/Application/ViewModels/FilesViewModel.h"
+#include "Velvetnook/Application/ViewModels/LinksViewModel.h"
 #include "Velvetnook/Shots/Shot.h"
 
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QUrl>
 
 namespace Velvetnook
 {
@@ -108,6 +112,82 @@ void fillMixedShelf(ShotData &data)
         KestCore::ShelfItem{.text = "قائمة السوق\nتمر، زيت، عدس"});
 }
 
+void fillLinks(ShotData &data)
+{
+    add(data, "link", "Morning remembrance",
+        KestCore::SavedLink{.url = "https://example.org/morning"});
+    add(data, "link", "Before travel",
+        KestCore::SavedLink{.url = "https://example.com/travel"});
+    add(data, "link", "After the prayer",
+        KestCore::SavedLink{.url = "https://example.net/after"});
+}
+
+// The list of the desktop's programs stands where this says.
+void writeRecentFiles(const QByteArray &bookmarks)
+{
+    qputenv("XDG_DATA_HOME", pathOf("data").toUtf8());
+    QDir{}.mkpath(pathOf("data"));
+    QFile list{pathOf("data/recently-used.xbel")};
+    if (list.open(QIODevice::WriteOnly)) {
+        list.write("<xbel version=\"1.0\">" + bookmarks + "</xbel>");
+    }
+}
+
+void forgetFiles(ShotData & /*data*/) { writeRecentFiles({}); }
+
+void fillFiles(ShotData &data)
+{
+    fillShelf(data);
+    data.records.clear();
+    QByteArray bookmarks;
+    int hour = 12;
+    for (const char *name :
+         {"harbour.jpg", "plan-v3.odt", "invoice-october.pdf", "notes.tar.gz"}) {
+        bookmarks += "<bookmark href=\"" + QUrl::fromLocalFile(pathOf(name)).toEncoded() +
+                     "\" visited=\"2025-11-14T" + QByteArray::number(hour--) + ":41:00Z\"/>";
+    }
+    writeRecentFiles(bookmarks);
+    add(data, "file", "plan-v3.odt",
+        KestCore::FileItem{.path = pathOf("plan-v3.odt").toStdString(), .pinned = true});
+    add(data, "file", "data",
+        KestCore::FileItem{.path = pathOf("data").toStdString(), .pinned = true});
+    add(data, "file", "letter.txt",
+        KestCore::FileItem{.path = "/nowhere/letter.txt", .pinned = true});
+}
+
+QByteArray eventText(const char *start, const char *end, const char *title, const char *place)
+{
+    static int count = 0;
+    return QByteArray{"BEGIN:VEVENT\r\nUID:shot-"} + QByteArray::number(++count) +
+           "\r\nDTSTART:20251114T" + start + "\r\nDTEND:20251114T" + end +
+           "\r\nSUMMARY:" + title + "\r\nLOCATION:" + place + "\r\nEND:VEVENT\r\n";
+}
+
+std::string calendarOf(const char *name, const QByteArray &events)
+{
+    QFile file{pathOf(name)};
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write("BEGIN:VCALENDAR\r\nVERSION:2.0\r\n" + events + "END:VCALENDAR\r\n");
+    }
+    return file.fileName().toStdString();
+}
+
+void fillCalendar(ShotData &data)
+{
+    data.state.settings["calendar.sources"] =
+        calendarOf("home.ics", eventText("121500", "131500", "Jumuʿah", "Central Mosque") +
+                                   eventText("183000", "200000", "Dinner at Yusuf’s", "")) +
+        "\n" +
+        calendarOf("work.ics", eventText("100000", "110000", "Design review", "Room 4") +
+                                   eventText("150000", "153000", "Call with Amina", ""));
+}
+
+void breakCalendar(ShotData &data)
+{
+    fillCalendar(data);
+    data.state.settings["calendar.sources"] += "\n" + fileOf("broken.ics", 40);
+}
+
 } // namespace
 
 std::vector<Shot> shelfShots()
@@ -116,6 +196,17 @@ std::vector<Shot> shelfShots()
         tool("shelf", "shelf", fillShelf),
         tool("shelf-mixed", "shelf", fillMixedShelf),
         tool("shelf-empty", "shelf"),
+        tool("links", "links", fillLinks),
+        tool("links-empty", "links"),
+        tool("files", "files", fillFiles),
+        tool("files-pinned", "files", fillFiles,
+             [](App &app) { app.files()->setSection(QStringLiteral("pinned")); }),
+        tool("files-empty", "files", forgetFiles),
+        tool("calendar", "calendar", fillCalendar),
+        tool("calendar-none", "calendar"),
+        tool("calendar-broken", "calendar", breakCalendar),
+        tool("calendar-six-weeks", "calendar", fillCalendar,
+             [](App &app) { app.calendar()->moveMonths(-3); }),
     };
 }
 

@@ -81,7 +81,10 @@ FocusScope {
         anchors.margins: 16
         anchors.bottomMargin: 38
         visible: root.words !== ""
+        contentHeight: text.implicitHeight
         Txt {
+            id: text
+
             width: body.width
             wrapMode: Text.Wrap
             text: root.words

@@ -66,7 +66,7 @@ Rectangle {
     }
     Txt {
         anchors.fill: parent
-        anchors.margins: 8
+        anchors.margins: 7
         visible: root.words !== "" && !root.small
         role: "caption"
         lineHeight: 13

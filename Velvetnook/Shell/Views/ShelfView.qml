@@ -80,7 +80,7 @@ FocusScope {
         activeFocusOnTab: true
         keyNavigationEnabled: true
         interactive: false // a card that is pulled goes to another program
-        clip: contentHeight > height
+        clip: contentHeight + bottomMargin > height
         cellWidth: 153
         cellHeight: 144
         model: root.model.list
@@ -104,6 +104,7 @@ FocusScope {
             width: 153
             height: 144
             ShelfCard {
+                x: LayoutMirroring.enabled ? 12 : 0
                 width: 141
                 height: 132
                 shelfId: cell.shelfId
@@ -130,19 +131,20 @@ FocusScope {
                 }
             }
         }
-        footer: Item {
-            width: grid.width
+        bottomMargin: 76
+
+        ShelfDropZone {
+            parent: grid.contentItem
+            x: LayoutMirroring.enabled ? 12 : 0
+            y: grid.contentHeight
+            width: 600
             height: 76
-            ShelfDropZone {
-                width: 600
-                height: 76
-                isTarget: drop.containsDrag
-            }
+            isTarget: drop.containsDrag
         }
     }
     WheelHandler {
         onWheel: event => {
-            const room = Math.max(0, grid.contentHeight - grid.height);
+            const room = Math.max(0, grid.contentHeight + grid.bottomMargin - grid.height);
             grid.contentY = Math.max(0, Math.min(room, grid.contentY - event.angleDelta.y / 2));
         }
     }

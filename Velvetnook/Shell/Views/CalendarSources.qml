@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Velvetnook developers
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Dialogs
+import Velvetnook.Application
+import Velvetnook.Shell
+
+// The files and folders that the calendar reads.
+FocusScope {
+    id: root
+
+    readonly property QtObject model: App.calendar
+
+    signal left
+
+    function begin() {
+        model.dropRefusal();
+        field.text = "";
+        field.forceActiveFocus();
+    }
+    function add() {
+        if (field.text.trim() !== "") {
+            model.addSource(field.text);
+        }
+    }
+    function ask(dialog) {
+        App.panel.beginDialog();
+        dialog.open();
+    }
+
+    Keys.onEscapePressed: left()
+
+    IconButton {
+        id: back
+
+        anchors.left: parent.left
+        anchors.leftMargin: -6
+        size: 30
+        iconName: "left"
+        name: qsTr("Back to the day")
+        keyHint: "Esc"
+        onClicked: root.left()
+    }
+    Txt {
+        anchors.left: back.right
+        anchors.leftMargin: 2
+        height: 30
+        role: "strong"
+        verticalAlignment: Text.AlignVCenter
+        text: qsTr("Your calendars")
+    }
+    Row {
+        anchors.right: parent.right
+        spacing: 4
+        SecondaryButton {
+            small: true
+            text: qsTr("File…")
+            onClicked: root.ask(file)
+        }
+        SecondaryButton {
+            small: true
+            text: qsTr("Folder…")
+            onClicked: root.ask(folder)
+        }
+    }
+    Field {
+        id: field
+
+        y: 38
+        width: parent.width
+        focus: true
+        iconName: "plus"
+        hint: qsTr("Write a path, or drop a file here")
+        error: root.model.refusal
+        readOnly: root.model.isAdding
+        onEdited: root.model.dropRefusal()
+        onAccepted: root.add()
+    }
+    ListView {
+        id: rows
+
+        y: 38 + field.implicitHeight + 6
+        width: parent.width
+        height: parent.height - y
+        activeFocusOnTab: true
+        clip: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        model: root.model.sources
+        Keys.onDeletePressed: if (currentItem) { root.model.removeSource(currentItem.path); }
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Your calendars")
+
+        delegate: ListRow {
+            id: row
+
+            required title
+            required note
+            required property int index
+            required property string path
+            required property string problem
+
+            width: ListView.view.width
+            height: problem === "" ? 44 : 60
+            leftPadding: 8
+            rightPadding: 4
+            iconName: "calendar"
+            selected: ListView.isCurrentItem && rows.activeFocus
+            focusPolicy: Qt.NoFocus
+            bottomPadding: problem === "" ? 0 : 18
+            onClicked: {
+                rows.currentIndex = index;
+                rows.forceActiveFocus();
+            }
+            IconButton {
+                size: 28
+                iconSize: 15
+                iconName: "x"
+                name: qsTr("Take %1 off the list").arg(row.title)
+                tip: qsTr("Take off the list")
+                keyHint: qsTr("Del")
+                onClicked: root.model.removeSource(row.path)
+            }
+            Txt {
+                parent: row
+                visible: row.problem !== ""
+                anchors.left: parent.left
+                anchors.leftMargin: 36
+                anchors.right: parent.right
+                anchors.rightMargin: 8
+                y: 41
+                role: "caption"
+                horizontalAlignment: Text.AlignLeft
+                color: Theme.color.warn
+                text: row.problem
+            }
+        }
+    }
+    Connections {
+        target: root.model
+        function onAdded() { field.text = ""; }
+    }
+    FileDialog {
+        id: file
+
+        title: qsTr("Add a calendar file")
+        nameFilters: [qsTr("Calendars (*.ics)"), qsTr("All files (*)")]
+        onAccepted: root.model.addSourceUrl(selectedFile)
+        onVisibleChanged: if (!visible) { App.panel.endDialog(); }
+    }
+    FolderDialog {
+        id: folder
+
+        title: qsTr("Add a folder of calendars")
+        onAccepted: root.model.addSourceUrl(selectedFolder)
+        onVisibleChanged: if (!visible) { App.panel.endDialog(); }
+    }
+}
