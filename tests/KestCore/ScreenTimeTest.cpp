@@ -187,7 +187,8 @@ TEST(ScreenTimeTotals, KeepOneRecordADayAndApplication)
              {piece(kEditor, today, 30min), piece(kMail, today - 1, 2h)},
              {piece(kEditor, today, 10min), piece(kMail, today, 60min)},
              {piece(kMail, today - 7, 20min)}}) {
-        stored = merged(std::move(stored), usageChanges(stored, pieces, today, now));
+        auto changes = usageChanges(stored, pieces, today, now);
+        stored = merged(std::move(stored), std::move(changes));
     }
     EXPECT_EQ(stored.size(), 4U);
     for (const LocalRecord &record : stored) {
