@@ -103,6 +103,10 @@
         <source>Connect %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Not connected. You see the change of %1 first.</source>
+        <translation>غير مربوط. ترى تغيير %1 أولًا.</translation>
+    </message>
 </context>
 <context>
     <name>AssistantConnectionsPage</name>

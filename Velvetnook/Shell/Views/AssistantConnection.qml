@@ -19,7 +19,7 @@ SettingsRow {
         : isOurs ? qsTr("Connected in %1").arg(modelData.file)
         : isPart ? qsTr("Connected in part in %1").arg(modelData.file)
         : modelData.state === "missing" ? qsTr("Not on this computer")
-        : qsTr("Not connected. %1 would be changed, once you have seen how.").arg(modelData.file)
+        : qsTr("Not connected. You see the change of %1 first.").arg(modelData.file)
 
     SecondaryButton {
         visible: root.isOurs || root.isPart

@@ -26,6 +26,7 @@ FocusScope {
                 IconButton {
                     id: goBack
 
+                    anchors.left: parent.left
                     size: 30
                     iconName: "left"
                     name: qsTr("Back")

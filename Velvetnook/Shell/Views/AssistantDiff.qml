@@ -42,7 +42,7 @@ ListView {
 
             x: 8
             width: parent.width - 16
-            font.family: "Noto Sans Mono"
+            font.family: "monospace"
             font.pixelSize: 12
             font.hintingPreference: Font.PreferNoHinting
             lineHeight: 18

@@ -18,12 +18,25 @@ FocusScope {
     readonly property var footerKeys: connections.isOpen ? [{key: qsTr("Esc"), text: qsTr("back")}] : []
     readonly property Item mainItem: page.item
 
+    property bool isWatching: false
+    property bool isTurning: false
+
     signal footerLinkClicked
 
-    onFooterLinkClicked: connections.open()
-    onIsSeenChanged: isSeen ? model.enter() : model.leave()
-    Component.onCompleted: if (isSeen) { model.enter(); }
-    Component.onDestruction: model.leave()
+    function watch(wanted) {
+        if (wanted !== isWatching) {
+            isWatching = wanted;
+            wanted ? model.enter() : model.leave();
+        }
+    }
+
+    onFooterLinkClicked: {
+        isTurning = true; // the link, which had the focus, goes
+        connections.open();
+    }
+    onIsSeenChanged: watch(isSeen)
+    Component.onCompleted: watch(isSeen)
+    Component.onDestruction: watch(false)
 
     implicitWidth: 600
     implicitHeight: 220
@@ -58,7 +71,8 @@ FocusScope {
         // The page that was left had the focus.
         onLoaded: {
             item.focus = true;
-            if (root.activeFocus) {
+            if (root.activeFocus || root.isTurning) {
+                root.isTurning = false;
                 item.forceActiveFocus(Qt.OtherFocusReason);
             }
         }
@@ -89,7 +103,7 @@ FocusScope {
             availability: root.model.availability
             iconName: isLoading ? "" : "claude"
             message: isLoading ? qsTr("Reading the logs…")
-                               : qsTr("No coding assistant has left logs here this week.")
+                               : qsTr("No logs of coding assistants this week")
             note: isLoading ? "" : qsTr("Claude Code and Codex are read from their own logs. Claude Code and Cursor can be connected.")
             primaryText: isLoading ? "" : qsTr("Connect…")
             onPrimary: root.connections.open()

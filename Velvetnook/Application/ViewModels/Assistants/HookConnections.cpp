@@ -124,9 +124,10 @@ QVariantList HookConnections::tools() const
                         {QStringLiteral("state"),
                          QLatin1String{kStates.at(static_cast<std::size_t>(each.state))}},
                         {QStringLiteral("note"), each.note},
+                        // By itself in a sentence of any direction.
                         {QStringLiteral("file"),
-                         QStringLiteral("~/%1/%2").arg(fromView(each.tool->folder),
-                                                       fromView(each.tool->file))}});
+                         QStringLiteral("\u2066~/%1/%2\u2069")
+                             .arg(fromView(each.tool->folder), fromView(each.tool->file))}});
     }
     return list;
 }
@@ -218,7 +219,8 @@ void HookConnections::write()
                          return;
                      }
                      const QString kept =
-                         *copy ? QString::fromStdString((*copy)->string()) : QString{};
+                         *copy ? QString::fromStdString((*copy)->filename().string())
+                               : QString{};
                      emit written(toolTitle(), isConnecting(), kept);
                      cancel();
                      look();

@@ -21,7 +21,7 @@ namespace Velvetnook
 class HookConnections : public QObject
 {
     Q_OBJECT
-    // [{tool, title, state: "connected" "partial" "off" "missing" "error", note}]
+    // [{tool, title, state: "connected" "partial" "off" "missing" "error", note, file}]
     Q_PROPERTY(QVariantList tools READ tools NOTIFY changed)
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY planChanged)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
@@ -58,7 +58,7 @@ public:
 signals:
     void changed();
     void planChanged();
-    // `copy` is the file as it was, or empty where there was none.
+    // `copy` is the name under which the old file lies beside it; empty where there was none.
     void written(const QString &title, bool isConnected, const QString &copy);
 
 private:
