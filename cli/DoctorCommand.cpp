@@ -7,6 +7,7 @@
 #include "KestCore/Devotional/Content.h"
 #include "KestCore/Registry/ToolRegistry.h"
 #include "KestCore/Resources.h"
+#include "KestCore/Store/StoreLocation.h"
 #include "SecretService/SecretService.h"
 #include "cli/Answers.h"
 #include "cli/Session.h"
@@ -18,7 +19,6 @@
 
 #include <algorithm>
 #include <clocale>
-#include <cstdlib>
 #include <filesystem>
 
 // What works on this machine and what does not, each with the way out.
@@ -190,13 +190,13 @@ Finding checkUpdates(const Session &session)
 // Whether the hooks of the assistants that are here tell the application of their work.
 std::vector<Finding> checkAssistants()
 {
-    const char *const home = std::getenv("HOME");
+    const fs::path home = KestCore::homeDirectory();
     std::vector<Finding> findings;
     for (const auto &tool : Assistants::hookTools()) {
-        const auto plan = Assistants::planHooks(tool, Assistants::HookChange::connect,
-                                                home == nullptr ? "/" : home, "kest");
+        const auto plan =
+            Assistants::planHooks(tool, Assistants::HookChange::connect, home, "kest");
         std::error_code error;
-        if (home == nullptr || !fs::is_directory(fs::path{home} / tool.folder, error)) {
+        if (!fs::is_directory(home / tool.folder, error)) {
             continue;
         }
         Finding finding{.check = std::string{tool.title}, .state = State::full};

@@ -490,6 +490,58 @@
         <source>%1 finished.</source>
         <translation>انتهى: %1</translation>
     </message>
+    <message>
+        <source>The system&apos;s package manager installed Velvetnook and updates it</source>
+        <translation>ثبّت مدير حزم النظام Velvetnook وهو يحدّثه</translation>
+    </message>
+    <message>
+        <source>A development build does not look for updates</source>
+        <translation>لا يبحث إصدار التطوير عن تحديثات</translation>
+    </message>
+    <message>
+        <source>This build has no updates</source>
+        <translation>ليس لهذا الإصدار تحديثات</translation>
+    </message>
+    <message>
+        <source>The server of updates did not answer. Please try again tomorrow.</source>
+        <translation>لم يجب خادم التحديثات. حاول غدًا.</translation>
+    </message>
+    <message>
+        <source>What was sent is no signed feed</source>
+        <translation>ما أُرسل ليس بيانًا موقّعًا</translation>
+    </message>
+    <message>
+        <source>The signature of the feed does not hold</source>
+        <translation>توقيع البيان لا يصح</translation>
+    </message>
+    <message>
+        <source>The feed is signed, but says what it must not</source>
+        <translation>البيان موقّع، لكنه يقول ما لا يجوز</translation>
+    </message>
+    <message>
+        <source>The feed is not meant for this build</source>
+        <translation>ليس البيان لهذا الإصدار</translation>
+    </message>
+    <message>
+        <source>The feed is older than one that was seen already</source>
+        <translation>البيان أقدم من بيان سبقت رؤيته</translation>
+    </message>
+    <message>
+        <source>%1: It is no file of your own</source>
+        <translation>الملف %1 ليس ملفك</translation>
+    </message>
+    <message>
+        <source>%1: It is larger than a megabyte</source>
+        <translation>الملف %1 أكبر من ميغابايت</translation>
+    </message>
+    <message>
+        <source>%1: It has changed just now; try again</source>
+        <translation>تغيّر %1 للتو؛ حاول ثانية</translation>
+    </message>
+    <message>
+        <source>%1: It is not written as strict JSON. Nothing was changed</source>
+        <translation>ليس %1 مكتوبًا بصيغة JSON صحيحة. لم يُغيَّر شيء</translation>
+    </message>
 </context>
 <context>
     <name>EventGroup</name>
@@ -2240,6 +2292,7 @@
         <source>%1 is waiting for you</source>
         <comment>Claude Code</comment>
         <translation type="unfinished"></translation>
+        <translation>ينتظرك %1</translation>
     </message>
 </context>
 <context>
@@ -3167,6 +3220,7 @@
         <source>%1 · waiting for your answer</source>
         <comment>a folder</comment>
         <translation type="unfinished"></translation>
+        <translation>‏%1 · ينتظر جوابك</translation>
     </message>
     <message>
         <source>just now</source>
@@ -3473,6 +3527,11 @@
     <message>
         <source>Another program has %1. Choose another key, or bind one to “%2” in the desktop&apos;s keyboard settings.</source>
         <translation type="unfinished"></translation>
+        <translation>صار %1 لاختصار آخر. اختر غيره.</translation>
+    </message>
+    <message>
+        <source>Another program has %1. Choose another key, or bind one to “%2” in the desktop&apos;s keyboard settings.</source>
+        <translation>صار %1 لبرنامج آخر. اختر مفتاحًا آخر، أو اربط واحدًا بالأمر «%2» في إعدادات لوحة المفاتيح لسطح المكتب.</translation>
     </message>
 </context>
 <context>
@@ -4295,6 +4354,7 @@
         <source>%1 opens %2 already.</source>
         <comment>Ctrl+K, Notes</comment>
         <translation type="unfinished"></translation>
+        <translation>الاختصار %1 يفتح %2.</translation>
     </message>
 </context>
 <context>

@@ -51,7 +51,6 @@ public:
 
     // Null before `begin`.
     LoginPower *power() { return m_power; }
-    CapabilityList &capabilities() { return *m_capabilities; }
 
 signals:
     void lookChanged(bool isDark, bool reducesMotion, bool wantsContrast);

@@ -190,10 +190,11 @@ TEST_F(DesktopTest, TheCapabilitiesAreAskedWhenSomebodyLooks)
 {
     begin();
     settle(m_bus.connect());
-    EXPECT_EQ(m_desktop->capabilities().rowCount(), 0);
+    const QAbstractItemModel *const list = m_app.settings()->about()->capabilities();
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(list->rowCount(), 0);
     m_app.settings()->open(QStringLiteral("about"));
-    EXPECT_TRUE(eventually([&] { return m_desktop->capabilities().rowCount() > 0; }));
-    EXPECT_EQ(m_app.settings()->about()->capabilities(), &m_desktop->capabilities());
+    EXPECT_TRUE(eventually([&] { return list->rowCount() > 0; }));
 }
 
 } // namespace

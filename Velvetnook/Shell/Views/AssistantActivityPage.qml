@@ -11,11 +11,14 @@ ScrollBody {
 
     readonly property int columns: Math.max(2, Math.min(3, cards.count))
 
+    contentHeight: content.height
     activeFocusOnTab: interactive
     Keys.onUpPressed: contentY = Math.max(0, contentY - 36)
     Keys.onDownPressed: contentY = Math.max(0, Math.min(contentHeight - height, contentY + 36))
 
     Column {
+        id: content
+
         width: root.width
         spacing: 8
 

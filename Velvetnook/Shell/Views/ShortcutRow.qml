@@ -23,7 +23,6 @@ SettingsRow {
         visible: !root.isRecording
         anchors.verticalCenter: parent.verticalCenter
         spacing: 4
-        LayoutMirroring.enabled: false // keys are read as they are pressed
         Repeater {
             model: root.modelData.keys
             delegate: KeyCap {

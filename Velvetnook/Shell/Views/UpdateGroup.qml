@@ -29,7 +29,7 @@ SettingsGroup {
     SettingsRow {
         visible: root.updates.isPossible
         title: qsTr("Look for a newer version")
-        note: qsTr("Asks the maker's server once a day. Nothing but the version of this program is told to it.")
+        note: qsTr("Asks the maker’s server once a day. Nothing but the version of this program is told to it.")
         Toggle {
             name: qsTr("Look for a newer version")
             checked: root.updates.isAllowed
