@@ -30,6 +30,15 @@ constexpr std::string_view kPasswordHint = "x-kde-passwordManagerHint";
 constexpr std::string_view kPasswordHintValue = "secret";
 constexpr std::string_view kAlwaysExcluded = "com.agilebits.onepassword";
 
+// A program writes its own name one way, who types it another.
+bool isSameName(std::string_view one, std::string_view other)
+{
+    const auto lower = [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+    };
+    return std::ranges::equal(one, other, {}, lower, lower);
+}
+
 std::unexpected<KestError> refuse(const char *message)
 {
     return std::unexpected(KestError::invalidData(message));
@@ -105,9 +114,10 @@ bool ClipboardReader::isExcluded(const ClipboardSettings &settings)
         return true;
     }
     const auto owner = m_pasteboard.ownerApplication();
-    return owner &&
-           (*owner == kAlwaysExcluded ||
-            std::ranges::find(settings.exclusions, *owner) != settings.exclusions.end());
+    return owner && (*owner == kAlwaysExcluded ||
+                     std::ranges::any_of(settings.exclusions, [&](const std::string &name) {
+                         return isSameName(name, *owner);
+                     }));
 }
 
 Result<void> ClipboardReader::take(std::optional<ClipboardPayload> &payload)

@@ -106,7 +106,19 @@ NotesViewModel *App::notes()
     return m_notes;
 }
 
-SettingsViewModel *App::settings() { return made(m_settings); }
+SettingsViewModel *App::settings()
+{
+    if (m_settings == nullptr) {
+        made(m_settings);
+        m_settings->clipboard()->setApplications([this] {
+            const auto &desktop = clipboard()->desktop();
+            return desktop.applications ? desktop.applications() : QStringList{};
+        });
+        connect(m_settings->clipboard(), &ClipboardPage::clearWanted, this,
+                [this] { clipboard()->clear(); });
+    }
+    return m_settings;
+}
 OnboardingViewModel *App::onboarding() { return made(m_onboarding); }
 PaletteViewModel *App::palette()
 {

@@ -51,6 +51,10 @@ constexpr std::array kPages{
                    QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Tools"),
                    QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel",
                                      "order favourites favorites tabs header")},
+    PageOfSettings{"clipboard", "clipboard", 2,
+                   QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Clipboard"),
+                   QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel",
+                                     "copy paste history password exclude days limit")},
     PageOfSettings{
         "data", "database", 3,
         QT_TRANSLATE_NOOP("Velvetnook::SettingsViewModel", "Data & backup"),

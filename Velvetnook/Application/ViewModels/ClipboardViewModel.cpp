@@ -95,6 +95,14 @@ bool ClipboardViewModel::pastes() const
 
 void ClipboardViewModel::follow()
 {
+    if (m_isClearing && !m_keyring.isOpening()) {
+        m_isClearing = false;
+        if (m_keyring.isReady()) {
+            clear();
+        } else {
+            m_model.say(m_keyring.message());
+        }
+    }
     if (m_isShown && !m_keyring.isOpening()) {
         reload();
     }
@@ -379,8 +387,14 @@ void ClipboardViewModel::restore()
         });
 }
 
+// The settings may ask for it before anybody has looked at the history.
 void ClipboardViewModel::clear()
 {
+    m_isClearing = !m_keyring.isReady();
+    if (m_isClearing) {
+        m_keyring.want(true);
+        return;
+    }
     performAndTell([](ClipboardHistory &history) { return history.clear(); });
 }
 

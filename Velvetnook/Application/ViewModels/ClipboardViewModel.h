@@ -130,6 +130,7 @@ private:
     std::map<QString, ClipboardDetail> m_details;
     std::vector<QString> m_lookedAt; // the oldest first
     std::shared_ptr<KestCore::RecordChanges> m_removed;
+    bool m_isClearing = false; // once the key is there
     QTimer m_forget; // what was removed
     QTimer m_typing;
 };

@@ -30,8 +30,8 @@ SettingsViewModel::SettingsViewModel(ApplicationModel &model, const Formatting &
                                      QObject *parent)
     : QObject{parent}, m_general{model, formatting}, m_appearance{model, formatting},
       m_notch{model, formatting}, m_dock{model, formatting}, m_place{model, formatting},
-      m_prayer{model, formatting}, m_tools{model}, m_data{model, formatting},
-      m_shortcuts{model, formatting}, m_about{model, formatting},
+      m_prayer{model, formatting}, m_tools{model}, m_clipboard{model, formatting},
+      m_data{model, formatting}, m_shortcuts{model, formatting}, m_about{model, formatting},
       m_page{QStringLiteral("general")}
 {
     connect(&formatting, &Formatting::wordsChanged, this, [this] {

@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/ViewModels/Settings/AboutSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/AppearanceSettings.h"
+#include "Velvetnook/Application/ViewModels/Settings/ClipboardPage.h"
 #include "Velvetnook/Application/ViewModels/Settings/DataSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/DockSettings.h"
 #include "Velvetnook/Application/ViewModels/Settings/GeneralSettings.h"
@@ -26,6 +27,7 @@ class SettingsViewModel : public QObject
     Q_PROPERTY(Velvetnook::DockSettings *dock READ dock CONSTANT)
     Q_PROPERTY(Velvetnook::PlaceSettings *place READ place CONSTANT)
     Q_PROPERTY(Velvetnook::PrayerSettings *prayer READ prayer CONSTANT)
+    Q_PROPERTY(Velvetnook::ClipboardPage *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Velvetnook::ToolSettings *tools READ tools CONSTANT)
     Q_PROPERTY(Velvetnook::DataSettings *data READ data CONSTANT)
     Q_PROPERTY(Velvetnook::ShortcutSettings *shortcuts READ shortcuts CONSTANT)
@@ -49,6 +51,7 @@ public:
     PlaceSettings *place() { return &m_place; }
     PrayerSettings *prayer() { return &m_prayer; }
     ToolSettings *tools() { return &m_tools; }
+    ClipboardPage *clipboard() { return &m_clipboard; }
     DataSettings *data() { return &m_data; }
     ShortcutSettings *shortcuts() { return &m_shortcuts; }
     AboutSettings *about() { return &m_about; }
@@ -81,6 +84,7 @@ private:
     PlaceSettings m_place;
     PrayerSettings m_prayer;
     ToolSettings m_tools;
+    ClipboardPage m_clipboard;
     DataSettings m_data;
     ShortcutSettings m_shortcuts;
     AboutSettings m_about;

@@ -5,6 +5,8 @@
 #include "Velvetnook/Application/Clipboard/ClipboardDesktop.h"
 #include "Velvetnook/Platform/Linux/XSelection.h"
 
+#include <span>
+
 namespace Velvetnook
 {
 

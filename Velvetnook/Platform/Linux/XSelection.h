@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Json.h"
 #include "Base/Result.h"
 #include "Velvetnook/Platform/Xcb.h"
 

@@ -19,7 +19,8 @@ Rectangle {
                                    notch: "SettingsNotch", dock: "SettingsDock",
                                    shortcuts: "SettingsShortcuts",
                                    reminders: "SettingsReminders", prayer: "SettingsPrayer",
-                                   tools: "SettingsTools", data: "SettingsData",
+                                   tools: "SettingsTools", clipboard: "SettingsClipboard",
+                                   data: "SettingsData",
                                    about: "SettingsAbout"})
 
     objectName: "surface"

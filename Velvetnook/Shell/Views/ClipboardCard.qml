@@ -88,7 +88,7 @@ Item {
             wrapMode: root.whole ? Text.Wrap : Text.NoWrap
             elide: Text.ElideRight
             maximumLineCount: root.whole ? 2 : 1
-            font.family: root.code ? "Noto Sans Mono" : Theme.familyOf(role)
+            font.family: root.code ? "monospace" : Theme.familyOf(role)
             horizontalAlignment: Text.AlignLeft
             text: root.title
             Accessible.ignored: true
