@@ -57,8 +57,10 @@ ClipboardPayload clipboardTextPayload(std::string text)
             .text = std::move(text)};
 }
 
-ClipboardReader::ClipboardReader(Pasteboard &pasteboard, ImageCodec *codec)
-    : m_pasteboard(pasteboard), m_codec(codec), m_seenChange(pasteboard.changeCount())
+ClipboardReader::ClipboardReader(Pasteboard &pasteboard, ImageCodec *codec,
+                                 std::optional<std::int64_t> seenChange)
+    : m_pasteboard(pasteboard), m_codec(codec),
+      m_seenChange(seenChange ? *seenChange : pasteboard.changeCount())
 {
 }
 

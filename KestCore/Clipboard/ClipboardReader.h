@@ -18,8 +18,7 @@ ClipboardPayload clipboardTextPayload(std::string text);
 
 // Looks at what was copied and reads what may be kept. Knows neither the store nor the key, so
 // that nobody else waits while it waits for a slow application: lives where its pasteboard
-// does. What is on the clipboard when it comes into being is not kept, nor what is copied while
-// recording is off.
+// does. What is copied while recording is off is not kept.
 class ClipboardReader
 {
 public:
@@ -36,8 +35,10 @@ public:
         std::optional<ClipboardPayload> content{}; // the caller wipes it
     };
 
-    // Without a codec images are kept as they are, without a preview.
-    explicit ClipboardReader(Pasteboard &pasteboard, ImageCodec *codec = nullptr);
+    // Without a codec images are kept as they are, without a preview. What was copied up to
+    // this change is not read; the present one where none is given.
+    explicit ClipboardReader(Pasteboard &pasteboard, ImageCodec *codec = nullptr,
+                             std::optional<std::int64_t> seenChange = {});
 
     // An error is about this copy only: the next call waits for another.
     [[nodiscard]] Result<Reading> read(const ClipboardSettings &settings);

@@ -265,6 +265,15 @@ std::vector<Shot> clipboardShots()
         clipboard("clipboard-locked", fill, {}, locked),
         clipboard("clipboard-no-keyring", fill, {}, none),
         clipboard("clipboard-damaged", fill, {}, broken),
+        {.name = QStringLiteral("settings-clipboard"),
+         .surface = QStringLiteral("Settings"),
+         .view = QStringLiteral("clipboard"),
+         .prepare =
+             [](ShotData &data) {
+                 turnOn(data);
+                 data.state.settings["clipboard.exclusions"] = "KeePassXC,Signal";
+             },
+         .arrange = [](App &app) { app.clipboard()->setDesktop(quietDesktop()); }},
         emoji("emoji", useEmoji),
         emoji("emoji-first"),
         emoji(

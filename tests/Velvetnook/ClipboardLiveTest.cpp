@@ -11,8 +11,12 @@
 #include <QBuffer>
 #include <QTest>
 
+#include <gmock/gmock.h>
+
+#include <atomic>
 #include <fstream>
-#include <latch>
+#include <map>
+#include <mutex>
 
 // What is copied by other programs on a real X server, and what becomes of it.
 namespace Velvetnook
@@ -39,7 +43,7 @@ struct TestKeyring {
     std::map<std::string, Base::SecretBytes> kept{};
     std::optional<Failure::Kind> failure{};
     bool unlocksWhenAsked = false;
-    int opened = 0;
+    std::atomic<int> opened = 0;
 
     class Store : public Base::SecretStore
     {
@@ -388,9 +392,13 @@ TEST_F(ClipboardLiveTest, TellsHowTheKeyringStands)
             [&] { return tool->availability() == QLatin1String{availability}; }));
         EXPECT_EQ(tool->message(), QStringLiteral("The keyring says no"));
         EXPECT_FALSE(tool->primaryText().isEmpty());
-        const int before = peer.requests();
+        running.pass(Base::Seconds{60}); // the keyring is not asked all the time
+        const int before = keyring.opened;
         peer.copyText("not sealed"); // and so not kept
-        EXPECT_TRUE(RunningModel::waitUntil([&] { return peer.requests() > before; }));
+        EXPECT_TRUE(RunningModel::waitUntil([&] {
+            return keyring.opened > before &&
+                   tool->availability() == QLatin1String{availability};
+        }));
     }
     keyring.unlocksWhenAsked = true;
     tool->takeStep();

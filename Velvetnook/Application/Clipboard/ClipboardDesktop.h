@@ -14,7 +14,8 @@ namespace Velvetnook
 {
 
 // The system's clipboard, watched from a thread of its own: asking it may take seconds. What is
-// asked is done there, one after the other. Its end breaks off what waits for an application.
+// asked is done there, one after the other; the changes are counted from 0. Its end breaks off
+// what waits for an application.
 class ClipboardWatch
 {
 public:

@@ -95,7 +95,7 @@ void ClipboardRecorder::begin()
     if (m_watch != nullptr) {
         m_side = std::make_shared<Side>();
         m_watch->ask([side = m_side](KestCore::Pasteboard &pasteboard) {
-            side->reader.emplace(pasteboard, &side->previews);
+            side->reader.emplace(pasteboard, &side->previews, 0);
         });
     }
     emit changed();

@@ -80,7 +80,7 @@ void XClipboardWatch::doTasks()
 void XClipboardWatch::run()
 {
     XSelection &selection = m_pasteboard->selection();
-    std::int64_t told = selection.changeCount();
+    std::int64_t told = 0;
     bool isServed = true; // the server may go before us
     while (true) {
         doTasks();
