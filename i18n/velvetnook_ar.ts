@@ -205,6 +205,191 @@
     </message>
 </context>
 <context>
+    <name>Clipboard</name>
+    <message>
+        <source>now</source>
+        <translation>الآن</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 س</translation>
+    </message>
+    <message>
+        <source>%1 d</source>
+        <translation>%1 ي</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>رابط</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>صورة</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ملفات</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>لا ملفات</numerusform>
+            <numerusform>ملف واحد</numerusform>
+            <numerusform>ملفان</numerusform>
+            <numerusform>%n ملفات</numerusform>
+            <numerusform>%n ملفًا</numerusform>
+            <numerusform>%n ملف</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>نص</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>ولا غيره</numerusform>
+            <numerusform>وملف آخر</numerusform>
+            <numerusform>وملفان آخران</numerusform>
+            <numerusform>و%n ملفات أخرى</numerusform>
+            <numerusform>و%n ملفًا آخر</numerusform>
+            <numerusform>و%n ملف آخر</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n item(s)</source>
+        <translation>
+            <numerusform>لا عناصر</numerusform>
+            <numerusform>عنصر واحد</numerusform>
+            <numerusform>عنصران</numerusform>
+            <numerusform>%n عناصر</numerusform>
+            <numerusform>%n عنصرًا</numerusform>
+            <numerusform>%n عنصر</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ClipboardCard</name>
+    <message>
+        <source>favourite</source>
+        <translation>مفضّل</translation>
+    </message>
+</context>
+<context>
+    <name>ClipboardGrid</name>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>No longer a favourite</source>
+        <translation>إزالة من المفضّلة</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>إضافة إلى المفضّلة</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Remove all but favourites…</source>
+        <translation>حذف الكل عدا المفضّلة…</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>What was copied</source>
+        <translation>ما نُسخ</translation>
+    </message>
+    <message>
+        <source>Remove all but the favourites?</source>
+        <translation>حذف الكل عدا المفضّلة؟</translation>
+    </message>
+    <message>
+        <source>What was copied goes for good. It cannot be brought back.</source>
+        <translation>يُحذف ما نُسخ نهائيًا ولا يمكن استرجاعه.</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>حذف الكل</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>إبقاء</translation>
+    </message>
+</context>
+<context>
+    <name>ClipboardView</name>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>مفضّل</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>remove</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>الكل</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>نص</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>روابط</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>صور</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ملفات</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>المفضّلة</translation>
+    </message>
+</context>
+<context>
     <name>CounterActions</name>
     <message>
         <source>Undo the last count</source>
@@ -342,6 +527,111 @@
     <message>
         <source>Days</source>
         <translation>الأيام</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiCell</name>
+    <message>
+        <source>pinned</source>
+        <translation>مثبّت</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiView</name>
+    <message>
+        <source>move</source>
+        <translation>تنقّل</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>pin</source>
+        <translation>تثبيت</translation>
+    </message>
+    <message>
+        <source>Search emoji</source>
+        <translation>بحث في الرموز</translation>
+    </message>
+    <message>
+        <source>Skin tone</source>
+        <translation>لون البشرة</translation>
+    </message>
+    <message>
+        <source>Emoji</source>
+        <translation>الرموز التعبيرية</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiViewModel</name>
+    <message>
+        <source>Used before</source>
+        <translation>المستعملة من قبل</translation>
+    </message>
+    <message>
+        <source>Smileys and people</source>
+        <translation>وجوه وأشخاص</translation>
+    </message>
+    <message>
+        <source>Animals and nature</source>
+        <translation>حيوان وطبيعة</translation>
+    </message>
+    <message>
+        <source>Food and drink</source>
+        <translation>طعام وشراب</translation>
+    </message>
+    <message>
+        <source>Travel and places</source>
+        <translation>سفر وأماكن</translation>
+    </message>
+    <message>
+        <source>Activities</source>
+        <translation>أنشطة</translation>
+    </message>
+    <message>
+        <source>Objects, symbols and flags</source>
+        <translation>أشياء ورموز وأعلام</translation>
+    </message>
+    <message>
+        <source>What you use shows here</source>
+        <translation>يظهر هنا ما تستعمله</translation>
+    </message>
+    <message>
+        <source>No emoji by that name</source>
+        <translation>لا رمز بهذا الاسم</translation>
+    </message>
+    <message>
+        <source>No skin tone</source>
+        <translation>بلا لون بشرة</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>فاتح</translation>
+    </message>
+    <message>
+        <source>Medium light</source>
+        <translation>فاتح متوسط</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>متوسط</translation>
+    </message>
+    <message>
+        <source>Medium dark</source>
+        <translation>داكن متوسط</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>داكن</translation>
     </message>
 </context>
 <context>
@@ -541,6 +831,80 @@
     <message>
         <source>%1: It is not written as strict JSON. Nothing was changed</source>
         <translation>ليس %1 مكتوبًا بصيغة JSON صحيحة. لم يُغيَّر شيء</translation>
+        <source>Credential hidden · remove this saved entry</source>
+        <translation>بيانات سرية مخفية · احذف هذا العنصر المحفوظ</translation>
+    </message>
+    <message>
+        <source>Copied image</source>
+        <translation>صورة منسوخة</translation>
+    </message>
+    <message>
+        <source>This saved image is damaged.</source>
+        <translation>هذه الصورة المحفوظة تالفة.</translation>
+    </message>
+    <message>
+        <source>This saved entry cannot be opened.</source>
+        <translation>لا يمكن فتح هذا العنصر المحفوظ.</translation>
+    </message>
+    <message>
+        <source>A copied file has moved or access was revoked. Copy it again from Finder.</source>
+        <translation>نُقل ملف منسوخ أو سُحب إذن الوصول إليه. انسخه مجددًا من مدير الملفات.</translation>
+    </message>
+    <message>
+        <source>The clipboard could not be updated. Try copying again.</source>
+        <translation>تعذّر تحديث الحافظة. حاول النسخ مجددًا.</translation>
+    </message>
+    <message>
+        <source>Clipboard image is too large or could not be read.</source>
+        <translation>الصورة المنسوخة كبيرة جدًا أو تعذّرت قراءتها.</translation>
+    </message>
+    <message>
+        <source>Clipboard image could not be decoded</source>
+        <translation>تعذّر فكّ الصورة المنسوخة</translation>
+    </message>
+    <message>
+        <source>Cannot encode clipboard preview</source>
+        <translation>تعذّر إنشاء معاينة</translation>
+    </message>
+    <message>
+        <source>These clipboard file references could not be saved.</source>
+        <translation>تعذّر حفظ مراجع هذه الملفات.</translation>
+    </message>
+    <message>
+        <source>Invalid clipboard text</source>
+        <translation>نص منسوخ غير صالح</translation>
+    </message>
+    <message>
+        <source>The application that copied does not answer.</source>
+        <translation>التطبيق الذي نسخ لا يجيب.</translation>
+    </message>
+    <message>
+        <source>What was copied is too large to keep.</source>
+        <translation>ما نُسخ أكبر من أن يُحفظ.</translation>
+    </message>
+    <message>
+        <source>The clipboard history has no room for this.</source>
+        <translation>لا متسع لهذا في السجل.</translation>
+    </message>
+    <message>
+        <source>There is no keyring here to keep the clipboard&apos;s key in</source>
+        <translation>لا حافظة مفاتيح هنا لحفظ مفتاح السجل</translation>
+    </message>
+    <message>
+        <source>The clipboard&apos;s key in the keyring is damaged</source>
+        <translation>مفتاح السجل في حافظة المفاتيح تالف</translation>
+    </message>
+    <message>
+        <source>The keyring is locked. Unlock it, and try again.</source>
+        <translation>حافظة المفاتيح مقفلة. افتحها وحاول مجددًا.</translation>
+    </message>
+    <message>
+        <source>There is no keyring (Secret Service) here to keep the key in.</source>
+        <translation>لا حافظة مفاتيح (Secret Service) هنا لحفظ المفتاح.</translation>
+    </message>
+    <message>
+        <source>There is no default keyring to keep the key in. Make one first.</source>
+        <translation>لا حافظة مفاتيح افتراضية لحفظ المفتاح. أنشئ واحدة أولًا.</translation>
     </message>
 </context>
 <context>
@@ -1782,6 +2146,113 @@
     <message>
         <source>Translation</source>
         <translation>الترجمة</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsClipboard</name>
+    <message>
+        <source>Keep what I copy</source>
+        <translation>حفظ ما أنسخه</translation>
+    </message>
+    <message>
+        <source>Sealed with a key from your keyring, on this computer only.</source>
+        <translation>مختومًا بمفتاح من حافظة مفاتيحك، على هذا الحاسوب وحده.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>What is copied meanwhile is not kept.</source>
+        <translation>ما يُنسخ في أثناء ذلك لا يُحفظ.</translation>
+    </message>
+    <message>
+        <source>Enter pastes</source>
+        <translation>مفتاح Enter يلصق</translation>
+    </message>
+    <message>
+        <source>Into the window that had the keyboard, where the desktop allows it.</source>
+        <translation>في النافذة التي كانت لها لوحة المفاتيح، حيث يسمح سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>How much is kept</source>
+        <translation>مقدار ما يُحفظ</translation>
+    </message>
+    <message>
+        <source>Favourites stay whatever the limits are.</source>
+        <translation>تبقى المفضّلة أيًّا كانت الحدود.</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>مدة الحفظ</translation>
+    </message>
+    <message>
+        <source>At most, items</source>
+        <translation>أقصى عدد من العناصر</translation>
+    </message>
+    <message>
+        <source>Images and files, at most</source>
+        <translation>أقصى حجم للصور والملفات</translation>
+    </message>
+    <message>
+        <source>Remove the history</source>
+        <translation>حذف السجل</translation>
+    </message>
+    <message>
+        <source>All but the favourites.</source>
+        <translation>الكل عدا المفضّلة.</translation>
+    </message>
+    <message>
+        <source>Remove…</source>
+        <translation>حذف…</translation>
+    </message>
+    <message>
+        <source>Never from these applications</source>
+        <translation>لا شيء من هذه التطبيقات</translation>
+    </message>
+    <message>
+        <source>What password managers mark as such is always left out.</source>
+        <translation>ما تعلّمه برامج كلمات المرور سرًّا يُترك دائمًا.</translation>
+    </message>
+    <message>
+        <source>Add an application</source>
+        <translation>إضافة تطبيق</translation>
+    </message>
+    <message>
+        <source>By the name that its windows go by, such as KeePassXC.</source>
+        <translation>بالاسم الذي تُعرف به نوافذه، مثل KeePassXC.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Running…</source>
+        <translation>العاملة الآن…</translation>
+    </message>
+    <message>
+        <source>None that is not here already</source>
+        <translation>لا شيء غير ما هو هنا</translation>
+    </message>
+    <message>
+        <source>Take out %1</source>
+        <translation>إخراج %1</translation>
+    </message>
+    <message>
+        <source>Remove all but the favourites?</source>
+        <translation>حذف الكل عدا المفضّلة؟</translation>
+    </message>
+    <message>
+        <source>What was copied goes for good. It cannot be brought back.</source>
+        <translation>يُحذف ما نُسخ نهائيًا ولا يمكن استرجاعه.</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>حذف الكل</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>إبقاء</translation>
     </message>
 </context>
 <context>
@@ -3064,6 +3535,18 @@
         <source>Undo</source>
         <translation>تراجع</translation>
     </message>
+    <message>
+        <source>Copied</source>
+        <translation>نُسخ</translation>
+    </message>
+    <message>
+        <source>Removed from the history.</source>
+        <translation>حُذف من السجل.</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <translation>نُسخ %1</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::AppearanceSettings</name>
@@ -3284,6 +3767,119 @@
     <message>
         <source>There is no tray in this session.</source>
         <translation>لا صينية في هذه الجلسة.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::ClipboardPage</name>
+    <message numerus="yes">
+        <source>%n day(s)</source>
+        <translation>
+            <numerusform>لا أيام</numerusform>
+            <numerusform>يوم واحد</numerusform>
+            <numerusform>يومان</numerusform>
+            <numerusform>%n أيام</numerusform>
+            <numerusform>%n يومًا</numerusform>
+            <numerusform>%n يوم</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 م.ب</translation>
+    </message>
+    <message>
+        <source>The name of one application, without a comma</source>
+        <translation>اسم تطبيق واحد، بلا فاصلة</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::ClipboardViewModel</name>
+    <message>
+        <source>Opening the history…</source>
+        <translation>يُفتح السجل…</translation>
+    </message>
+    <message>
+        <source>Nothing copied yet</source>
+        <translation>لم يُنسخ شيء بعد</translation>
+    </message>
+    <message>
+        <source>What you copy is not kept yet</source>
+        <translation>ما تنسخه لا يُحفظ بعد</translation>
+    </message>
+    <message>
+        <source>This desktop does not tell what is copied. What “kest clipboard add” keeps shows here.</source>
+        <translation>سطح المكتب هذا لا يُخبر بما يُنسخ. يظهر هنا ما يحفظه الأمر “kest clipboard add”.</translation>
+    </message>
+    <message>
+        <source>Recording is paused.</source>
+        <translation>التسجيل متوقف مؤقتًا.</translation>
+    </message>
+    <message>
+        <source>Copy something anywhere and it shows here.</source>
+        <translation>انسخ شيئًا من أي مكان فيظهر هنا.</translation>
+    </message>
+    <message>
+        <source>Turned on, it is sealed with a key from your keyring and stays on this computer. What is marked as a password is left out.</source>
+        <translation>إن شغّلته خُتم بمفتاح من حافظة مفاتيحك وبقي على هذا الحاسوب. ويُترك ما عُلّم أنه كلمة مرور.</translation>
+    </message>
+    <message>
+        <source>Without a keyring nothing is kept: its key never stands in a file.</source>
+        <translation>بلا حافظة مفاتيح لا يُحفظ شيء: فالمفتاح لا يوضع في ملف أبدًا.</translation>
+    </message>
+    <message>
+        <source>The history is sealed with a key that it keeps.</source>
+        <translation>السجل مختوم بمفتاح محفوظ فيها.</translation>
+    </message>
+    <message>
+        <source>Keep what I copy</source>
+        <translation>حفظ ما أنسخه</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>حاول مجددًا</translation>
+    </message>
+    <message>
+        <source>Unlock…</source>
+        <translation>فتح القفل…</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>استئناف</translation>
+    </message>
+    <message>
+        <source>Nothing of this kind here</source>
+        <translation>لا شيء من هذا النوع هنا</translation>
+    </message>
+    <message>
+        <source>Nothing here has these words</source>
+        <translation>لا شيء هنا فيه هذه الكلمات</translation>
+    </message>
+    <message>
+        <source>Clipboard · paused</source>
+        <translation>الحافظة · متوقفة مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Not recording · %1, encrypted</source>
+        <translation>لا تسجيل · %1، مشفّرة</translation>
+    </message>
+    <message>
+        <source>Clipboard · paused · %1, encrypted</source>
+        <translation>الحافظة · متوقفة مؤقتًا · %1، مشفّرة</translation>
+    </message>
+    <message>
+        <source>Recording · %1, encrypted</source>
+        <translation>تسجيل · %1، مشفّرة</translation>
+    </message>
+    <message>
+        <source>%1, encrypted · copies cannot be watched here</source>
+        <translation>%1، مشفّرة · لا يمكن رصد النسخ هنا</translation>
+    </message>
+    <message>
+        <source>Turn on</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
     </message>
 </context>
 <context>
@@ -4355,6 +4951,14 @@
         <comment>Ctrl+K, Notes</comment>
         <translation type="unfinished"></translation>
         <translation>الاختصار %1 يفتح %2.</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>الحافظة</translation>
+    </message>
+    <message>
+        <source>copy paste history password exclude days limit</source>
+        <translation>نسخ لصق سجل كلمة مرور استثناء أيام حد copy paste clipboard</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,28 @@ namespace
     QT_TRANSLATE_NOOP("Engine", "The feed is signed, but says what it must not"),
     QT_TRANSLATE_NOOP("Engine", "The feed is not meant for this build"),
     QT_TRANSLATE_NOOP("Engine", "The feed is older than one that was seen already"),
+    QT_TRANSLATE_NOOP("Engine", "Credential hidden · remove this saved entry"),
+    QT_TRANSLATE_NOOP("Engine", "Copied image"),
+    QT_TRANSLATE_NOOP("Engine", "This saved image is damaged."),
+    QT_TRANSLATE_NOOP("Engine", "This saved entry cannot be opened."),
+    QT_TRANSLATE_NOOP(
+        "Engine", "A copied file has moved or access was revoked. Copy it again from Finder."),
+    QT_TRANSLATE_NOOP("Engine", "The clipboard could not be updated. Try copying again."),
+    QT_TRANSLATE_NOOP("Engine", "Clipboard image is too large or could not be read."),
+    QT_TRANSLATE_NOOP("Engine", "Clipboard image could not be decoded"),
+    QT_TRANSLATE_NOOP("Engine", "Cannot encode clipboard preview"),
+    QT_TRANSLATE_NOOP("Engine", "These clipboard file references could not be saved."),
+    QT_TRANSLATE_NOOP("Engine", "Invalid clipboard text"),
+    QT_TRANSLATE_NOOP("Engine", "The application that copied does not answer."),
+    QT_TRANSLATE_NOOP("Engine", "What was copied is too large to keep."),
+    QT_TRANSLATE_NOOP("Engine", "The clipboard history has no room for this."),
+    QT_TRANSLATE_NOOP("Engine", "There is no keyring here to keep the clipboard's key in"),
+    QT_TRANSLATE_NOOP("Engine", "The clipboard's key in the keyring is damaged"),
+    QT_TRANSLATE_NOOP("Engine", "The keyring is locked. Unlock it, and try again."),
+    QT_TRANSLATE_NOOP("Engine",
+                      "There is no keyring (Secret Service) here to keep the key in."),
+    QT_TRANSLATE_NOOP("Engine",
+                      "There is no default keyring to keep the key in. Make one first."),
 };
 
 // Texts with something of the user's in them: how the engine writes them, and how they are

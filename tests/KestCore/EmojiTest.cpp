@@ -233,6 +233,21 @@ TEST(RecentEmoji, WeighUsesAgainstTime)
               cat);
 }
 
+// The groups follow one another without a gap, and each begins where its own kind does.
+TEST(EmojiGroups, HoldEachEmojiOnce)
+{
+    std::size_t counted = 0;
+    for (const auto &[group, text] : enumTexts(Base::Of<EmojiGroup>{})) {
+        const auto emoji = emojiOfGroup(group);
+        ASSERT_FALSE(emoji.empty()) << text;
+        EXPECT_EQ(emoji.data(), allEmoji().data() + counted) << text;
+        counted += emoji.size();
+    }
+    EXPECT_EQ(counted, allEmoji().size());
+    EXPECT_EQ(emojiOfGroup(EmojiGroup::food).front().name, "grapes");
+    EXPECT_EQ(emojiOfGroup(EmojiGroup::objects).front().name, "glasses");
+}
+
 TEST(RecentEmoji, TheLeastUsedOfManyAreForgotten)
 {
     std::vector<std::pair<std::string, double>> uses{{"\U0001F408", -9 * kDay}};
@@ -245,6 +260,26 @@ TEST(RecentEmoji, TheLeastUsedOfManyAreForgotten)
     EXPECT_EQ(recentEmoji(records, kNow, 1)[0].emoji, allEmoji()[109].text);
     EXPECT_TRUE(std::ranges::none_of(
         records, [](const LocalRecord &record) { return record.title == "cat"; }));
+}
+
+TEST(RecentEmoji, APinnedOneStandsFirstAndIsNotForgotten)
+{
+    const std::string cat = "\U0001F408";
+    auto records = pinningEmoji({}, cat, kNow - Base::Seconds{400 * kDay})->written;
+    EXPECT_TRUE(recentEmoji(records, kNow, 1)[0].isPinned);
+    for (int at = 0; at < 110; ++at) {
+        const auto changes =
+            usingEmoji(records, allEmoji()[static_cast<std::size_t>(at)].text, kNow);
+        std::erase_if(records, [&](const LocalRecord &record) {
+            return std::ranges::find(changes->removed, record.id) != changes->removed.end();
+        });
+        records.push_back(changes->written.front());
+    }
+    EXPECT_EQ(recentEmoji(records, kNow, 1)[0].emoji, cat);
+    const auto loose = pinningEmoji(records, cat, kNow)->written;
+    EXPECT_FALSE(recentEmoji(loose, kNow, 1)[0].isPinned);
+    EXPECT_EQ(loose[0].id, records[0].id);
+    EXPECT_FALSE(pinningEmoji(records, "pizza", kNow));
 }
 
 TEST(RecentEmoji, OneEmojiIsOneHoweverItIsWritten)
