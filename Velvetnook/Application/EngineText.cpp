@@ -105,6 +105,16 @@ constexpr Pattern kPatterns[]{
      QT_TRANSLATE_NOOP("Engine", "%1: It has changed just now; try again")},
     {"^(/.*): It is not written as strict JSON\\. Nothing was changed$",
      QT_TRANSLATE_NOOP("Engine", "%1: It is not written as strict JSON. Nothing was changed")},
+    {"^Check the (.*) key and website selection \\(HTTP (.*)\\)\\.$",
+     QT_TRANSLATE_NOOP("Engine", "Check the %1 key and website selection (HTTP %2).")},
+    {"^The player \"(.*)\" cannot do this: (.*)$",
+     QT_TRANSLATE_NOOP("Engine", "The player “%1” cannot do this: %2")},
+    {"^The player \"(.*)\" does not answer\\.$",
+     QT_TRANSLATE_NOOP("Engine", "The player “%1” does not answer.")},
+    {"^No browser that may be driven listens on port (.*)\\.$",
+     QT_TRANSLATE_NOOP("Engine", "No browser that may be driven listens on port %1.")},
+    {"^The browser on port (.*) does not answer\\.$",
+     QT_TRANSLATE_NOOP("Engine", "The browser on port %1 does not answer.")},
     {"^(.*) finished\\.$", QT_TRANSLATE_NOOP("Engine", "%1 finished.")},
 };
 

@@ -160,7 +160,7 @@ TEST(InsightsView, ShowsWhatWasEarnedLessWhatWasTakenOff)
     Insights insights;
     insights.ring.secrets["insights.stripe.key"] = kKey;
     insights.show();
-    EXPECT_EQ(insights.view().headline()[QStringLiteral("value")], u"72.00");
+    EXPECT_EQ(insights.view().headline()[QStringLiteral("value")].toString(), u"72.00");
     QStringList figures;
     for (const QVariant &row : insights.view().figures()) {
         figures.push_back(row.toMap()[QStringLiteral("value")].toString());
@@ -169,7 +169,7 @@ TEST(InsightsView, ShowsWhatWasEarnedLessWhatWasTakenOff)
                                     QStringLiteral("−3.00"), QStringLiteral("72.00"),
                                     QStringLiteral("0.00")}));
     ASSERT_FALSE(insights.view().bars().isEmpty());
-    EXPECT_EQ(insights.view().bars().last().toMap()[QStringLiteral("share")], 1.0);
+    EXPECT_EQ(insights.view().bars().last().toMap()[QStringLiteral("share")].toDouble(), 1.0);
     EXPECT_LE(insights.view().bars().size(), static_cast<qsizetype>(46));
 }
 

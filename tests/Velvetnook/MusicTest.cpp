@@ -124,10 +124,10 @@ TEST(MusicView, ShowsThePlayerThatBeganLastUnlessOneIsChosen)
     Music music;
     music.start("a", "sound");
     music.start("b", "sound");
+    music.press("b", "Next"); // another song, so that they are no doubles
     ASSERT_TRUE(music.comes([&] { return music.view().sources().size() == 3; }));
     music.press("a", "PlayPause");
     ASSERT_TRUE(music.comes([&] { return music.view().isPlaying(); }));
-    music.press("b", "Next"); // another song, so that they are no doubles
     music.press("b", "PlayPause");
     EXPECT_TRUE(music.comes([&] { return music.view().title() == u"Song 2"; }));
     music.view().chooseSource(QStringLiteral("a"));

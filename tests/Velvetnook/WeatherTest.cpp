@@ -141,7 +141,7 @@ TEST(WeatherView, NamesEveryReasonForHavingNothing)
     };
     for (const auto &[reply, availability] : {
              Case{{.status = 503}, "error"},
-             Case{{.way = WebReply::Way::truncated}, "offline"},
+             Case{{.way = WebReply::Way::dropped}, "offline"},
              Case{{.status = 429}, "rateLimited"},
              Case{{.body = forecastDocument("")}, "error"},
          }) {

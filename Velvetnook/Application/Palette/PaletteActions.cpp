@@ -6,6 +6,7 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/LocalDay.h"
 #include "Velvetnook/Application/QtText.h"
+#include "Velvetnook/Application/ToolChoice.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -39,6 +40,12 @@ constexpr std::array kActions{
                   "pomodoro work concentrate"},
     PaletteAction{"stopwatch", QT_TRANSLATE_NOOP("Palette", "Start a stopwatch"), "timers",
                   "measure time"},
+    PaletteAction{"music", QT_TRANSLATE_NOOP("Palette", "Play or pause the music"), "music",
+                  "song track player media stop resume"},
+    PaletteAction{"music-next", QT_TRANSLATE_NOOP("Palette", "Next song"), "next",
+                  "skip track music player media"},
+    PaletteAction{"sounds", QT_TRANSLATE_NOOP("Palette", "Play or pause the sounds"), "sounds",
+                  "noise rain background mix silence"},
     PaletteAction{"note", QT_TRANSLATE_NOOP("Palette", "New note"), "notes",
                   "write add create"},
     PaletteAction{"dock", QT_TRANSLATE_NOOP("Palette", "Open the dock"), "dock",
@@ -92,6 +99,9 @@ bool isPossible(const PaletteAction &action, const ApplicationModel &model)
     }
     if (id == "dock") {
         return model.companion().dock.enabled;
+    }
+    if (id == "sounds" || id.starts_with("music")) {
+        return isToolOn(model.state(), id.substr(0, id.find('-')));
     }
     return id != "remind" || isQuiet;
 }

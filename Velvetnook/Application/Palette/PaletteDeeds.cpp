@@ -20,6 +20,8 @@
 #include "Velvetnook/Application/TimerSteps.h"
 #include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ViewModels/DockViewModel.h"
+#include "Velvetnook/Application/ViewModels/MusicViewModel.h"
+#include "Velvetnook/Application/ViewModels/SoundMixViewModel.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -250,6 +252,12 @@ void PaletteDeeds::act(std::string_view id)
         startTimer("pomodoro", 0);
     } else if (id == "stopwatch") {
         startTimer("stopwatch", 0);
+    } else if (id == "music") {
+        m_app.music()->playPause();
+    } else if (id == "music-next") {
+        m_app.music()->next();
+    } else if (id == "sounds") {
+        m_app.sounds()->playOrPause();
     } else if (id == "note") {
         openTool(QStringLiteral("notes"));
         m_app.notes()->create();

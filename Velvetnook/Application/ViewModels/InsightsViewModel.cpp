@@ -239,16 +239,6 @@ void InsightsViewModel::setPeriod(const QString &period)
     }
 }
 
-QVariantList InsightsViewModel::periods()
-{
-    return {option(QStringLiteral("today"), tr("Today")),
-            option(QStringLiteral("7d"), tr("7 days")),
-            option(QStringLiteral("30d"), tr("30 days")),
-            option(QStringLiteral("90d"), tr("90 days")),
-            option(QStringLiteral("month"), tr("This month")),
-            option(QStringLiteral("year"), tr("This year"))};
-}
-
 std::string InsightsViewModel::chosenCurrency() const
 {
     const auto known =
@@ -304,7 +294,7 @@ QVariantList InsightsViewModel::lists() const
 
 QString InsightsViewModel::notice() const
 {
-    return page().report ? engineText(page().report->notice) : QString{};
+    return page().report ? noticeOf(*page().report) : QString{};
 }
 
 QString InsightsViewModel::online() const

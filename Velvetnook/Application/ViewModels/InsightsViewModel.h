@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Velvetnook/Application/ViewModels/Insights/InsightDesk.h"
+#include "Velvetnook/Application/ViewModels/Insights/InsightFigures.h"
 
 #include <QObject>
 #include <QString>
@@ -71,7 +72,7 @@ public:
     bool canRefresh() const;
     QString period() const;
     void setPeriod(const QString &period);
-    static QVariantList periods();
+    static QVariantList periods() { return insightPeriods(); }
     QString currency() const;
     void setCurrency(const QString &currency);
     QVariantList currencies() const;

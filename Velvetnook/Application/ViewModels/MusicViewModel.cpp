@@ -26,6 +26,17 @@ namespace
 using KestCore::BrowserPlayback;
 using MediaPlayers::Player;
 
+// Named once more for the translators, who do not read the engines.
+[[maybe_unused]] constexpr const char *kTexts[]{
+    QT_TRANSLATE_NOOP("Engine", "There is no session bus here, so no player can be asked."),
+    QT_TRANSLATE_NOOP("Engine", "The session bus does not answer."),
+    QT_TRANSLATE_NOOP(
+        "Engine", "The connected tab is not open any more. Connect another, or disconnect it."),
+    QT_TRANSLATE_NOOP("Engine", "Invalid playback details."),
+    QT_TRANSLATE_NOOP("Engine", "Playback response is too large."),
+    QT_TRANSLATE_NOOP("Engine", "What listens on the port is no browser."),
+};
+
 constexpr const char *kSourceKey = "music.player";
 constexpr const char *kStripKey = "music.strip";
 constexpr const char *kTabSource = "tab:";
@@ -170,9 +181,16 @@ void MusicViewModel::show(std::optional<BrowserPlayback> now)
     }
 }
 
+bool MusicViewModel::isInStrip() const { return m_model.setting(kStripKey) != "false"; }
+
+void MusicViewModel::setInStrip(bool isInStrip)
+{
+    m_model.changeSetting(kStripKey, isInStrip ? "true" : "false");
+}
+
 std::optional<NowPlaying> MusicViewModel::nowPlaying() const
 {
-    if (!isPlaying() || m_model.setting(kStripKey) == "false") {
+    if (!isPlaying() || !isInStrip()) {
         return std::nullopt;
     }
     return NowPlaying{.title = title(), .position = m_now->position, .at = m_readAt};

@@ -35,6 +35,7 @@ class MusicViewModel : public QObject
     Q_PROPERTY(bool isTab READ isTab NOTIFY changed)
     Q_PROPERTY(QString source READ source NOTIFY changed)
     Q_PROPERTY(QVariantList sources READ sources NOTIFY changed) // {value, text, checked}
+    Q_PROPERTY(bool isInStrip READ isInStrip WRITE setInStrip NOTIFY changed)
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString artist READ artist NOTIFY changed)
     Q_PROPERTY(QString art READ art NOTIFY changed) // of the image provider; empty: none
@@ -65,6 +66,8 @@ public:
     bool isTab() const { return m_isTab; }
     QString source() const;
     QVariantList sources() const;
+    bool isInStrip() const;
+    void setInStrip(bool isInStrip);
     QString title() const;
     QString artist() const;
     QString art() const;

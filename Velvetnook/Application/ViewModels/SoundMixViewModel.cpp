@@ -27,6 +27,11 @@ namespace Velvetnook
 namespace
 {
 
+// Named once more for the translators, who do not read the engines.
+[[maybe_unused]] constexpr const char *kTexts[]{
+    QT_TRANSLATE_NOOP("Engine", "The sounds are not installed."),
+};
+
 constexpr const char *kMixKey = "sounds.mix";
 constexpr const char *kVolumeKey = "sounds.volume";
 constexpr const char *kSleepKey = "sounds.sleepMinutes";

@@ -47,12 +47,16 @@ FocusScope {
 
                 readonly property var all: root.model.sources
 
-                items: all.concat([{separator: true}, {text: qsTr("Browser tab…"), iconName: "out"}])
+                items: all.concat([{separator: true}, {text: qsTr("Browser tab…"), iconName: "out"},
+                                   {text: qsTr("Show it in the strip"), iconName: "notch",
+                                    checked: root.model.isInStrip}])
                 onChosen: index => {
                     if (index < all.length) {
                         root.model.chooseSource(all[index].value);
-                    } else {
+                    } else if (index === all.length + 1) {
                         root.tabsWanted();
+                    } else {
+                        root.model.isInStrip = !root.model.isInStrip;
                     }
                 }
             }

@@ -28,7 +28,7 @@ FocusScope {
         scale: down && !Theme.reducedMotion ? 0.97 : 1
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
-        Keys.onSpacePressed: event => event.accepted = false // plays or pauses all
+        Keys.onSpacePressed: App.sounds.playOrPause() // of all, here as everywhere in the view
         Accessible.name: root.title
         Accessible.checkable: true
         Accessible.checked: root.isIn

@@ -24,6 +24,74 @@ using KestCore::InsightMetric;
 using KestCore::InsightPoint;
 using KestCore::InsightReport;
 
+// Named once more for the translators, who do not read the engines.
+[[maybe_unused]] constexpr const char *kTexts[]{
+    QT_TRANSLATE_NOOP("Engine", "Gross payments"),
+    QT_TRANSLATE_NOOP("Engine", "Refunds"),
+    QT_TRANSLATE_NOOP("Engine", "Payment fees"),
+    QT_TRANSLATE_NOOP("Engine", "Net payments"),
+    QT_TRANSLATE_NOOP("Engine", "Payout movements"),
+    QT_TRANSLATE_NOOP("Engine", "Charges and payments"),
+    QT_TRANSLATE_NOOP("Engine", "Refund movements, less failed-refund reversals"),
+    QT_TRANSLATE_NOOP("Engine", "Fees attached to these payment and refund entries"),
+    QT_TRANSLATE_NOOP("Engine", "After refunds and attached fees; excludes disputes, "
+                                "transfers and tax liability"),
+    QT_TRANSLATE_NOOP("Engine", "Net balance debits for payouts, less "
+                                "failures/cancellations. Not a bank settlement confirmation"),
+    QT_TRANSLATE_NOOP("Engine", "balance-entry creation date in the selected period"),
+    QT_TRANSLATE_NOOP("Engine", "Stripe test mode"),
+    QT_TRANSLATE_NOOP("Engine", "Payment balance activity, not profit. Currencies stay "
+                                "separate."),
+    QT_TRANSLATE_NOOP("Engine", "Visitors"),
+    QT_TRANSLATE_NOOP("Engine", "Page views"),
+    QT_TRANSLATE_NOOP("Engine", "Sessions"),
+    QT_TRANSLATE_NOOP("Engine", "Avg. session"),
+    QT_TRANSLATE_NOOP("Engine", "Bounce rate"),
+    QT_TRANSLATE_NOOP("Engine", "Attributed revenue"),
+    QT_TRANSLATE_NOOP("Engine", "Attributed payments"),
+    QT_TRANSLATE_NOOP("Engine", "Unavailable"),
+    QT_TRANSLATE_NOOP("Engine", "DataFast website total"),
+    QT_TRANSLATE_NOOP("Engine", "selected period"),
+    QT_TRANSLATE_NOOP("Engine", "DataFast average session duration"),
+    QT_TRANSLATE_NOOP("Engine", "DataFast attribution in the website currency; not a Stripe "
+                                "payout or accounting total"),
+    QT_TRANSLATE_NOOP("Engine", "website attribution rules. No currencies or providers are "
+                                "combined."),
+    QT_TRANSLATE_NOOP("Engine", "DataFast returned no data for this period."),
+    QT_TRANSLATE_NOOP("Engine", "The provider returned an unexpected report. No totals were "
+                                "saved."),
+    QT_TRANSLATE_NOOP("Engine", "This period contains more than 10,000 balance entries. "
+                                "Choose a shorter period; partial totals are not shown."),
+    QT_TRANSLATE_NOOP("Engine", "The provider is limiting requests. Wait a moment, then "
+                                "refresh."),
+    QT_TRANSLATE_NOOP("Engine", "The provider is temporarily unavailable. Try again shortly."),
+    QT_TRANSLATE_NOOP("Engine", "Allow analytics:read and access to this website, then "
+                                "reconnect."),
+    QT_TRANSLATE_NOOP("Engine", "Allow Balance read access on this restricted Stripe key, "
+                                "then reconnect."),
+    QT_TRANSLATE_NOOP("Engine", "This Stripe key has expired or is invalid. Replace it in "
+                                "Connections."),
+    QT_TRANSLATE_NOOP("Engine", "This DataFast key has expired or is invalid. Replace it in "
+                                "Connections."),
+    QT_TRANSLATE_NOOP("Engine", "Stripe did not answer. Check the connection, then refresh."),
+    QT_TRANSLATE_NOOP("Engine", "DataFast did not answer. Check the connection, then "
+                                "refresh."),
+    QT_TRANSLATE_NOOP("Engine", "A key is one word of letters, digits and signs."),
+    QT_TRANSLATE_NOOP("Engine", "This is a secret Stripe test key, whose figures would look "
+                                "like real ones. Make a restricted test key (rk_test_) with "
+                                "Balance read access at Stripe, and connect that."),
+    QT_TRANSLATE_NOOP("Engine", "This is a secret Stripe key: whoever has it can move money, "
+                                "and to read the balance needs no such power. Make a "
+                                "restricted key (rk_live_ or rk_test_) with Balance read "
+                                "access at Stripe, and connect that."),
+    QT_TRANSLATE_NOOP("Engine", "This is no restricted Stripe key. Make one (rk_live_ or "
+                                "rk_test_) with Balance read access at Stripe, and connect "
+                                "that."),
+    QT_TRANSLATE_NOOP("Engine", "There is no keyring (Secret Service) here to keep the key "
+                                "in."),
+    QT_TRANSLATE_NOOP("Engine", "The keyring is locked. Unlock it, and try again."),
+};
+
 constexpr std::string_view kNet = "-net";
 
 class InsightWords
@@ -31,11 +99,24 @@ class InsightWords
     Q_DECLARE_TR_FUNCTIONS(InsightWords)
 };
 
+// The engine joins some of its texts with a dot.
+QString joinedText(const std::string &text)
+{
+    QStringList pieces = QString::fromStdString(text).split(QStringLiteral(" · "));
+    for (QString &piece : pieces) {
+        piece = engineText(piece.toStdString());
+    }
+    return pieces.join(QStringLiteral(" · "));
+}
+
 QString shown(std::string text, const Formatting &formatting)
 {
     QString own = QString::fromStdString(text);
     if (own.startsWith(u'-')) {
         own.replace(0, 1, QChar{0x2212});
+    }
+    if (formatting.usesArabicDigits()) {
+        own.replace(u',', u'٬').replace(u'.', u'٫');
     }
     return formatting.digits(own);
 }
@@ -85,6 +166,20 @@ QVariantMap list(const QString &title, const std::vector<InsightMetric> &metrics
 
 } // namespace
 
+QVariantList insightPeriods()
+{
+    const auto option = [](const char *value, const QString &label) {
+        return QVariantMap{{QStringLiteral("value"), QLatin1String{value}},
+                           {QStringLiteral("label"), label}};
+    };
+    return {option("today", InsightWords::tr("Today")),
+            option("7d", InsightWords::tr("7 days")),
+            option("30d", InsightWords::tr("30 days")),
+            option("90d", InsightWords::tr("90 days")),
+            option("month", InsightWords::tr("This month")),
+            option("year", InsightWords::tr("This year"))};
+}
+
 std::vector<std::string> currenciesOf(const InsightReport &report)
 {
     std::vector<std::string> currencies;
@@ -121,7 +216,7 @@ QVariantList figuresOf(const InsightReport &report, const std::string &currency,
         if (isOf(metric, currency)) {
             rows.push_back(row(engineText(metric.label),
                                amountText(metric, currency, formatting),
-                               engineText(metric.detail)));
+                               joinedText(metric.detail)));
         }
     }
     return rows;
@@ -159,6 +254,8 @@ QVariantList barsOf(const InsightReport &report, const std::string &currency,
     }
     return bars;
 }
+
+QString noticeOf(const InsightReport &report) { return joinedText(report.notice); }
 
 QVariantList listsOf(const InsightReport &report, const ApplicationModel &model,
                      const Formatting &formatting)

@@ -17,6 +17,9 @@ namespace Velvetnook
 class ApplicationModel;
 class Formatting;
 
+// The periods to choose from: {value, label}.
+QVariantList insightPeriods();
+
 // The currencies that a report of payments tells of, in its order; none of one about visitors.
 std::vector<std::string> currenciesOf(const KestCore::InsightReport &report);
 
@@ -30,6 +33,7 @@ QVariantList figuresOf(const KestCore::InsightReport &report, const std::string 
 inline constexpr std::size_t kMostBars = 46;
 QVariantList barsOf(const KestCore::InsightReport &report, const std::string &currency,
                     const ApplicationModel &model, const Formatting &formatting);
+QString noticeOf(const KestCore::InsightReport &report);
 // What came lately, and where visitors were and came from: {title, rows: {label, value}}.
 QVariantList listsOf(const KestCore::InsightReport &report, const ApplicationModel &model,
                      const Formatting &formatting);

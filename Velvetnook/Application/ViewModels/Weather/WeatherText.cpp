@@ -71,6 +71,21 @@ constexpr double kLeastRain = 1;  // millimetres that fill a bar
     QT_TRANSLATE_NOOP("Sky", "Unknown sky"),
 };
 
+[[maybe_unused]] constexpr const char *kTexts[]{
+    QT_TRANSLATE_NOOP("Engine", "Updating forecast…"),
+    QT_TRANSLATE_NOOP("Engine", "Weather did not respond. Try again shortly."),
+    QT_TRANSLATE_NOOP("Engine", "Weather is busy. Please try again in a few minutes."),
+    QT_TRANSLATE_NOOP("Engine",
+                      "Weather is taking a break. Please try again in a few minutes."),
+    QT_TRANSLATE_NOOP("Engine",
+                      "Weather is temporarily unavailable. Please try again shortly."),
+    QT_TRANSLATE_NOOP("Engine", "Forecast is out of date. Please try again shortly."),
+    QT_TRANSLATE_NOOP("Engine", "Forecast contains no usable temperatures"),
+    QT_TRANSLATE_NOOP("Engine", "Unsupported forecast units or date"),
+    QT_TRANSLATE_NOOP("Engine", "Choose a valid location"),
+    QT_TRANSLATE_NOOP("Engine", "The refresh was cancelled."),
+};
+
 class WeatherWords
 {
     Q_DECLARE_TR_FUNCTIONS(WeatherWords)
