@@ -10,7 +10,6 @@
 #include "Velvetnook/Application/LocalDay.h"
 #include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ToolServices.h"
-#include "Velvetnook/Application/ViewModels/Insights/InsightFigures.h"
 
 #include <algorithm>
 #include <utility>
@@ -30,11 +29,6 @@ constexpr Base::Seconds kRefreshEvery{300}; // while it is seen
 QString fromView(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QVariantMap option(const QString &value, const QString &label)
-{
-    return {{QStringLiteral("value"), value}, {QStringLiteral("label"), label}};
 }
 
 const char *toolOf(InsightProvider provider)
@@ -62,7 +56,11 @@ InsightsViewModel::InsightsViewModel(ApplicationModel &model, const Formatting &
                                                   page().waitsUntil.value_or(now))}
                          : std::nullopt;
         },
-        [this](Base::Instant) { load(Keyring::Prompts::never, true); });
+        [this](Base::Instant) {
+            if (m_isShown) {
+                load(Keyring::Prompts::never, true);
+            }
+        });
     follow();
 }
 
@@ -87,10 +85,10 @@ QVariantList InsightsViewModel::providers() const
     QVariantList all;
     for (const auto &[provider, page] : m_pages) {
         if (isToolOn(m_model.state(), toolOf(provider)) || provider == m_provider) {
-            QVariantMap entry =
-                option(fromView(Base::textOf(provider)), fromView(KestCore::nameOf(provider)));
-            entry.insert(QStringLiteral("tool"), QLatin1String{toolOf(provider)});
-            all.push_back(entry);
+            all.push_back(
+                QVariantMap{{QStringLiteral("value"), fromView(Base::textOf(provider))},
+                            {QStringLiteral("label"), fromView(KestCore::nameOf(provider))},
+                            {QStringLiteral("tool"), QLatin1String{toolOf(provider)}}});
         }
     }
     return all;
@@ -172,8 +170,7 @@ void InsightsViewModel::take(InsightProvider provider, InsightDesk::Answer answe
 // What the provider asked for holds for the next run, and for kest, too.
 void InsightsViewModel::keepWait(InsightProvider provider, std::optional<Base::Instant> until)
 {
-    const auto text = until ? Base::toIso8601(*until) : Base::Result<std::string>{};
-    if (until && text) {
+    if (const auto text = until ? Base::toIso8601(*until) : std::string{}; until && text) {
         m_model.changeSetting(KestCore::insightSetting(provider, "waitUntil"), *text);
     }
 }
@@ -263,7 +260,8 @@ QVariantList InsightsViewModel::currencies() const
     if (page().report) {
         for (const std::string &code : currenciesOf(*page().report)) {
             const QString own = QString::fromStdString(code);
-            all.push_back(option(own, own.toUpper()));
+            all.push_back(QVariantMap{{QStringLiteral("value"), own},
+                                      {QStringLiteral("label"), own.toUpper()}});
         }
     }
     return all;
@@ -271,8 +269,8 @@ QVariantList InsightsViewModel::currencies() const
 
 QVariantMap InsightsViewModel::headline() const
 {
-    return page().report ? headlineOf(*page().report, chosenCurrency(), m_formatting)
-                         : QVariantMap{};
+    const auto &report = page().report;
+    return report ? headlineOf(*report, chosenCurrency(), m_formatting) : QVariantMap{};
 }
 
 QVariantList InsightsViewModel::figures() const

@@ -72,7 +72,7 @@ MusicViewModel::MusicViewModel(ApplicationModel &model, const Formatting &format
         [this](Base::Instant now) {
             m_shownAt = now;
             emit positionChanged();
-            if (m_isTab && now - m_readAt >= kReadTabEvery) {
+            if (m_isShown && m_isTab && now - m_readAt >= kReadTabEvery) {
                 m_tab.perform({});
             }
         });

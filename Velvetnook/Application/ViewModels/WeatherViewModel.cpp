@@ -124,6 +124,9 @@ WeatherViewModel::WeatherViewModel(ApplicationModel &model, const Formatting &fo
             return m_isLoading ? nextHour : std::min(nextHour, m_nextFetch.value_or(now));
         },
         [this](Base::Instant now) {
+            if (!isWatched()) {
+                return; // the alarm was set while somebody looked
+            }
             look();
             if (!m_nextFetch || now >= *m_nextFetch) {
                 fetch();
