@@ -81,6 +81,12 @@ namespace
                       "There is no keyring (Secret Service) here to keep the key in."),
     QT_TRANSLATE_NOOP("Engine",
                       "There is no default keyring to keep the key in. Make one first."),
+    QT_TRANSLATE_NOOP("Engine", "Only http:// and https:// addresses can be saved"),
+    QT_TRANSLATE_NOOP("Engine", "An address has no spaces, backslashes or control characters"),
+    QT_TRANSLATE_NOOP("Engine", "This address names no website"),
+    QT_TRANSLATE_NOOP("Engine", "There is nothing in the text for the shelf"),
+    QT_TRANSLATE_NOOP("Engine", "A name has to show something"),
+    QT_TRANSLATE_NOOP("Engine", "That calendar is there already"),
 };
 
 // Texts with something of the user's in them: how the engine writes them, and how they are
@@ -115,6 +121,10 @@ constexpr Pattern kPatterns[]{
      QT_TRANSLATE_NOOP("Engine", "No browser that may be driven listens on port %1.")},
     {"^The browser on port (.*) does not answer\\.$",
      QT_TRANSLATE_NOOP("Engine", "The browser on port %1 does not answer.")},
+    {"^This address is saved already, as \"(.*)\"$",
+     QT_TRANSLATE_NOOP("Engine", "This address is saved already, as “%1”")},
+    {"^(.*): it is no calendar\\.$", QT_TRANSLATE_NOOP("Engine", "%1: it is no calendar.")},
+    {"^(.*): it is not there\\.$", QT_TRANSLATE_NOOP("Engine", "%1: it is not there.")},
     {"^(.*) finished\\.$", QT_TRANSLATE_NOOP("Engine", "%1 finished.")},
 };
 

@@ -28,13 +28,21 @@ Shot tool(const char *name, const char *view, std::function<void(ShotData &)> pr
     return {.name = QLatin1String{name},
             .surface = QStringLiteral("Panel"),
             .view = QLatin1String{view},
-            .prepare = std::move(prepare),
-            .arrange = [arrange = std::move(arrange)](App &app) {
-                app.panel()->setOpen(true);
-                if (arrange) {
-                    arrange(app);
-                }
-            }};
+            .prepare =
+                [prepare = std::move(prepare), view](ShotData &data) {
+                    std::erase(data.state.enabled, view);
+                    data.state.enabled.emplace_back(view);
+                    if (prepare) {
+                        prepare(data);
+                    }
+                },
+            .arrange =
+                [arrange = std::move(arrange)](App &app) {
+                    app.panel()->setOpen(true);
+                    if (arrange) {
+                        arrange(app);
+                    }
+                }};
 }
 
 // Real files, as the views look at them.
@@ -144,7 +152,8 @@ void fillFiles(ShotData &data)
     for (const char *name :
          {"harbour.jpg", "plan-v3.odt", "invoice-october.pdf", "notes.tar.gz"}) {
         bookmarks += "<bookmark href=\"" + QUrl::fromLocalFile(pathOf(name)).toEncoded() +
-                     "\" visited=\"2025-11-14T" + QByteArray::number(hour--) + ":41:00Z\"/>";
+                     "\" visited=\"2025-11-14T" +
+                     QByteArray::number(hour--).rightJustified(2, '0') + ":41:00Z\"/>";
     }
     writeRecentFiles(bookmarks);
     add(data, "file", "plan-v3.odt",

@@ -253,9 +253,11 @@ void FilesViewModel::show()
     } else {
         for (const Recent &recent : m_sight.recent) {
             rows.push_back(rowOf(recent.glance, pinned.contains(recent.glance.path)));
-            rows.back().when =
-                momentText(Base::fromMilliseconds1970(static_cast<double>(recent.usedMs)),
-                           m_model, m_formatting);
+            if (recent.usedMs > 0) {
+                rows.back().when =
+                    momentText(Base::fromMilliseconds1970(static_cast<double>(recent.usedMs)),
+                               m_model, m_formatting);
+            }
         }
     }
     std::erase_if(rows, [this](const FileRow &row) { return !matches(row); });

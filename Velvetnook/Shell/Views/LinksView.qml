@@ -66,6 +66,7 @@ FocusScope {
 
     KeyLetters { id: letters }
     LinkNotice {
+        anchors.left: parent.left
         width: 232
         height: parent.height
     }
@@ -77,7 +78,6 @@ FocusScope {
         padding: 0
 
         Txt {
-            x: 16
             y: 14
             width: 220
             anchors.left: parent.left

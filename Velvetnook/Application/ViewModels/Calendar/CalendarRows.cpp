@@ -3,6 +3,7 @@
 #include "Velvetnook/Application/ViewModels/Calendar/CalendarRows.h"
 
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/FileGlance.h"
 #include "Velvetnook/Application/Formatting.h"
 
@@ -92,7 +93,7 @@ QString problemOf(const SourceReport &report, const Formatting &formatting)
 {
     if (!report.problems.empty()) {
         const auto more = static_cast<int>(report.problems.size()) - 1;
-        const QString first = shown(report.problems.front());
+        const QString first = engineText(report.problems.front());
         return more == 0
                    ? first
                    : first + u' ' +
