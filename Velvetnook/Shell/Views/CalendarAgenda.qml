@@ -13,7 +13,7 @@ FocusScope {
     readonly property bool hasEvents: model.availability === "ready"
 
     signal sourcesWanted
-    signal left
+    signal leaveWanted
     signal eventWanted(var event)
 
     function enter() {
@@ -73,7 +73,7 @@ FocusScope {
         model: root.model.events
         Keys.onReturnPressed: if (currentItem) { root.eventWanted(currentItem); }
         Keys.onEnterPressed: if (currentItem) { root.eventWanted(currentItem); }
-        Keys.onEscapePressed: root.left()
+        Keys.onEscapePressed: root.leaveWanted()
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Events")
 

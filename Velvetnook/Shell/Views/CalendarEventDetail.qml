@@ -14,7 +14,7 @@ FocusScope {
     property string place
     property string calendar
 
-    signal left
+    signal leaveWanted
 
     function show(event) {
         title = event.title;
@@ -24,8 +24,8 @@ FocusScope {
         back.forceActiveFocus();
     }
 
-    Keys.onEscapePressed: left()
-    Keys.onReturnPressed: left()
+    Keys.onEscapePressed: leaveWanted()
+    Keys.onReturnPressed: leaveWanted()
 
     Card {
         anchors.fill: parent
@@ -44,7 +44,7 @@ FocusScope {
             iconName: "left"
             name: qsTr("Back to the day")
             keyHint: "Esc"
-            onClicked: root.left()
+            onClicked: root.leaveWanted()
         }
         ScrollBody {
             anchors.fill: parent

@@ -12,7 +12,7 @@ FocusScope {
 
     readonly property QtObject model: App.calendar
 
-    signal left
+    signal leaveWanted
 
     function begin() {
         model.dropRefusal();
@@ -29,7 +29,7 @@ FocusScope {
         dialog.open();
     }
 
-    Keys.onEscapePressed: left()
+    Keys.onEscapePressed: leaveWanted()
 
     IconButton {
         id: back
@@ -40,7 +40,7 @@ FocusScope {
         iconName: "left"
         name: qsTr("Back to the day")
         keyHint: "Esc"
-        onClicked: root.left()
+        onClicked: root.leaveWanted()
     }
     Txt {
         anchors.left: back.right

@@ -69,7 +69,7 @@ FocusScope {
             anchors.fill: parent
             visible: root.side === "agenda"
             onSourcesWanted: root.showSources()
-            onLeft: month.forceActiveFocus(Qt.TabFocusReason)
+            onLeaveWanted: month.forceActiveFocus(Qt.TabFocusReason)
             onEventWanted: event => {
                 root.side = "event";
                 detail.show(event);
@@ -80,7 +80,7 @@ FocusScope {
 
             anchors.fill: parent
             visible: root.side === "event"
-            onLeft: root.leave()
+            onLeaveWanted: root.leave()
         }
         Loader {
             id: sources
@@ -89,7 +89,7 @@ FocusScope {
             active: root.side === "sources"
             visible: active
             sourceComponent: CalendarSources {
-                onLeft: root.leave()
+                onLeaveWanted: root.leave()
             }
         }
         DropArea {
