@@ -215,7 +215,7 @@ std::vector<Shot> shelfShots()
         tool("calendar-none", "calendar"),
         tool("calendar-broken", "calendar", breakCalendar),
         tool("calendar-six-weeks", "calendar", fillCalendar,
-             [](App &app) { app.calendar()->moveMonths(-3); }),
+             [](App &app) { app.calendar()->moveMonths(4); }),
     };
 }
 

@@ -29,6 +29,8 @@ FocusScope {
 
     Card {
         anchors.fill: parent
+        implicitWidth: 0
+        implicitHeight: 0
         corner: 18
         padding: 16
 

@@ -30,7 +30,6 @@ T.ItemDelegate {
     implicitHeight: 44
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
-    Drag.active: carrying.active && !isMissing
     Drag.dragType: Drag.Automatic
     Drag.supportedActions: Qt.CopyAction
     Drag.mimeData: dragData
@@ -39,6 +38,7 @@ T.ItemDelegate {
     Accessible.selected: selected
     Accessible.onPressAction: opened()
     onDoubleClicked: opened()
+    onPressed: tile.grabToImage(result => root.Drag.imageSource = result.url)
 
     contentItem: Item {
         FileTile {
@@ -131,10 +131,7 @@ T.ItemDelegate {
         id: carrying
 
         target: null
-        onActiveChanged: {
-            if (active) {
-                root.grabToImage(result => root.Drag.imageSource = result.url, Qt.size(220, 26));
-            }
-        }
+        // No binding: what it starts lasts until the other program has it.
+        onActiveChanged: root.Drag.active = active && !root.isMissing
     }
 }

@@ -28,7 +28,6 @@ Item {
     signal renamed(string title)
     signal editEnded
 
-    Drag.active: carrying.active && !isMissing
     Drag.dragType: Drag.Automatic
     Drag.supportedActions: Qt.CopyAction
     Drag.mimeData: dragData
@@ -127,5 +126,7 @@ Item {
 
         target: null
         enabled: !root.editing
+        // No binding: what it starts lasts until the other program has it.
+        onActiveChanged: root.Drag.active = active && !root.isMissing
     }
 }
