@@ -20,8 +20,7 @@ FocusScope {
     readonly property bool isBottom: edge === "bottom"
     readonly property int callout: 14
 
-    signal tabWanted
-    signal carried(string itemId, point at) // out of the panel
+    signal carried(string itemId, point at) // out of the panel, in the window
 
     function focusContent() {
         loader.item?.takeFocus(Qt.TabFocusReason);
@@ -132,7 +131,6 @@ FocusScope {
                 root.page = page;
             }
             function onDone() { root.back(); }
-            function onTabWanted() { root.tabWanted(); }
             function onCarried(itemId, at) { root.carried(itemId, at); }
         }
         DockMessage {

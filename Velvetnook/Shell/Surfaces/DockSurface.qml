@@ -43,6 +43,14 @@ FocusScope {
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Dock")
     Keys.onEscapePressed: leave()
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F6 && App.dock.isOpen;
+        if (event.accepted && tab.activeFocus) {
+            focusPanel();
+        } else if (event.accepted) {
+            focusTab();
+        }
+    }
 
     DockTab {
         id: tab
@@ -70,9 +78,8 @@ FocusScope {
         hasShadow: root.hasShadow
         page: root.view
         focus: App.dock.isOpen
-        onTabWanted: root.focusTab()
         onCarried: (itemId, at) => {
-            const workspace = tab.workspaceAt(tab.mapFromItem(panel, at));
+            const workspace = tab.workspaceAt(tab.mapFromItem(null, at));
             if (workspace >= 0 && workspace !== App.dock.current) {
                 App.dock.moveItemTo(itemId, workspace);
             }

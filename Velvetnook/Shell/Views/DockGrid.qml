@@ -13,8 +13,7 @@ FocusScope {
     property real dropHeight: height
 
     signal pageWanted(string page, string itemId, string title)
-    signal tabWanted
-    signal carriedOut(string itemId, point at)
+    signal carriedOut(string itemId, point at) // in the window
 
     readonly property real cell: width / 4
     readonly property int lineHeight: 80
@@ -36,22 +35,21 @@ FocusScope {
         }
         return place;
     }
+    // Along the line, or to the nearest tile of the next one.
     function step(from, columns, lines) {
         const start = tiles.itemAt(from);
-        if (columns !== 0) {
-            tiles.itemAt(from + columns)?.forceActiveFocus(Qt.TabFocusReason);
-            return;
-        }
-        for (let at = from + lines; at >= 0 && at < tiles.count; at += lines) {
+        let best = columns !== 0 ? tiles.itemAt(from + columns) : null;
+        for (let at = 0; at < tiles.count && lines !== 0; ++at) {
             const tile = tiles.itemAt(at);
-            const isOther = tile.y !== start.y;
-            if (isOther && (tile.isDivider || tile.column <= start.column || lines > 0)
-                && (tile.isDivider || tile.column === start.column || at === tiles.count - 1
-                    || (lines < 0 && tile.column < start.column))) {
-                tile.forceActiveFocus(Qt.TabFocusReason);
-                return;
+            const away = (tile.y - start.y) * lines;
+            const nearest = best ? (best.y - start.y) * lines : Infinity;
+            if (away > 0 && (away < nearest
+                             || (away === nearest && Math.abs(tile.column - start.column)
+                                                     < Math.abs(best.column - start.column)))) {
+                best = tile;
             }
         }
+        best?.forceActiveFocus(Qt.TabFocusReason);
     }
     function tileAt(point) {
         for (let at = 0; at < tiles.count; ++at) {
@@ -88,7 +86,7 @@ FocusScope {
             onDropped: at => {
                 const point = root.mapFromItem(this, at);
                 if (point.x < -20 || point.x > root.width + 20) {
-                    root.carriedOut(itemId, point);
+                    root.carriedOut(itemId, root.mapToItem(null, point));
                 } else {
                     App.dock.moveItem(itemId, root.placeAt(point, index));
                 }

@@ -10,8 +10,7 @@ FocusScope {
     id: root
 
     signal pageWanted(string page, string itemId, string title)
-    signal tabWanted
-    signal carried(string itemId, point at) // out of the panel
+    signal carried(string itemId, point at) // out of the panel, in the window
 
     function takeFocus(reason) {
         (grid.first ?? head.main).forceActiveFocus(reason);
@@ -38,7 +37,7 @@ FocusScope {
             id: content
 
             width: scroll.width
-            height: Math.max(scroll.height, grid.height + (widgets.count > 0 ? widgets.height + 12 : 0)) 
+            height: Math.max(scroll.height, grid.height + (widgets.count > 0 ? widgets.height + 12 : 0))
 
             DockGrid {
                 id: grid
@@ -48,8 +47,7 @@ FocusScope {
                 // What is dropped below the last line goes to the end.
                 dropHeight: widgets.count > 0 ? widgets.y - y : parent.height - y
                 onPageWanted: (page, itemId, title) => root.pageWanted(page, itemId, title)
-                onTabWanted: root.tabWanted()
-                onCarriedOut: (itemId, at) => root.carried(itemId, grid.mapToItem(root.parent.parent.parent, at))
+                onCarriedOut: (itemId, at) => root.carried(itemId, at)
             }
             AvailabilityView {
                 visible: App.dock.items.lines === 0
@@ -73,15 +71,7 @@ FocusScope {
                     id: list
 
                     model: App.dock.widgets
-                    delegate: DockWidget {
-                        required property var modelData
-
-                        width: widgets.width
-                        tool: modelData.tool
-                        title: modelData.title
-                        summary: modelData.summary
-                        iconName: modelData.icon
-                    }
+                    delegate: DockWidget { width: widgets.width }
                 }
             }
         }
