@@ -132,6 +132,98 @@ TEST_F(DockWindowTest, APressStartsAnApplicationAndEscapeGivesTheKeyboardBack)
     EXPECT_TRUE(XDesktop::waitFor([&] { return isClosed(); }));
 }
 
+TEST_F(DockWindowTest, KeysReachTheItemsAndLeaveInSteps)
+{
+    prefer([&](KestCore::CompanionState &companion) {
+        addApplication(companion, "/usr/bin/touch " + mark().string());
+    });
+    startWithDock();
+    movePointer(1244, 344);
+    click();
+    ASSERT_TRUE(XDesktop::waitFor([&] { return isOpen(); }));
+    std::this_thread::sleep_for(500ms);
+    XDesktop::run({"xdotool", "key", "F2"}); // the page of its name
+    std::this_thread::sleep_for(500ms);
+    XDesktop::run({"xdotool", "type", "Chalk"});
+    XDesktop::run({"xdotool", "key", "Return"});
+    std::this_thread::sleep_for(500ms);
+    XDesktop::run({"xdotool", "key", "Return"});
+    EXPECT_TRUE(XDesktop::waitFor([&] { return std::filesystem::exists(mark()); }));
+    EXPECT_TRUE(XDesktop::waitFor([&] { return isClosed(); }));
+    m_program = {};
+    const auto store = KestCore::StateStore::open(m_data.database());
+    ASSERT_TRUE(store);
+    EXPECT_EQ(store->companion().workspaces.front().items.front().title, "Chalk");
+}
+
+TEST_F(DockWindowTest, TilesAreDraggedToTheirPlacesAndToOtherWorkspaces)
+{
+    prefer([](KestCore::CompanionState &) {});
+    startWithDock();
+    movePointer(1244, 344);
+    click();
+    ASSERT_TRUE(XDesktop::waitFor([&] { return isOpen(); }));
+    std::this_thread::sleep_for(500ms);
+    const auto drag = [](int toX, int toY) {
+        movePointer(918, 226);
+        XDesktop::run({"xdotool", "mousedown", "1"});
+        for (const double share : {0.1, 0.5, 0.9, 1.0}) {
+            movePointer(918 + static_cast<int>(share * (toX - 918)),
+                        226 + static_cast<int>(share * (toY - 226)));
+            std::this_thread::sleep_for(60ms);
+        }
+        XDesktop::run({"xdotool", "mouseup", "1"});
+        std::this_thread::sleep_for(500ms);
+    };
+    drag(1100, 226); // the first one behind the third
+    drag(1244, 400); // the one that is first now, to the slot below
+    m_program = {};
+    const auto store = KestCore::StateStore::open(m_data.database());
+    ASSERT_TRUE(store);
+    const auto targets = [&](std::size_t workspace) {
+        std::string all;
+        for (const auto &item : store->companion().workspaces[workspace].items) {
+            all += item.target + " ";
+        }
+        return all;
+    };
+    EXPECT_EQ(targets(0), "names dhikr timers notes ");
+    EXPECT_EQ(targets(1), "timers scratchpad shelf music prayer ");
+}
+
+// Sums the wake-ups of every thread of the program.
+int wakeUps(pid_t program)
+{
+    int sum = 0;
+    for (const auto &task :
+         std::filesystem::directory_iterator{"/proc/" + std::to_string(program) + "/task"}) {
+        std::ifstream status{task.path() / "status"};
+        for (std::string word; status >> word;) {
+            if (int count = 0; word == "voluntary_ctxt_switches:" && status >> count) {
+                sum += count;
+            }
+        }
+    }
+    return sum;
+}
+
+TEST_F(DockWindowTest, AtRestItSleeps)
+{
+    prefer([](KestCore::CompanionState &companion) {
+        companion.dock.hover = true;
+        companion.workspaces.front().homeWidgets = {"prayer", "timers", "names"};
+    });
+    startWithDock();
+    movePointer(1244, 344);
+    ASSERT_TRUE(XDesktop::waitFor([&] { return isOpen(); })); // everything has been made
+    movePointer(640, 600);
+    ASSERT_TRUE(XDesktop::waitFor([&] { return isClosed(); }));
+    std::this_thread::sleep_for(5s);
+    const int before = wakeUps(m_program.id());
+    std::this_thread::sleep_for(10s);
+    EXPECT_LE(wakeUps(m_program.id()) - before, 10);
+}
+
 TEST_F(DockWindowTest, ALineForAShellIsNotStarted)
 {
     prefer([&](KestCore::CompanionState &companion) {

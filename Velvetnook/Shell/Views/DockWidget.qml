@@ -13,8 +13,16 @@ Loader {
     readonly property var files: ({stats: "DockStatsWidget", weather: "DockWeatherWidget",
                                    "screen-time": "DockTimeWidget", claude: "DockClaudeWidget"})
 
+    function show(file) {
+        setSource(file + ".qml", {tool: modelData.tool, title: modelData.title,
+                                  summary: modelData.summary, iconName: modelData.icon});
+    }
+
     height: item ? item.implicitHeight : 0
-    Component.onCompleted: setSource((files[modelData.tool] ?? "DockPlainWidget") + ".qml",
-                                     {tool: modelData.tool, title: modelData.title,
-                                      summary: modelData.summary, iconName: modelData.icon})
+    Component.onCompleted: show(files[modelData.tool] ?? "DockPlainWidget")
+    onStatusChanged: {
+        if (status === Loader.Error) {
+            show("DockPlainWidget"); // rather than nothing
+        }
+    }
 }
