@@ -39,8 +39,10 @@ std::vector<std::uint32_t> values(xcb_connection_t *server, xcb_window_t window,
     std::vector<std::uint32_t> list(
         static_cast<std::size_t>(xcb_get_property_value_length(found.get())) /
         sizeof(std::uint32_t));
-    std::memcpy(list.data(), xcb_get_property_value(found.get()),
-                list.size() * sizeof(std::uint32_t));
+    if (!list.empty()) {
+        std::memcpy(list.data(), xcb_get_property_value(found.get()),
+                    list.size() * sizeof(std::uint32_t));
+    }
     return list;
 }
 

@@ -9,9 +9,9 @@
 #include "tests/EndToEnd/Program.h"
 #include "tests/TemporaryFolder.h"
 
-#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -341,7 +341,8 @@ TEST_F(CommandServerTest, SleepsWhileThereIsNoDescriptorForACaller)
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &full), 0);
     constexpr int kRounds = 1000;
     int rounds = 0;
-    while (rounds < kRounds && QCoreApplication::eventDispatcher()->processEvents({})) {
+    QEventLoop loop;
+    while (rounds < kRounds && loop.processEvents()) {
         ++rounds;
     }
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
