@@ -263,7 +263,7 @@ TEST_F(HooksTest, RefusesAFileThatChangedOrCannotBeUnderstood)
     EXPECT_EQ(state(0), "error");
     ASSERT_TRUE(plan(true));
     EXPECT_TRUE(m_page->lines().isEmpty());
-    EXPECT_TRUE(m_page->problem().contains(u"Nothing was changed"));
+    EXPECT_TRUE(m_page->problem().contains(u"strict JSON. Nothing was changed"));
 
     fs::remove(m_home.path() / "bin/kest");
     ASSERT_TRUE(plan(true));
