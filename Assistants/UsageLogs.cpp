@@ -125,7 +125,10 @@ void UsageLogs::takeLine(const fs::path &file, Log &log, const LogFollower::Mark
 {
     m_line.assign(line.text);
     const auto finding = log.format->read(m_line, log.memory);
-    if (!finding || (finding->use && !arePlausible(finding->use->tokens))) {
+    const auto isPlausible = [](const std::optional<LoggedUse> &use) {
+        return !use || arePlausible(use->tokens);
+    };
+    if (!finding || !isPlausible(finding->use)) {
         ++m_totals.damagedLines;
         return;
     }

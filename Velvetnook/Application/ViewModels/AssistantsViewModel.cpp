@@ -86,7 +86,7 @@ AssistantsViewModel::AssistantsViewModel(ApplicationModel &model, const Formatti
         this,
         [this](Base::Instant at) {
             const double minutes = std::floor(Base::seconds1970(at) / 60) + 1;
-            return m_isShown ? std::optional{Base::fromSeconds1970(minutes * 60)}
+            return isShown() ? std::optional{Base::fromSeconds1970(minutes * 60)}
                              : std::nullopt;
         },
         [this](Base::Instant) { refresh(); });
@@ -96,10 +96,10 @@ Base::Instant AssistantsViewModel::now() const { return m_model.now(); }
 
 void AssistantsViewModel::enter()
 {
-    if (m_isShown) {
+    ++m_viewers;
+    if (m_viewers > 1) {
         return;
     }
-    m_isShown = true;
     m_lookedAt = now();
     m_logs.begin();
     m_model.clock().reschedule();
@@ -109,10 +109,13 @@ void AssistantsViewModel::enter()
 
 void AssistantsViewModel::leave()
 {
-    if (!m_isShown) {
+    if (m_viewers == 0) {
         return;
     }
-    m_isShown = false;
+    --m_viewers;
+    if (isShown()) {
+        return;
+    }
     m_lookedAt = now();
     m_logs.end();
     m_connections.close();
@@ -131,7 +134,7 @@ void AssistantsViewModel::setSaysWaiting(bool says)
 
 std::optional<WaitingAssistant> AssistantsViewModel::waiting() const
 {
-    if (m_isShown || !saysWaiting() || !isToolOn(m_model.state(), "claude")) {
+    if (isShown() || !saysWaiting() || !isToolOn(m_model.state(), "claude")) {
         return std::nullopt;
     }
     for (const KestCore::AssistantSession &session : m_activity.sessions()) {
@@ -209,7 +212,7 @@ std::vector<LoggedSession> AssistantsViewModel::chosen() const
 
 void AssistantsViewModel::refresh()
 {
-    if (!m_isShown) {
+    if (!isShown()) {
         return;
     }
     m_cards.clear();
@@ -307,7 +310,8 @@ QVariantMap AssistantsViewModel::cardOf(const Assistants::ToolUse &use,
     return {{QStringLiteral("title"), title},
             {QStringLiteral("span"), span},
             {QStringLiteral("figure"), figure},
-            {QStringLiteral("unit"), QStringLiteral("%")},
+            {QStringLiteral("unit"),
+             m_formatting.usesArabicDigits() ? QStringLiteral("٪") : QStringLiteral("%")},
             {QStringLiteral("note"), reset},
             {QStringLiteral("foot"), QString{}},
             {QStringLiteral("value"), limit.usedPercent / 100},
@@ -320,7 +324,7 @@ QVariantMap AssistantsViewModel::cardOf(const Assistants::ToolUse &use,
 QVariantMap AssistantsViewModel::cardOf(const Assistants::ToolUse &use) const
 {
     const QString title = titleOf(use.tool);
-    const QString week = tr("%1 in seven days", "1.2 M tokens").arg(tokens(use.week));
+    const QString week = tr("tokens · %1 in seven days", "1.2 M").arg(tokens(use.week));
     const auto &window = use.window;
     const QString figure = tokens(window ? window->tokens : use.week);
     const QString span = window ? tr("5 h window") : tr("seven days");
@@ -328,9 +332,9 @@ QVariantMap AssistantsViewModel::cardOf(const Assistants::ToolUse &use) const
     return {{QStringLiteral("title"), title},
             {QStringLiteral("span"), span},
             {QStringLiteral("figure"), figure},
-            {QStringLiteral("unit"), tr("tokens")},
+            {QStringLiteral("unit"), QString{}},
             {QStringLiteral("note"), until},
-            {QStringLiteral("foot"), window ? week : tr("Nothing in the last five hours")},
+            {QStringLiteral("foot"), window ? week : tr("tokens · none in five hours")},
             {QStringLiteral("value"), -1.0},
             {QStringLiteral("isHigh"), false},
             {QStringLiteral("spoken"),
@@ -372,7 +376,7 @@ QString AssistantsViewModel::footer() const
 {
     const auto &report = m_logs.report();
     if (!report) {
-        return m_isShown ? tr("Reading the logs…") : QString{};
+        return isShown() ? tr("Reading the logs…") : QString{};
     }
     if (report->totals.unreadable > 0) {
         return tr("%n log(s) could not be read", nullptr,

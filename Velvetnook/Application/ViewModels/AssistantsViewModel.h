@@ -51,7 +51,7 @@ public:
     // Who asked for the user last, unless they have looked here since.
     std::optional<WaitingAssistant> waiting() const;
 
-    // The view came into sight, or has left it.
+    // A view came into sight, or has left it: the next may come before the last has gone.
     Q_INVOKABLE void enter();
     Q_INVOKABLE void leave();
 
@@ -71,6 +71,7 @@ private:
     QString moment(Base::Instant at) const;
     QString tokens(const Assistants::TokenCounts &counts) const;
     QString titleOf(const std::string &tool) const;
+    bool isShown() const { return m_viewers > 0; }
     Base::Instant now() const;
 
     ApplicationModel &m_model;
@@ -81,7 +82,7 @@ private:
     QVariantList m_cards;
     QVariantList m_sessions;
     std::optional<Base::Instant> m_lookedAt;
-    bool m_isShown = false;
+    int m_viewers = 0;
 };
 
 } // namespace Velvetnook
