@@ -12,6 +12,7 @@
 #include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
 #include "Velvetnook/Application/ViewModels/ScreenTimeViewModel.h"
 #include "Velvetnook/Dock/DockKeeper.h"
+#include "Velvetnook/Notch/KeySummons.h"
 #include "Velvetnook/Notch/NotchDriver.h"
 #include "Velvetnook/Notch/NotchWindow.h"
 #include "Velvetnook/Notch/SurfaceWindow.h"
@@ -177,7 +178,6 @@ public:
 private:
     void needTheRest();
     void followWishes();
-    void followKeys();
     void listen();
     void nameWindows(); // in the language of the moment
     void openSettings();
@@ -283,37 +283,10 @@ void Running::needTheRest()
     // Made before they are wanted, while nothing else is to be done.
     QTimer::singleShot(1000, qGuiApp, [this] { m_driver.prepare(); });
     m_palette = std::make_unique<PaletteWindow>(m_engine, m_app);
-    followKeys();
+    m_keys = std::make_unique<GlobalKeys>(m_model, *m_app.palette());
+    followKeys(*m_keys, m_model, m_app);
     QTimer::singleShot(1500, qGuiApp, [this] { m_palette->prepare(); });
     m_dock = std::make_unique<DockKeeper>(m_engine, m_model, m_app, steadySeconds);
-}
-
-// The keys that work everywhere, and the page of the settings on which they are chosen.
-void Running::followKeys()
-{
-    m_keys = std::make_unique<GlobalKeys>(m_model, *m_app.palette());
-    ShortcutSettings *const page = m_app.settings()->shortcuts();
-    const auto tell = [this, page] {
-        for (const KestCore::ShortcutBinding &each : m_model.companion().shortcuts) {
-            page->setState(each.target, m_keys->stateOf(each.target));
-        }
-    };
-    QObject::connect(m_keys.get(), &GlobalKeys::statesChanged, page, tell);
-    QObject::connect(page, &ShortcutSettings::recordingChanged, m_keys.get(),
-                     [this, page] { m_keys->setPaused(!page->recording().isEmpty()); });
-    QObject::connect(
-        m_keys.get(), &GlobalKeys::summoned, qGuiApp, [this](const QString &target) {
-            PanelViewModel *const panel = m_app.panel();
-            if (target == QLatin1String{"notch"}) {
-                emit panel->toggleWanted();
-                return;
-            }
-            panel->openTool(target);
-            if (target != QLatin1String{"settings"}) { // they have a window of their own
-                emit panel->openWanted(true);
-            }
-        });
-    tell();
 }
 
 void Running::save()

@@ -126,11 +126,14 @@ void recordTakenKey(App &app)
 // A feed that was signed once, with a key that signs nothing else.
 constexpr auto kFeedKey = "3OvEsbcOi1LFZMu+BVsnLdPtlSCZHV0jmsWb4lmnG8w=";
 constexpr auto kFeed =
-    "NKlvekqgf0/5Lkidb0gSsimCeKAiK7XSJvqBofcGipgS3WYS0BG3sTVzPYIMJVDer9R1xT+GJ/YWgXVcRwjkAg==\n"
-    R"({"version":"0.2.0","channel":"stable","notes":"A weather tool, and a dock that keeps to its edge.\n)"
+    "NKlvekqgf0/5Lkidb0gSsimCeKAiK7XSJvqBofcGipgS3WYS0BG3sTVzPYIM"
+    "JVDer9R1xT+GJ/YWgXVcRwjkAg==\n"
+    R"({"version":"0.2.0","channel":"stable","notes":"A weather tool, and a)"
+    R"( dock that keeps to its edge.\n)"
     R"(The counter starts in half the time.",)"
     R"("address":"https://example.org/velvetnook_0.2.0_amd64.deb","size":11,)"
-    R"("sha256":"c67c199595622dfbdc9e415c4a0ad6166eb49cbf74c6aac7bb3e958604d5ecb8","published":"2025-11-13T09:00:00Z"})"
+    R"("sha256":"c67c199595622dfbdc9e415c4a0ad6166eb49cbf74c6aac7bb)"
+    R"(3e958604d5ecb8","published":"2025-11-13T09:00:00Z"})"
     "\n";
 
 void knowUpdate(ShotData &data)
