@@ -17,7 +17,7 @@ namespace
 class EmojiViewModelTest : public testing::Test
 {
 protected:
-    QString at(int row, EmojiList::Role role = EmojiList::emoji) const
+    QString at(int row, EmojiList::Role role = EmojiList::emoji)
     {
         return emoji.list()->index(row, 0).data(role).toString();
     }
