@@ -25,6 +25,7 @@
 #include "Velvetnook/Platform/StartUp.h"
 #include "Velvetnook/Platform/TrayMenu.h"
 
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -110,6 +111,7 @@ void Desktop::begin()
     m_app.music(); // what plays stands in the strip
     new FileOpening{m_app, m_session, this};
     m_app.clipboard()->setDesktop(clipboardServices(this));
+    followClipboard();
 }
 
 void Desktop::followNotifications()
@@ -189,6 +191,17 @@ void Desktop::followLook()
         emit lookChanged(look.isDark, look.reducesMotion, look.wantsContrast);
     });
     m_look->begin();
+}
+
+// Each text field would ask whoever copied whether there is something to paste, and wait five
+// seconds for an answer with everything standing still. Nobody here needs to be told.
+void Desktop::followClipboard()
+{
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) == nullptr) {
+        return; // a program without a display has no clipboard
+    }
+    QGuiApplication::clipboard()->blockSignals(true);
+    m_app.clipboard()->setDesktop(clipboardServices(this));
 }
 
 // The file was put there by us or by the desktop's own settings. Where they turned it off,

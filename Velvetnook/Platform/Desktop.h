@@ -62,6 +62,7 @@ private:
     void followLook();
     void followAutostart();
     void followCapabilities();
+    void followClipboard();
 
     void post(const NotificationRequest &request);
     void hearAnswer(const QString &id, Notifications::Answer answer);
