@@ -50,6 +50,10 @@ constexpr std::array kActions{
                   "write add create"},
     PaletteAction{"dock", QT_TRANSLATE_NOOP("Palette", "Open the dock"), "dock",
                   "workspace side companion applications"},
+    PaletteAction{"clipboard-pause", QT_TRANSLATE_NOOP("Palette", "Pause the clipboard"),
+                  "clipboard", "stop recording copies private"},
+    PaletteAction{"clipboard-resume", QT_TRANSLATE_NOOP("Palette", "Resume the clipboard"),
+                  "clipboard", "record copies unpause"},
     PaletteAction{"forget", QT_TRANSLATE_NOOP("Palette", "Forget what I choose here"), "reset",
                   "reset learning ranking palette history"},
     PaletteAction{"quit", QT_TRANSLATE_NOOP("Palette", "Quit Velvetnook"), "x",
@@ -102,6 +106,10 @@ bool isPossible(const PaletteAction &action, const ApplicationModel &model)
     }
     if (id == "sounds" || id.starts_with("music")) {
         return isToolOn(model.state(), id.substr(0, id.find('-')));
+    }
+    if (id == "clipboard-pause" || id == "clipboard-resume") {
+        return isToolOn(model.state(), "clipboard") && model.isOn("clipboard.enabled") &&
+               model.isOn("clipboard.paused") == (id == "clipboard-resume");
     }
     return id != "remind" || isQuiet;
 }

@@ -248,6 +248,8 @@ void PaletteDeeds::act(std::string_view id)
         m_app.reminders()->pauseUntilTomorrow();
     } else if (id == "remind") {
         m_app.reminders()->endPause();
+    } else if (id == "clipboard-pause" || id == "clipboard-resume") {
+        m_model.changeSetting("clipboard.paused", id == "clipboard-pause" ? "true" : "false");
     } else if (id == "focus") {
         startTimer("pomodoro", 0);
     } else if (id == "stopwatch") {
