@@ -10,6 +10,7 @@
 #include "Velvetnook/Application/Languages.h"
 #include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
 #include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
+#include "Velvetnook/Application/ViewModels/OverlayViewModel.h"
 #include "Velvetnook/Application/ViewModels/ScreenTimeViewModel.h"
 #include "Velvetnook/Dock/DockKeeper.h"
 #include "Velvetnook/Notch/KeySummons.h"
@@ -22,8 +23,11 @@
 #include "Velvetnook/Platform/LastWords.h"
 #include "Velvetnook/Platform/Linux/BusActivation.h"
 #include "Velvetnook/Platform/Linux/DesktopActivity.h"
+#include "Velvetnook/Platform/Linux/KernelLights.h"
 #include "Velvetnook/Platform/Linux/LoginPower.h"
 #include "Velvetnook/Platform/Linux/MonitorOfHost.h"
+#include "Velvetnook/Platform/Linux/PulseServer.h"
+#include "Velvetnook/Platform/OverlayWindow.h"
 #include "Velvetnook/Platform/PaletteWindow.h"
 #include "Velvetnook/Platform/StartUp.h"
 #include "Velvetnook/Shell/Engine.h"
@@ -182,6 +186,7 @@ private:
     void nameWindows(); // in the language of the moment
     void openSettings();
     void openOnboarding();
+    void followLevels();
 
     std::filesystem::path m_file; // the database
     ApplicationModel m_model;
@@ -196,6 +201,8 @@ private:
     std::unique_ptr<PaletteWindow> m_palette;
     std::unique_ptr<GlobalKeys> m_keys;
     std::unique_ptr<DockKeeper> m_dock;
+    std::unique_ptr<OverlayWindow> m_overlay;
+    std::weak_ptr<SoundServer> m_sound; // while somebody asks it
     Desktop m_desktop;
     std::unique_ptr<SurfaceWindow> m_settings;
     std::unique_ptr<SurfaceWindow> m_onboarding;
@@ -268,6 +275,7 @@ void Running::needTheRest()
     m_app.monitor()->begin(monitorOfHost(m_file.parent_path()));
     m_app.screenTime()->service().begin(
         [this] { return std::make_unique<DesktopActivity>(m_desktop.power()); });
+    followLevels();
     m_desktop.follow(*m_activation);
     m_activation->begin();
     if (!m_isQuiet) {
@@ -287,6 +295,25 @@ void Running::needTheRest()
     followKeys(*m_keys, m_model, m_app);
     QTimer::singleShot(1500, qGuiApp, [this] { m_palette->prepare(); });
     m_dock = std::make_unique<DockKeeper>(m_engine, m_model, m_app, steadySeconds);
+}
+
+// One connection to the sound server for all who ask it, and none while nobody does.
+void Running::followLevels()
+{
+    const auto sound = [this] {
+        auto server = m_sound.lock();
+        if (!server) {
+            server = std::make_shared<PulseServer>();
+            m_sound = server;
+        }
+        return std::shared_ptr<SoundServer>{std::move(server)};
+    };
+    m_app.monitor()->mixer()->begin(sound);
+    m_overlay = std::make_unique<OverlayWindow>(m_engine, m_app, m_model);
+    m_app.overlay()->begin([sound] {
+        return LevelSources{.sound = sound(),
+                            .lights = std::make_unique<KernelLights>(QStringLiteral("/sys"))};
+    });
 }
 
 void Running::save()

@@ -15,6 +15,7 @@
 #include "Velvetnook/Application/ViewModels/LinksViewModel.h"
 #include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
 #include "Velvetnook/Application/ViewModels/MusicViewModel.h"
+#include "Velvetnook/Application/ViewModels/OverlayViewModel.h"
 #include "Velvetnook/Application/ViewModels/ScreenTimeViewModel.h"
 #include "Velvetnook/Application/ViewModels/ShelfViewModel.h"
 #include "Velvetnook/Application/ViewModels/SoundMixViewModel.h"
@@ -245,6 +246,7 @@ SoundMixViewModel *App::sounds()
     return m_sounds;
 }
 
+OverlayViewModel *App::overlay() { return made(m_overlay); }
 MonitorViewModel *App::monitor()
 {
     if (m_monitor == nullptr) {

@@ -37,6 +37,7 @@ class FilesViewModel;
 class InsightsViewModel;
 class LinksViewModel;
 class MonitorViewModel;
+class OverlayViewModel;
 class MusicViewModel;
 class ScreenTimeViewModel;
 class ShelfViewModel;
@@ -58,6 +59,7 @@ class App : public QObject
     Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/InsightsViewModel.h")
     Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/LinksViewModel.h")
     Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/MonitorViewModel.h")
+    Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/OverlayViewModel.h")
     Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/MusicViewModel.h")
     Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/ScreenTimeViewModel.h")
     Q_MOC_INCLUDE("Velvetnook/Application/ViewModels/ShelfViewModel.h")
@@ -89,6 +91,7 @@ class App : public QObject
     Q_PROPERTY(Velvetnook::InsightsViewModel *insights READ insights CONSTANT)
     Q_PROPERTY(Velvetnook::MusicViewModel *music READ music CONSTANT)
     Q_PROPERTY(Velvetnook::SoundMixViewModel *sounds READ sounds CONSTANT)
+    Q_PROPERTY(Velvetnook::OverlayViewModel *overlay READ overlay CONSTANT)
     Q_PROPERTY(Velvetnook::MonitorViewModel *monitor READ monitor CONSTANT)
     Q_PROPERTY(Velvetnook::ScreenTimeViewModel *screenTime READ screenTime CONSTANT)
     Q_PROPERTY(Velvetnook::AssistantsViewModel *assistants READ assistants CONSTANT)
@@ -130,6 +133,7 @@ public:
     InsightsViewModel *insights();
     MusicViewModel *music();
     SoundMixViewModel *sounds();
+    OverlayViewModel *overlay();
     MonitorViewModel *monitor();
     ScreenTimeViewModel *screenTime();
     AssistantsViewModel *assistants();
@@ -173,6 +177,7 @@ private:
     InsightsViewModel *m_insights = nullptr;
     MusicViewModel *m_music = nullptr;
     SoundMixViewModel *m_sounds = nullptr;
+    OverlayViewModel *m_overlay = nullptr;
     MonitorViewModel *m_monitor = nullptr;
     ScreenTimeViewModel *m_screenTime = nullptr;
     AssistantsViewModel *m_assistants = nullptr;

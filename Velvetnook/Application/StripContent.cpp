@@ -97,6 +97,10 @@ StripStep Strip::step()
     if (m_sources.countedAt) {
         lookAgain(*m_sources.countedAt + kCountingTime);
     }
+    if (m_sources.isLent) {
+        return {.content = {.kind = QStringLiteral("lent"), .isNarrow = true},
+                .changesAt = m_changesAt};
+    }
     using Source = Content (Strip::*)();
     static constexpr Source kOrder[]{
         &Strip::emphasis,     &Strip::message,    &Strip::prayerNow,

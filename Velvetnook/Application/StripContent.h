@@ -76,6 +76,7 @@ struct StripSources {
     std::optional<ShortMessage> message{};
     std::optional<WaitingAssistant> waiting{};
     std::optional<NowPlaying> nowPlaying{};
+    bool isLent{};    // something larger stands in its place for a moment
     bool canBeSeen{}; // what cannot be seen counts no seconds
 };
 

@@ -5,6 +5,7 @@
 #include "MonitorCore/MonitorPreferences.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
+#include "Velvetnook/Application/ViewModels/OverlayViewModel.h"
 #include "Velvetnook/Application/ViewModels/ScreenTimeViewModel.h"
 #include "Velvetnook/Shots/Shot.h"
 
@@ -290,11 +291,52 @@ Shot screenTime(const char *name, bool hasUsage,
                 }};
 }
 
+class ShotSound : public SoundServer
+{
+public:
+    QString problem() const override { return {}; }
+    std::optional<SystemVolume> volume() const override { return SystemVolume{.level = 0.6}; }
+    std::vector<AudioStream> streams() const override
+    {
+        return {{.index = 1,
+                 .application = "Firefox",
+                 .title = "A lecture, part 2",
+                 .level = 0.8,
+                 .isPlaying = true},
+                {.index = 2, .application = "Music", .title = "Playback", .level = 0.45},
+                {.index = 3,
+                 .application = "Calls",
+                 .title = "Ring",
+                 .level = 1,
+                 .isMuted = true,
+                 .isPlaying = true}};
+    }
+    void setLevel(std::uint32_t, double) override {}
+    void setMuted(std::uint32_t, bool) override {}
+};
+
+Shot overlay(const char *name, OverlayViewModel::Kind kind, double share, bool isMuted)
+{
+    return {.name = QLatin1String{name},
+            .surface = QStringLiteral("Overlay"),
+            .arrange = [=](App &app) { app.overlay()->show(kind, share, isMuted); }};
+}
+
 } // namespace
 
 std::vector<Shot> monitorShots()
 {
     return {
+        overlay("overlay-volume", OverlayViewModel::Kind::volume, 0.64, false),
+        overlay("overlay-muted", OverlayViewModel::Kind::volume, 0.64, true),
+        overlay("overlay-brightness", OverlayViewModel::Kind::screen, 0.4, false),
+        monitor("monitor-mixer", {},
+                [](MonitorViewModel &view) {
+                    view.mixer()->begin([] { return std::make_shared<ShotSound>(); });
+                    view.showPage(QStringLiteral("mixer"));
+                }),
+        monitor("monitor-silent", {},
+                [](MonitorViewModel &view) { view.showPage(QStringLiteral("mixer")); }),
         screenTime("screentime", true),
         screenTime("screentime-week", true,
                    [](ScreenTimeViewModel &view) { view.setPeriod(QStringLiteral("week")); }),

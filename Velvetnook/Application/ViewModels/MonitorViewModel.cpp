@@ -45,7 +45,8 @@ MonitorViewModel::MonitorViewModel(ApplicationModel &model, const Formatting &fo
       m_tiles{new MonitorTile{MonitorTile::Kind::cpu, formatting, this},
               new MonitorTile{MonitorTile::Kind::memory, formatting, this},
               new MonitorTile{MonitorTile::Kind::disk, formatting, this},
-              new MonitorTile{MonitorTile::Kind::network, formatting, this}}
+              new MonitorTile{MonitorTile::Kind::network, formatting, this}},
+      m_mixer{formatting}
 {
     connect(&m_service, &MonitorService::sampled, this, [this] { take(true); });
     connect(&m_service, &MonitorService::alertsChanged, this, &MonitorViewModel::alertsChanged);

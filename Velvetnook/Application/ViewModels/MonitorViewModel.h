@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/Monitor/MonitorService.h"
 #include "Velvetnook/Application/NotificationRequest.h"
+#include "Velvetnook/Application/ViewModels/Monitor/MixerRows.h"
 #include "Velvetnook/Application/ViewModels/Monitor/MonitorChart.h"
 #include "Velvetnook/Application/ViewModels/Monitor/MonitorOptions.h"
 #include "Velvetnook/Application/ViewModels/Monitor/MonitorRows.h"
@@ -33,7 +34,7 @@ class MonitorViewModel : public QObject
     Q_PROPERTY(bool homeWatched READ homeWatched WRITE setHomeWatched NOTIFY watchedChanged)
     Q_PROPERTY(QString availability READ availability NOTIFY changed)
     Q_PROPERTY(QVariantList tiles READ tiles CONSTANT) // CPU, memory, disk, network
-    // overview, app, chart, machine or options
+    // overview, app, chart, machine, mixer or options
     Q_PROPERTY(QString page READ page NOTIFY pageChanged)
     Q_PROPERTY(Velvetnook::MonitorRows *apps READ apps CONSTANT)
     Q_PROPERTY(Velvetnook::MonitorRows *processes READ processes CONSTANT)  // of the chosen one
@@ -57,6 +58,7 @@ class MonitorViewModel : public QObject
     Q_PROPERTY(QString questionVerb READ questionVerb NOTIFY questionChanged)
     Q_PROPERTY(bool questionKills READ questionKills NOTIFY questionChanged)
     Q_PROPERTY(QUrl imageFile READ imageFile NOTIFY pageChanged) // offered for the export
+    Q_PROPERTY(Velvetnook::MixerRows *mixer READ mixer CONSTANT)
     Q_PROPERTY(Velvetnook::MonitorChart *chart READ chart CONSTANT)
     Q_PROPERTY(Velvetnook::MonitorOptions *options READ options CONSTANT)
 
@@ -98,6 +100,7 @@ public:
     QString questionVerb() const;
     bool questionKills() const;
     QUrl imageFile() const;
+    MixerRows *mixer() { return &m_mixer; }
     MonitorChart *chart() { return &m_chart; }
     MonitorOptions *options() { return &m_options; }
 
@@ -156,6 +159,7 @@ private:
     MonitorChart m_chart;
     MonitorOptions m_options;
     std::array<MonitorTile *, 4> m_tiles;
+    MixerRows m_mixer;
     MonitorRows m_apps;
     MonitorRows m_processes;
     MonitorRows m_readings;

@@ -136,7 +136,7 @@ QString ScreenTimeViewModel::dayName(const KestCore::UsageDay &day) const
 QString ScreenTimeViewModel::title() const
 {
     if (m_isWeek) {
-        return tr("The last seven days");
+        return tr("7 days", "the last ones");
     }
     const KestCore::UsageDay *day = chosen();
     return m_chosen == kDays - 1 || day == nullptr ? tr("Today") : dayName(*day);

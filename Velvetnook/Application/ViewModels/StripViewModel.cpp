@@ -217,6 +217,13 @@ void StripViewModel::setNowPlaying(std::optional<NowPlaying> nowPlaying)
     }
 }
 
+void StripViewModel::setLent(bool isLent)
+{
+    if (std::exchange(m_sources.isLent, isLent) != isLent) {
+        refresh();
+    }
+}
+
 void StripViewModel::setVisible(bool isVisible)
 {
     if (std::exchange(m_sources.canBeSeen, isVisible) != isVisible) {

@@ -86,6 +86,8 @@ public:
     void setNowPlaying(std::optional<NowPlaying> nowPlaying);
     // The window says whether the strip can be seen.
     void setVisible(bool isVisible);
+    // While something larger stands in its place.
+    void setLent(bool isLent);
     // What is said while the panel is open stands there, and not here afterwards.
     void setPanelOpen(bool isOpen) { m_isPanelOpen = isOpen; }
 

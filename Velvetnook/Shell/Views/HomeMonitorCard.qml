@@ -23,7 +23,6 @@ Card {
         visible: App.monitor.availability !== "error"
         width: parent.width
         spacing: 20
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
 
         Repeater {
             model: App.monitor.tiles.slice(0, 2)

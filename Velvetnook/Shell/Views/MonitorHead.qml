@@ -54,6 +54,5 @@ Item {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         spacing: 6
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
     }
 }

@@ -29,7 +29,6 @@ Item {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         activeFocusOnTab: true
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
         Accessible.role: Accessible.List
         Accessible.name: qsTr("All readings")
         delegate: Item {

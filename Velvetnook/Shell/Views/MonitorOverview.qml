@@ -18,7 +18,6 @@ Item {
         anchors.left: parent.left
         columns: 2
         spacing: 8
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
 
         Repeater {
             model: App.monitor.tiles
@@ -48,7 +47,6 @@ Item {
         anchors.left: parent.left
         y: 190
         spacing: 6
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
 
         Chip {
             iconName: "history"
@@ -59,6 +57,11 @@ Item {
             iconName: "info"
             text: qsTr("All readings")
             onClicked: App.monitor.showPage("machine")
+        }
+        Chip {
+            iconName: "volume"
+            text: qsTr("Volumes")
+            onClicked: App.monitor.showPage("mixer")
         }
         Chip {
             iconName: "bell"

@@ -16,6 +16,7 @@ Item {
     readonly property Component footerContent: foot
     readonly property var sources: ({overview: "MonitorOverview.qml", app: "MonitorAppPage.qml",
                                      chart: "MonitorChartPage.qml", machine: "MonitorMachinePage.qml",
+                                     mixer: "MonitorMixerPage.qml",
                                      options: "MonitorOptionsPage.qml"})
 
     function exportImage() {

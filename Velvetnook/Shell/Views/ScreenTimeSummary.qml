@@ -35,7 +35,6 @@ Item {
         anchors.left: parent.left
         y: 42
         spacing: 5
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
         Accessible.role: Accessible.StaticText
         Accessible.name: [App.screenTime.hours === "" ? "" : qsTr("%1 h").arg(App.screenTime.hours),
                           qsTr("%1 min").arg(App.screenTime.minutes)].join(" ")
@@ -71,27 +70,31 @@ Item {
             Accessible.ignored: true
         }
     }
-    Txt {
+    Column {
         y: 82
         width: parent.width
-        horizontalAlignment: Text.AlignLeft
-        role: "note"
-        text: App.screenTime.comparison
-        color: Theme.color.text3
-    }
-    Txt {
-        y: 100
-        width: parent.width
-        horizontalAlignment: Text.AlignLeft
-        role: "note"
-        text: App.screenTime.stretch
-        color: Theme.color.text3
+
+        Txt {
+            width: parent.width
+            horizontalAlignment: Text.AlignLeft
+            role: "note"
+            text: App.screenTime.comparison
+            color: Theme.color.text3
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+        }
+        Txt {
+            width: parent.width
+            horizontalAlignment: Text.AlignLeft
+            role: "note"
+            text: App.screenTime.stretch
+            color: Theme.color.text3
+        }
     }
     Row {
         anchors.left: parent.left
         y: 128
         spacing: 10
-        layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
 
         Repeater {
             model: App.screenTime.days

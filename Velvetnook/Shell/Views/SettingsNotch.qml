@@ -108,5 +108,17 @@ Column {
             }
         }
     }
+    SettingsGroup {
+        title: qsTr("Volume and brightness")
+        SettingsRow {
+            title: qsTr("Show the level in the strip")
+            note: qsTr("For a moment when a key changes it. Turn off the one of your desktop, if it shows its own.")
+            Toggle {
+                name: qsTr("Show the level in the strip")
+                checked: root.page.overlay
+                onToggled: checked => root.page.overlay = checked
+            }
+        }
+    }
     ExclusionGroup { page: root.page }
 }

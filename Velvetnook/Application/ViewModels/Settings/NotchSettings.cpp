@@ -99,6 +99,8 @@ QString NotchSettings::openDelayText() const
 
 bool NotchSettings::hiddenAtRest() const { return !isOn("notch.compactWhenIdle", true); }
 
+bool NotchSettings::overlay() const { return isOn("overlay.enabled", false); }
+
 QString NotchSettings::screen() const
 {
     const auto &chosen = model().state().displayID;
@@ -177,6 +179,8 @@ void NotchSettings::setOpenDelay(double seconds)
 }
 
 void NotchSettings::setHiddenAtRest(bool on) { set("notch.compactWhenIdle", !on); }
+
+void NotchSettings::setOverlay(bool on) { set("overlay.enabled", on); }
 
 void NotchSettings::setScreen(const QString &value)
 {

@@ -25,6 +25,7 @@ class NotchSettings : public SettingsPage
     Q_PROPERTY(double openDelay READ openDelay WRITE setOpenDelay NOTIFY changed) // seconds
     Q_PROPERTY(QString openDelayText READ openDelayText NOTIFY changed)
     Q_PROPERTY(bool hiddenAtRest READ hiddenAtRest WRITE setHiddenAtRest NOTIFY changed)
+    Q_PROPERTY(bool overlay READ overlay WRITE setOverlay NOTIFY changed)
     Q_PROPERTY(QString screen READ screen WRITE setScreen NOTIFY changed)
     Q_PROPERTY(QVariantList screens READ screens NOTIFY screensChanged)
     Q_PROPERTY(QStringList exclusions READ exclusions NOTIFY changed)
@@ -46,6 +47,7 @@ public:
     double openDelay() const;
     QString openDelayText() const;
     bool hiddenAtRest() const;
+    bool overlay() const;
     QString screen() const; // its number, empty for the main one
     QVariantList screens() const;
     QStringList exclusions() const;
@@ -59,6 +61,7 @@ public:
     void setPinMode(const QString &value);
     void setOpenDelay(double seconds);
     void setHiddenAtRest(bool on);
+    void setOverlay(bool on);
     void setScreen(const QString &value);
 
     // False, with a refusal, for a name that can't be one; it stays in its field.
