@@ -191,7 +191,7 @@ public:
     }
     QString socket() const
     {
-        return QString::fromStdString((m_folder.path() / "pulse").string());
+        return QString::fromStdString((m_folder.path() / "sound.socket").string());
     }
     static int control(const QStringList &arguments)
     {
