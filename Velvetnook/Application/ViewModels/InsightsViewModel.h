@@ -72,7 +72,7 @@ public:
     bool canRefresh() const;
     QString period() const;
     void setPeriod(const QString &period);
-    static QVariantList periods() { return insightPeriods(); }
+    QVariantList periods() const { return insightPeriods(m_formatting); }
     QString currency() const;
     void setCurrency(const QString &currency);
     QVariantList currencies() const;

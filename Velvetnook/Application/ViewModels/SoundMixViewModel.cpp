@@ -313,7 +313,7 @@ void SoundMixViewModel::mix(Base::Seconds fade)
     }
     SoundMixer::Gains gains;
     for (const auto &[id, volume] : m_mix) {
-        gains[id] = loudness(volume) * loudness(m_volume);
+        gains[id] = loudness(volume) * m_volume;
     }
     m_mixer->play(gains, fade);
 }

@@ -26,7 +26,7 @@ Card {
         iconName: root.model.skyIcon
         text: root.model.hasForecast ? root.model.sky : qsTr("Weather")
     }
-    Txt {
+    Digits {
         visible: root.model.hasForecast
         anchors.left: parent.left
         y: 26

@@ -54,6 +54,12 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
+        onLoaded: {
+            item.focus = true;
+            if (root.activeFocus) {
+                item.forceActiveFocus(Qt.OtherFocusReason);
+            }
+        }
         sourceComponent: root.page === "connect" ? connection
                        : root.model.hasReport && root.model.availability !== "empty" ? report
                        : missing

@@ -15,7 +15,7 @@ FocusScope {
                                          ? qsTr("Private windows are never read") : ""
     readonly property var footerKeys: isTabPage || model.availability !== "ready" ? []
         : [{key: qsTr("Space", "the key"), text: qsTr("play or pause")},
-           {key: "←→", text: qsTr("seek 5 s")}, {key: "M", text: qsTr("mute")}]
+           {key: "←→", text: qsTr("seek %1 s").arg(App.format.number(5))}, {key: "M", text: qsTr("mute")}]
     property string page: ""
 
     function takeKey(key) {
@@ -75,6 +75,12 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
+        onLoaded: {
+            item.focus = true;
+            if (root.activeFocus) {
+                item.forceActiveFocus(Qt.OtherFocusReason);
+            }
+        }
         sourceComponent: root.isTabPage ? tabPage
                        : root.model.availability === "ready" ? playing : nothing
     }

@@ -55,12 +55,11 @@ FocusScope {
         Accessible.role: Accessible.StaticText
         Accessible.name: root.model.spoken
 
-        Txt {
+        Digits {
             id: degrees
 
             anchors.left: parent.left
-            role: "display"
-            lineHeight: 70
+            anchors.verticalCenter: parent.verticalCenter
             text: root.model.temperature
             color: root.first
             Accessible.ignored: true

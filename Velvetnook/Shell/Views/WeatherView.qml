@@ -9,7 +9,7 @@ FocusScope {
     id: root
 
     readonly property QtObject model: App.weather
-    readonly property Component footerContent: footer
+    readonly property Component footerContent: page === "place" ? null : footer
     readonly property Item mainItem: body.item
     property string page: "hours" // or days, or place
 
@@ -54,6 +54,12 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
+        onLoaded: {
+            item.focus = true;
+            if (root.activeFocus) {
+                item.forceActiveFocus(Qt.OtherFocusReason);
+            }
+        }
         sourceComponent: root.page === "place" ? places
                        : root.model.hasForecast ? forecast
                        : root.model.availability === "loading" ? loading : missing

@@ -89,6 +89,8 @@ using KestCore::InsightReport;
                                 "that."),
     QT_TRANSLATE_NOOP("Engine", "There is no keyring (Secret Service) here to keep the key "
                                 "in."),
+    QT_TRANSLATE_NOOP("Engine",
+                      "There is no default keyring to keep the key in. Make one first."),
     QT_TRANSLATE_NOOP("Engine", "The keyring is locked. Unlock it, and try again."),
 };
 
@@ -166,16 +168,16 @@ QVariantMap list(const QString &title, const std::vector<InsightMetric> &metrics
 
 } // namespace
 
-QVariantList insightPeriods()
+QVariantList insightPeriods(const Formatting &formatting)
 {
     const auto option = [](const char *value, const QString &label) {
         return QVariantMap{{QStringLiteral("value"), QLatin1String{value}},
                            {QStringLiteral("label"), label}};
     };
     return {option("today", InsightWords::tr("Today")),
-            option("7d", InsightWords::tr("7 days")),
-            option("30d", InsightWords::tr("30 days")),
-            option("90d", InsightWords::tr("90 days")),
+            option("7d", formatting.digits(InsightWords::tr("7 days"))),
+            option("30d", formatting.digits(InsightWords::tr("30 days"))),
+            option("90d", formatting.digits(InsightWords::tr("90 days"))),
             option("month", InsightWords::tr("This month")),
             option("year", InsightWords::tr("This year"))};
 }

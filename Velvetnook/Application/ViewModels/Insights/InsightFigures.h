@@ -18,7 +18,7 @@ class ApplicationModel;
 class Formatting;
 
 // The periods to choose from: {value, label}.
-QVariantList insightPeriods();
+QVariantList insightPeriods(const Formatting &formatting);
 
 // The currencies that a report of payments tells of, in its order; none of one about visitors.
 std::vector<std::string> currenciesOf(const KestCore::InsightReport &report);
