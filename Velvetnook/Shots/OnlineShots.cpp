@@ -10,6 +10,11 @@
 #include "Velvetnook/Application/ViewModels/WeatherViewModel.h"
 #include "Velvetnook/Shots/Shot.h"
 
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+#include <QUrl>
+
 #include <fmt/format.h>
 
 #include <array>
@@ -176,6 +181,30 @@ std::function<void(App &)> withPlayers(std::vector<MediaPlayers::Player> players
     };
 }
 
+// A picture as a player would leave one.
+std::string cover()
+{
+    QImage image{240, 240, QImage::Format_RGB32};
+    image.fill(QColor{0x31504B});
+    QPainter painter{&image};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    struct Disc {
+        QRgb colour;
+        int middle;
+        int radius;
+    };
+    for (const auto &[colour, middle, radius] :
+         {Disc{0x5D8277, 132, 88}, Disc{0xA9C4A6, 156, 60}, Disc{0xEDE3C4, 184, 34}}) {
+        painter.setBrush(QColor{colour});
+        painter.drawEllipse(QPoint{120, middle}, radius, radius);
+    }
+    painter.end();
+    const QString path = QDir::temp().filePath(QStringLiteral("velvetnook-shot-cover.png"));
+    return image.save(path) ? QUrl::fromLocalFile(path).toString().toStdString()
+                            : std::string{};
+}
+
 MediaPlayers::Player song()
 {
     return {.name = "chromium.instance1",
@@ -183,6 +212,7 @@ MediaPlayers::Player song()
             .status = MediaPlayers::Player::Status::playing,
             .title = "Evening on the Estuary",
             .artist = "Harbour Quartet",
+            .art = cover(),
             .position = 112,
             .duration = 296,
             .volume = 0.64,
@@ -199,6 +229,7 @@ std::vector<Shot> musicShots()
     lasting.status = MediaPlayers::Player::Status::paused;
     lasting.title = "إذاعة القرآن الكريم من القاهرة، تلاوات مختارة لكبار القراء في العالم";
     lasting.artist = "";
+    lasting.art = "file:///dev/zero"; // is never read
     lasting.duration = 0;
     lasting.volume = std::numeric_limits<double>::quiet_NaN();
     Shot strip = tool("strip-music", "", {}, withPlayers({song()}));

@@ -229,6 +229,12 @@ QString MusicViewModel::source() const
                                               : shownName(*m_player);
 }
 
+QString MusicViewModel::sourceIcon() const
+{
+    const bool isWeb = m_isTab || (m_player && MediaPlayers::isBrowser(*m_player));
+    return isWeb ? QStringLiteral("out") : QStringLiteral("music");
+}
+
 QVariantList MusicViewModel::sources() const
 {
     const QString chosen = QString::fromUtf8(m_model.setting(kSourceKey));

@@ -32,7 +32,7 @@ class MusicViewModel : public QObject
     Q_PROPERTY(bool isShown READ isShown WRITE setShown NOTIFY isShownChanged)
     Q_PROPERTY(QString availability READ availability NOTIFY changed)
     Q_PROPERTY(QString message READ message NOTIFY changed)
-    Q_PROPERTY(bool isTab READ isTab NOTIFY changed)
+    Q_PROPERTY(QString sourceIcon READ sourceIcon NOTIFY changed)
     Q_PROPERTY(QString source READ source NOTIFY changed)
     Q_PROPERTY(QVariantList sources READ sources NOTIFY changed) // {value, text, checked}
     Q_PROPERTY(bool isInStrip READ isInStrip WRITE setInStrip NOTIFY changed)
@@ -63,7 +63,7 @@ public:
     void setShown(bool isShown);
     QString availability() const;
     QString message() const;
-    bool isTab() const { return m_isTab; }
+    QString sourceIcon() const;
     QString source() const;
     QVariantList sources() const;
     bool isInStrip() const;

@@ -12,6 +12,7 @@ T.AbstractButton {
     property bool chosen: false
     property bool small: false
     property bool bare: false // without an outline, as a quiet link
+    property color restInk: Theme.color.text2
     property bool iconTrails: false
     property int iconSize: 14
     property int pixelSize: 12
@@ -23,7 +24,7 @@ T.AbstractButton {
                                      : lit ? Theme.color.bg2 : Qt.alpha(Theme.color.bg2, 0)
     readonly property color chosenFill:
         Qt.tint(Theme.color.soft2, Qt.alpha(Theme.color.accent, down ? 0.24 : lit ? 0.12 : 0))
-    readonly property color plainInk: chosen ? Theme.color.accent : Theme.color.text2
+    readonly property color plainInk: chosen ? Theme.color.accent : restInk
     readonly property color ink: !enabled ? Theme.color.text4
                                : chosen && down ? Theme.color.text1 : plainInk
 

@@ -35,7 +35,8 @@ FocusScope {
             small: true
             bare: true
             horizontalPadding: 8
-            iconName: root.model.isTab ? "out" : "music"
+            iconName: root.model.sourceIcon
+            restInk: hovered ? Theme.color.text2 : Theme.color.text3
             iconSize: 13
             pixelSize: 11
             text: root.model.source
@@ -91,7 +92,7 @@ FocusScope {
                 enabled: root.model.canSeek
                 to: Math.max(1, root.model.duration)
                 step: 5
-                value: root.model.position
+                value: root.model.duration > 0 ? root.model.position : 0
                 fill: Theme.color.accent
                 name: qsTr("Position")
                 valueText: qsTr("%1 of %2").arg(root.model.positionText).arg(root.model.durationText)
