@@ -86,11 +86,11 @@ FocusScope {
             id: sources
 
             anchors.fill: parent
-            active: root.side === "sources"
-            visible: active
-            sourceComponent: CalendarSources {
-                onLeaveWanted: root.leave()
-            }
+            source: root.side === "sources" ? "CalendarSources.qml" : ""
+        }
+        Connections {
+            target: sources.item
+            function onLeaveWanted() { root.leave(); }
         }
         DropArea {
             anchors.fill: parent

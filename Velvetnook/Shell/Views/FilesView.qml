@@ -108,6 +108,7 @@ FocusScope {
 
         anchors.fill: parent
         anchors.topMargin: 42
+        visible: !closer.visible
         focus: true
         activeFocusOnTab: true
         interactive: false // a row that is pulled goes to another program

@@ -41,6 +41,8 @@ Item {
             field.text = title;
             field.forceActiveFocus();
             field.selectAll();
+        } else {
+            field.focus = false; // else the list would give it the keys again
         }
     }
 

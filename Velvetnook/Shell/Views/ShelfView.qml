@@ -75,7 +75,7 @@ FocusScope {
 
         anchors.fill: parent
         anchors.rightMargin: -12
-        visible: root.model.count > 0
+        visible: root.model.count > 0 && !closer.visible
         focus: true
         activeFocusOnTab: true
         keyNavigationEnabled: true
