@@ -96,11 +96,11 @@ FileGlance glanceAt(const QString &path)
     if (info.isDir()) {
         glance.family = QStringLiteral("folder");
         glance.badge.clear();
-    } else if (glance.isThere) {
+    } else if (info.isFile()) { // of what only has the name of one there is no picture
         glance.size = info.size();
     }
     glance.hasPreview = glance.family == u"picture"
-                            ? glance.isThere && glance.size <= kLargestPicture
+                            ? glance.size > 0 && glance.size <= kLargestPicture
                             : glance.size > 0 && !thumbnailOf(path).isEmpty();
     glance.modifiedMs = glance.isThere ? info.lastModified().toMSecsSinceEpoch() : 0;
     return glance;

@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/FileGlance.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
@@ -23,6 +24,9 @@ constexpr double kCorner = 10.0 / 66;      // of the height
 
 QImage read(const QString &path, const QSize &wanted, Qt::AspectRatioMode mode)
 {
+    if (!QFileInfo{path}.isFile()) {
+        return {}; // reading a pipe would wait for ever
+    }
     QImageReader reader{path};
     reader.setAutoTransform(true);
     const QSize size = reader.size();

@@ -16,6 +16,8 @@
 #include <QImage>
 #include <QSignalSpy>
 
+#include <sys/stat.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -365,6 +367,10 @@ TEST(PreviewImagesTest, DrawsNoMoreThanIsAskedFor)
     EXPECT_EQ(preview(file, "whole/", {9'000, 9'000}).size(), QSize(400, 100));
     EXPECT_TRUE(preview(file, "", {}).isNull());
     EXPECT_TRUE(preview(folder.path() / "none.png", "", {100, 66}).isNull());
+    const fs::path pipe = folder.path() / "pipe.png";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_TRUE(preview(pipe, "", {100, 66}).isNull());
+    EXPECT_FALSE(glanceAt(QString::fromStdString(pipe)).hasPreview);
 }
 
 // A few bytes that say they are nine hundred million pixels.

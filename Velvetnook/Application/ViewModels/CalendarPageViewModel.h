@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QUrl>
+#include <QVariantList>
 
 #include <functional>
 #include <optional>
@@ -40,6 +41,9 @@ class CalendarPageViewModel : public QObject
     Q_PROPERTY(QString message READ message NOTIFY changed)
     Q_PROPERTY(QString problem READ problem NOTIFY changed) // of some of the files
     Q_PROPERTY(QString footer READ footer NOTIFY changed)
+    // The day that weeks begin with: "" as in the user's country, or "monday" to "sunday".
+    Q_PROPERTY(QString weekStart READ weekStart WRITE setWeekStart NOTIFY changed)
+    Q_PROPERTY(QVariantList weekStarts READ weekStarts NOTIFY changed) // {value, label}
     Q_PROPERTY(bool isTwelveHours READ isTwelveHours NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel *sources READ sources CONSTANT)
     Q_PROPERTY(int sourceCount READ sourceCount NOTIFY changed)
@@ -64,6 +68,9 @@ public:
     QString message() const;
     QString problem() const;
     QString footer() const;
+    QString weekStart() const;
+    void setWeekStart(const QString &day);
+    QVariantList weekStarts() const;
     bool isTwelveHours() const;
     QAbstractItemModel *sources() { return &m_sources; }
     const std::vector<SourceRow> &sourceList() const { return m_sources.rows(); }

@@ -82,7 +82,7 @@ FocusScope {
 
         y: 38 + field.implicitHeight + 6
         width: parent.width
-        height: parent.height - y
+        height: start.y - y - 6
         activeFocusOnTab: true
         clip: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
@@ -135,6 +135,24 @@ FocusScope {
                 text: row.problem
             }
         }
+    }
+    Txt {
+        anchors.left: parent.left
+        anchors.leftMargin: 8
+        anchors.verticalCenter: start.verticalCenter
+        role: "label"
+        color: Theme.color.text2
+        text: qsTr("Weeks begin on")
+    }
+    Picker {
+        id: start
+
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        name: qsTr("Weeks begin on")
+        options: root.model.weekStarts
+        value: root.model.weekStart
+        onChosen: value => root.model.weekStart = value
     }
     Connections {
         target: root.model

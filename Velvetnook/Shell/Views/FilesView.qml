@@ -25,12 +25,12 @@ FocusScope {
         if ((isCommand && key === Qt.Key_F) || (rows.activeFocus && key === Qt.Key_Slash)) {
             field.forceActiveFocus();
             field.selectAll();
+        } else if (rows.activeFocus && (key === Qt.Key_Left || key === Qt.Key_Right)) {
+            model.section = model.section === "recent" ? "pinned" : "recent";
         } else if (!rows.activeFocus || !row) {
             event.accepted = false;
         } else if (isAlt && (key === Qt.Key_Up || key === Qt.Key_Down)) {
             model.move(row.path, key === Qt.Key_Up ? -1 : 1);
-        } else if (key === Qt.Key_Left || key === Qt.Key_Right) {
-            model.section = model.section === "recent" ? "pinned" : "recent";
         } else if (key === Qt.Key_Return || key === Qt.Key_Enter) {
             model.open(row.path);
         } else if (key === Qt.Key_Space) {

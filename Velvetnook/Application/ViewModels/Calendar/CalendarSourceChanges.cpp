@@ -4,14 +4,52 @@
 #include "KestCore/Tools/CalendarSources.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/EngineText.h"
+#include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/ViewModels/CalendarPageViewModel.h"
 
 #include <QDir>
+#include <QLocale>
 #include <QPointer>
 
-// What the view model of the calendar does to the list of the user's files.
+// What the view model of the calendar does to its settings: the list of the user's files and
+// the first day of the week.
 namespace Velvetnook
 {
+
+namespace
+{
+
+constexpr const char *kWeekStart = "calendar.weekStart";
+
+} // namespace
+
+QString CalendarPageViewModel::weekStart() const
+{
+    const auto chosen = m_model.setting(kWeekStart);
+    return QString::fromUtf8(chosen.data(), static_cast<qsizetype>(chosen.size()));
+}
+
+void CalendarPageViewModel::setWeekStart(const QString &day)
+{
+    if (day.isEmpty()) {
+        m_model.removeSetting(kWeekStart);
+    } else {
+        m_model.changeSetting(kWeekStart, day.toStdString());
+    }
+}
+
+QVariantList CalendarPageViewModel::weekStarts() const
+{
+    const auto option = [](const char *value, const QString &label) {
+        return QVariantMap{{QStringLiteral("value"), QLatin1String{value}},
+                           {QStringLiteral("label"), label}};
+    };
+    const QLocale locale = m_formatting.locale();
+    return {option("", tr("As in my country")),
+            option("monday", locale.standaloneDayName(Qt::Monday)),
+            option("saturday", locale.standaloneDayName(Qt::Saturday)),
+            option("sunday", locale.standaloneDayName(Qt::Sunday))};
+}
 
 void CalendarPageViewModel::refuse(const QString &reason)
 {

@@ -245,10 +245,12 @@ void ShelfViewModel::rename(const QString &id, const QString &title)
             return {};
         };
     };
-    changeListThen(m_model, this, kindOf(), change(title), [this, id, before = row->title] {
-        emit changed(tr("Renamed here; the file keeps its name"),
-                     [this, id, before] { rename(id, before); });
-    });
+    const QString message =
+        row->path.isEmpty() ? tr("Renamed") : tr("Renamed here; the file keeps its name");
+    changeListThen(m_model, this, kindOf(), change(title),
+                   [this, id, message, before = row->title] {
+                       emit changed(message, [this, id, before] { rename(id, before); });
+                   });
 }
 
 void ShelfViewModel::remove(const QString &id)
