@@ -29,6 +29,12 @@ FocusScope {
         dialog.open();
     }
 
+    // The dialog has kept the keys.
+    function answered() {
+        App.panel.endDialog();
+        field.forceActiveFocus();
+    }
+
     Keys.onEscapePressed: leaveWanted()
 
     IconButton {
@@ -164,13 +170,13 @@ FocusScope {
         title: qsTr("Add a calendar file")
         nameFilters: [qsTr("Calendars (*.ics)"), qsTr("All files (*)")]
         onAccepted: root.model.addSourceUrl(selectedFile)
-        onVisibleChanged: if (!visible) { App.panel.endDialog(); }
+        onVisibleChanged: if (!visible) { root.answered(); }
     }
     FolderDialog {
         id: folder
 
         title: qsTr("Add a folder of calendars")
         onAccepted: root.model.addSourceUrl(selectedFolder)
-        onVisibleChanged: if (!visible) { App.panel.endDialog(); }
+        onVisibleChanged: if (!visible) { root.answered(); }
     }
 }
