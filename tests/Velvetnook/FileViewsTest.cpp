@@ -31,6 +31,13 @@ std::vector<std::string> titlesOnShelf(RunningModel &running)
     return titles;
 }
 
+void type(Stage &stage, const char *text)
+{
+    for (; *text != '\0'; ++text) {
+        QTest::keyClick(&stage.window(), *text);
+    }
+}
+
 TEST(FileViewsTest, TheShelfHasItsKeysBackAfterANewName)
 {
     Stage stage;
@@ -38,13 +45,13 @@ TEST(FileViewsTest, TheShelfHasItsKeysBackAfterANewName)
     shelve(stage.running(), "second");
     ASSERT_NE(stage.show("ShelfView { width: 600; height: 220 }"), nullptr);
     stage.press(Qt::Key_F2);
-    QTest::keyClicks(&stage.window(), "Delete me");
+    type(stage, "Delete me");
     EXPECT_EQ(titlesOnShelf(stage.running()), (std::vector<std::string>{"first", "second"}));
     stage.press(Qt::Key_Return);
     EXPECT_EQ(titlesOnShelf(stage.running()),
               (std::vector<std::string>{"Delete me", "second"}));
     stage.press(Qt::Key_F2);
-    QTest::keyClicks(&stage.window(), "not this");
+    type(stage, "not this");
     stage.press(Qt::Key_Escape);
     stage.press(Qt::Key_Delete);
     EXPECT_EQ(titlesOnShelf(stage.running()), std::vector<std::string>{"second"});
@@ -62,7 +69,7 @@ TEST(FileViewsTest, TheCalendarLeadsToItsFilesAndBack)
     const auto *model = view->property("model").value<QObject *>();
     ASSERT_NE(model, nullptr);
     stage.press(Qt::Key_C);
-    QTest::keyClicks(&stage.window(), "cat.ics"); // its letters are no commands now
+    type(stage, "cat.ics"); // its letters are no commands now
     stage.press(Qt::Key_Return);
     EXPECT_EQ(view->property("side"), "sources");
     EXPECT_NE(model->property("refusal").toString(), "");

@@ -48,8 +48,8 @@ Base::Result<QString> savedPicture(const QByteArray &picture)
 {
     const QString folder = pictureFolder();
     KEST_CHECK(Base::makePrivateDirectory(folder.toStdString()));
-    const QString file = QStringLiteral("%1/picture-%2.png")
-                             .arg(folder, QUuid::createUuid().toString(QUuid::Id128));
+    QString file = QStringLiteral("%1/picture-%2.png")
+                       .arg(folder, QUuid::createUuid().toString(QUuid::Id128));
     QSaveFile saved{file};
     if (!saved.open(QIODevice::WriteOnly) || saved.write(picture) != picture.size() ||
         !saved.commit()) {
