@@ -137,7 +137,8 @@ Result<std::vector<Word>> wordsOf(std::string_view line)
         Word word;
         if (line[at] == '"') {
             word.isQuoted = true;
-            if (!readQuoted(line, ++at, word) || (at < line.size() && line[at] != ' ')) {
+            ++at;
+            if (!readQuoted(line, at, word) || (at < line.size() && line[at] != ' ')) {
                 return refused(kBadCommand); // a word is quoted whole or not at all
             }
         }
@@ -369,7 +370,7 @@ std::optional<fs::path> findDesktopFile(std::string_view id, std::span<const fs:
     }
     for (const fs::path &folder : folders) {
         std::error_code error;
-        const fs::path direct = folder / (std::string{id} + std::string{kEnding});
+        fs::path direct = folder / (std::string{id} + std::string{kEnding});
         if (fs::is_regular_file(direct, error)) {
             return direct;
         }

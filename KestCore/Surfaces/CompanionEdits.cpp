@@ -44,7 +44,7 @@ Result<DockItem *> itemOf(CompanionState &state, std::string_view workspace,
     return &*found;
 }
 
-Result<std::string> title(std::string_view text)
+Result<std::string> checkedTitle(std::string_view text)
 {
     const std::string_view line = Base::trimmed(text);
     const bool isOneLine = std::ranges::none_of(
@@ -106,7 +106,7 @@ Result<void> addDockItem(CompanionState &state, std::string_view workspace, Dock
     KEST_TRY(Workspace *const in, workspaceOf(state, workspace));
     KEST_CHECK(mayTake(*in, item));
     if (item.kind != DockItemKind::divider) {
-        KEST_TRY(item.title, title(item.title));
+        KEST_TRY(item.title, checkedTitle(item.title));
     }
     insertAt(in->items, std::move(item), place);
     return {};
@@ -146,10 +146,10 @@ Result<void> moveDockItemTo(CompanionState &state, std::string_view workspace,
 }
 
 Result<void> renameDockItem(CompanionState &state, std::string_view workspace,
-                            std::string_view item, std::string_view name)
+                            std::string_view item, std::string_view title)
 {
     KEST_TRY(DockItem *const found, itemOf(state, workspace, item));
-    KEST_TRY(found->title, title(name));
+    KEST_TRY(found->title, checkedTitle(title));
     return {};
 }
 
@@ -175,7 +175,7 @@ Result<void> addWorkspace(CompanionState &state, std::string id, std::string_vie
     if (id.empty() || findWorkspace(state, id) != nullptr) {
         return refused("There is a workspace of this id already");
     }
-    KEST_TRY(std::string line, title(name));
+    KEST_TRY(std::string line, checkedTitle(name));
     state.workspaces.push_back(
         {.id = std::move(id), .name = std::move(line), .items = {}, .homeWidgets = {}});
     return {};
@@ -184,7 +184,7 @@ Result<void> addWorkspace(CompanionState &state, std::string id, std::string_vie
 Result<void> renameWorkspace(CompanionState &state, std::string_view id, std::string_view name)
 {
     KEST_TRY(Workspace *const workspace, workspaceOf(state, id));
-    KEST_TRY(workspace->name, title(name));
+    KEST_TRY(workspace->name, checkedTitle(name));
     return {};
 }
 

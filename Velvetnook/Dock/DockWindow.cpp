@@ -36,6 +36,14 @@ QRect pixels(const QScreen &screen)
     return {screen.geometry().topLeft(), size.toSize()};
 }
 
+Qt::Edge edgeOf(const QString &name)
+{
+    if (name == QLatin1String{"left"}) {
+        return Qt::LeftEdge;
+    }
+    return name == QLatin1String{"bottom"} ? Qt::BottomEdge : Qt::RightEdge;
+}
+
 QRect scaled(const QRectF &rect, double scale)
 {
     return QRectF{rect.topLeft() * scale, rect.size() * scale}.toRect();
@@ -205,12 +213,12 @@ QRegion DockWindow::outline(const QPointF &origin) const
         return scaled(sensor().translated(-origin), scale);
     }
     const QRectF tab = m_dock.tab().translated(-origin);
-    const QString edge = m_dock.edge();
+    const Qt::Edge atEdge = edgeOf(m_dock.edge());
     QRectF drawn = tab.adjusted(-1, -1, 1, 1);
     if (!m_dock.isFloating()) { // its corners at the edge are square
-        drawn = edge == QLatin1String{"left"}     ? drawn.adjusted(-kRadius, 0, 0, 0)
-                : edge == QLatin1String{"bottom"} ? drawn.adjusted(0, 0, 0, kRadius)
-                                                  : drawn.adjusted(0, 0, kRadius, 0);
+        const auto over = static_cast<double>(kRadius);
+        drawn.adjust(atEdge == Qt::LeftEdge ? -over : 0, 0, atEdge == Qt::RightEdge ? over : 0,
+                     atEdge == Qt::BottomEdge ? over : 0);
     }
     QRegion region = roundRegion(scaled(drawn, scale), scale);
     if (!isPanelDrawn()) {
@@ -219,12 +227,12 @@ QRegion DockWindow::outline(const QPointF &origin) const
     QRectF body = m_dock.panel().translated(-origin);
     QPolygonF callout;
     const double along = m_dock.pointerShare();
-    if (edge == QLatin1String{"bottom"}) {
+    if (atEdge == Qt::BottomEdge) {
         body.setHeight(body.height() - kCallout);
         const QPointF at{body.left() + along * body.width(), body.bottom()};
         callout << at + QPointF{-10, 0} << at + QPointF{0, 12} << at + QPointF{10, 0};
     } else {
-        const bool isLeft = edge == QLatin1String{"left"};
+        const bool isLeft = atEdge == Qt::LeftEdge;
         const double y = body.top() + along * body.height();
         body.adjust(isLeft ? kCallout : 0, 0, isLeft ? 0 : -kCallout, 0);
         const double x = isLeft ? body.left() : body.right();
@@ -245,9 +253,7 @@ void DockWindow::place()
     }
     if (m_edge != m_dock.edge()) {
         m_edge = m_dock.edge();
-        keepContentAtEdge(*this, m_edge == QLatin1String{"left"}     ? Qt::LeftEdge
-                                 : m_edge == QLatin1String{"bottom"} ? Qt::BottomEdge
-                                                                     : Qt::RightEdge);
+        keepContentAtEdge(*this, edgeOf(m_edge));
     }
     const QRect onScreen = wanted().toAlignedRect();
     const QRect rect = onScreen.translated(m_screen->geometry().topLeft());

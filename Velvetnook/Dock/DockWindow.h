@@ -30,6 +30,8 @@ public:
     DockWindow(QQmlEngine &engine, ApplicationModel &model, DockViewModel &dock,
                DockDriver &driver);
     ~DockWindow() override;
+    DockWindow(const DockWindow &) = delete;
+    DockWindow &operator=(const DockWindow &) = delete;
 
     // Empty, or why there is nothing to show.
     QString problem() const { return m_problem; }

@@ -6,6 +6,8 @@
 
 #include <QAbstractListModel>
 
+#include <cstdint>
+
 namespace Velvetnook
 {
 
@@ -20,7 +22,7 @@ class DockApplications : public QAbstractListModel
     Q_PROPERTY(int count READ count NOTIFY countChanged) // that the query leaves
 
 public:
-    enum Role { applicationId = Qt::UserRole, title, iconSource, letter, tint };
+    enum Role : std::uint16_t { applicationId = Qt::UserRole, title, iconSource, letter, tint };
 
     using QAbstractListModel::QAbstractListModel;
 

@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 #include <QString>
 
+#include <cstdint>
 #include <vector>
 
 namespace Velvetnook
@@ -43,7 +44,7 @@ class DockItems : public QAbstractListModel
     Q_PROPERTY(int dividers READ dividers NOTIFY sizeChanged) // lines with a divider
 
 public:
-    enum Role {
+    enum Role : std::uint16_t {
         itemId = Qt::UserRole,
         kind,
         title,
