@@ -32,6 +32,186 @@
     </message>
 </context>
 <context>
+    <name>Amounts</name>
+    <message>
+        <source>Processor</source>
+        <translation>المعالج</translation>
+    </message>
+    <message>
+        <source>Processor, programs</source>
+        <translation>المعالج، البرامج</translation>
+    </message>
+    <message>
+        <source>Processor, system</source>
+        <translation>المعالج، النظام</translation>
+    </message>
+    <message>
+        <source>Processor, idle</source>
+        <translation>المعالج، خامل</translation>
+    </message>
+    <message>
+        <source>Memory in use</source>
+        <translation>الذاكرة المستخدمة</translation>
+    </message>
+    <message>
+        <source>Memory installed</source>
+        <translation>الذاكرة المركّبة</translation>
+    </message>
+    <message>
+        <source>Memory pressure</source>
+        <translation>ضغط الذاكرة</translation>
+    </message>
+    <message>
+        <source>Memory wired</source>
+        <translation>ذاكرة مثبّتة</translation>
+    </message>
+    <message>
+        <source>Memory compressed</source>
+        <translation>ذاكرة مضغوطة</translation>
+    </message>
+    <message>
+        <source>Disk free</source>
+        <translation>المتاح في القرص</translation>
+    </message>
+    <message>
+        <source>Disk size</source>
+        <translation>حجم القرص</translation>
+    </message>
+    <message>
+        <source>Disk read</source>
+        <translation>القراءة من القرص</translation>
+    </message>
+    <message>
+        <source>Disk write</source>
+        <translation>الكتابة إلى القرص</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>التنزيل</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>الرفع</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>البطارية</translation>
+    </message>
+    <message>
+        <source>Battery health</source>
+        <translation>صحة البطارية</translation>
+    </message>
+    <message>
+        <source>Battery left</source>
+        <translation>ما بقي للبطارية</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>الرسوميات</translation>
+    </message>
+    <message>
+        <source>Graphics memory</source>
+        <translation>ذاكرة الرسوميات</translation>
+    </message>
+    <message>
+        <source>Processor temperature</source>
+        <translation>حرارة المعالج</translation>
+    </message>
+    <message>
+        <source>Graphics temperature</source>
+        <translation>حرارة الرسوميات</translation>
+    </message>
+    <message>
+        <source>Fan</source>
+        <translation>المروحة</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>الطاقة</translation>
+    </message>
+    <message>
+        <source>Energy impact</source>
+        <translation>أثر الطاقة</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 ب</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 ك.ب</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 م.ب</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 غ.ب</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 ت.ب</translation>
+    </message>
+    <message>
+        <source>%1 PB</source>
+        <translation>%1 ب.ب</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <comment>percent</comment>
+        <translation>%1٪</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <comment>12.1 MB a second</comment>
+        <translation>%1/ث</translation>
+    </message>
+    <message>
+        <source>%1 d %2 h</source>
+        <comment>days and hours</comment>
+        <translation>%1 ي %2 س</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 س %2 د</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °م</translation>
+    </message>
+    <message>
+        <source>%1 rpm</source>
+        <comment>turns a minute</comment>
+        <translation>%1 د/د</translation>
+    </message>
+    <message>
+        <source>%1 W</source>
+        <comment>watts</comment>
+        <translation>%1 واط</translation>
+    </message>
+    <message>
+        <source>Warming up</source>
+        <translation>يتهيّأ</translation>
+    </message>
+    <message>
+        <source>No reading since %1</source>
+        <translation>لا قراءة منذ %1</translation>
+    </message>
+    <message>
+        <source>Not on this computer</source>
+        <translation>ليس في هذا الحاسوب</translation>
+    </message>
+    <message>
+        <source>Not permitted</source>
+        <translation>غير مسموح</translation>
+    </message>
+</context>
+<context>
     <name>AskDialog</name>
     <message>
         <source>OK</source>
@@ -46,143 +226,139 @@
     <name>AssistantChangePage</name>
     <message>
         <source>Connect %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ربط %1</translation>
     </message>
     <message>
         <source>Disconnect %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فصل %1</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">إلغاء</translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Write this</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة التغيير</translation>
     </message>
     <message>
         <source>Reading the file…</source>
-        <translation type="unfinished"></translation>
+        <translation>تجري قراءة الملف…</translation>
     </message>
 </context>
 <context>
     <name>AssistantConnection</name>
     <message>
         <source>Connected in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مربوط في %1</translation>
     </message>
     <message>
         <source>Connected in part in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مربوط جزئيًا في %1</translation>
     </message>
     <message>
         <source>Not on this computer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not connected. %1 would be changed, once you have seen how.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Disconnect…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Disconnect %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Complete…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Connect…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Connect %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس على هذا الحاسوب</translation>
     </message>
     <message>
         <source>Not connected. You see the change of %1 first.</source>
         <translation>غير مربوط. ترى تغيير %1 أولًا.</translation>
+    </message>
+    <message>
+        <source>Disconnect…</source>
+        <translation>فصل…</translation>
+    </message>
+    <message>
+        <source>Disconnect %1</source>
+        <translation>فصل %1</translation>
+    </message>
+    <message>
+        <source>Complete…</source>
+        <translation>إكمال…</translation>
+    </message>
+    <message>
+        <source>Connect…</source>
+        <translation>ربط…</translation>
+    </message>
+    <message>
+        <source>Connect %1</source>
+        <translation>ربط %1</translation>
     </message>
 </context>
 <context>
     <name>AssistantConnectionsPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">رجوع</translation>
+        <translation>رجوع</translation>
     </message>
     <message>
         <source>Connections</source>
-        <translation type="unfinished"></translation>
+        <translation>الروابط</translation>
     </message>
     <message>
         <source>Say who waits for you</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار من ينتظرك</translation>
     </message>
     <message>
         <source>In the strip, for a quarter of an hour, until you look here.</source>
-        <translation type="unfinished"></translation>
+        <translation>في الشريط ربع ساعة، إلى أن تنظر هنا.</translation>
     </message>
 </context>
 <context>
     <name>AssistantDiff</name>
     <message>
         <source>The change</source>
-        <translation type="unfinished"></translation>
+        <translation>التغيير</translation>
     </message>
 </context>
 <context>
     <name>AssistantsView</name>
     <message>
         <source>What is written or said is never passed on.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُنقل شيء مما يُكتب أو يُقال.</translation>
     </message>
     <message>
         <source>Connections…</source>
-        <translation type="unfinished"></translation>
+        <translation>الروابط…</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished">Esc</translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>back</source>
-        <translation type="unfinished">رجوع</translation>
+        <translation>رجوع</translation>
     </message>
     <message>
         <source>Assistants</source>
-        <translation type="unfinished">المساعدون</translation>
+        <translation>المساعدون</translation>
     </message>
     <message>
         <source>%1 is connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>رُبط %1.</translation>
     </message>
     <message>
         <source>%1 is not connected any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد %1 مربوطًا.</translation>
     </message>
     <message>
         <source>%1 The file as it was: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 الملف كما كان: %2</translation>
     </message>
     <message>
         <source>Reading the logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>تجري قراءة السجلات…</translation>
     </message>
     <message>
-        <source>No coding assistant has left logs here this week.</source>
-        <translation type="unfinished"></translation>
+        <source>No logs of coding assistants this week</source>
+        <translation>لا سجلات لمساعدي البرمجة هذا الأسبوع</translation>
     </message>
     <message>
         <source>Claude Code and Codex are read from their own logs. Claude Code and Cursor can be connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُقرأ Claude Code وCodex من سجلاتهما. ويمكن ربط Claude Code وCursor.</translation>
     </message>
     <message>
         <source>Connect…</source>
-        <translation type="unfinished"></translation>
+        <translation>ربط…</translation>
     </message>
 </context>
 <context>
@@ -202,6 +378,136 @@
     <message>
         <source>All files (*)</source>
         <translation>كل الملفات (*)</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarAgenda</name>
+    <message>
+        <source>Calendars</source>
+        <translation>التقاويم</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>المواعيد</translation>
+    </message>
+    <message>
+        <source>Add an iCalendar file, or the folder that your calendar program keeps.</source>
+        <translation>أضف ملف iCalendar أو المجلد الذي يحفظ فيه برنامج التقويم ملفاته.</translation>
+    </message>
+    <message>
+        <source>Add a calendar</source>
+        <translation>إضافة تقويم</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarDayCell</name>
+    <message>
+        <source>%1, with events</source>
+        <translation>%1، وفيه مواعيد</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarEventDetail</name>
+    <message>
+        <source>Back to the day</source>
+        <translation>العودة إلى اليوم</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarMonth</name>
+    <message>
+        <source>Month before</source>
+        <translation>الشهر السابق</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page up</translation>
+    </message>
+    <message>
+        <source>Month after</source>
+        <translation>الشهر التالي</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page down</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarSources</name>
+    <message>
+        <source>Back to the day</source>
+        <translation>العودة إلى اليوم</translation>
+    </message>
+    <message>
+        <source>Your calendars</source>
+        <translation>تقاويمك</translation>
+    </message>
+    <message>
+        <source>File…</source>
+        <translation>ملف…</translation>
+    </message>
+    <message>
+        <source>Folder…</source>
+        <translation>مجلد…</translation>
+    </message>
+    <message>
+        <source>Write a path, or drop a file here</source>
+        <translation>اكتب مسارًا أو أفلت ملفًا هنا</translation>
+    </message>
+    <message>
+        <source>Take %1 off the list</source>
+        <translation>إزالة %1 من القائمة</translation>
+    </message>
+    <message>
+        <source>Take off the list</source>
+        <translation>إزالة من القائمة</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Weeks begin on</source>
+        <translation>يبدأ الأسبوع يوم</translation>
+    </message>
+    <message>
+        <source>Add a calendar file</source>
+        <translation>إضافة ملف تقويم</translation>
+    </message>
+    <message>
+        <source>Calendars (*.ics)</source>
+        <translation>تقاويم (*.ics)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>كل الملفات (*)</translation>
+    </message>
+    <message>
+        <source>Add a folder of calendars</source>
+        <translation>إضافة مجلد تقاويم</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarView</name>
+    <message>
+        <source>day</source>
+        <translation>يوم</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>open event</source>
+        <translation>فتح الموعد</translation>
     </message>
 </context>
 <context>
@@ -530,6 +836,337 @@
     </message>
 </context>
 <context>
+    <name>DockApps</name>
+    <message>
+        <source>Applications</source>
+        <translation>التطبيقات</translation>
+    </message>
+    <message>
+        <source>Search applications</source>
+        <translation>ابحث في التطبيقات</translation>
+    </message>
+    <message>
+        <source>Reading the applications…</source>
+        <translation>تُقرأ التطبيقات…</translation>
+    </message>
+    <message>
+        <source>No application goes by this name</source>
+        <translation>لا تطبيق بهذا الاسم</translation>
+    </message>
+    <message>
+        <source>No applications were found</source>
+        <translation>لم يُعثر على تطبيقات</translation>
+    </message>
+    <message>
+        <source>The desktop’s menus have none, or they cannot be read.</source>
+        <translation>قوائم سطح المكتب خالية منها، أو لا يمكن قراءتها.</translation>
+    </message>
+</context>
+<context>
+    <name>DockClaudeWidget</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>assistants, what is known</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing of theirs was found yet</source>
+        <translation>لم يُعثر على شيء منها بعد</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <comment>span of a limit, when it is reset</comment>
+        <translation>%1 · %2</translation>
+    </message>
+</context>
+<context>
+    <name>DockHead</name>
+    <message>
+        <source>Add to this workspace</source>
+        <translation>أضف إلى مساحة العمل هذه</translation>
+    </message>
+    <message>
+        <source>This workspace</source>
+        <translation>مساحة العمل هذه</translation>
+    </message>
+    <message>
+        <source>Application…</source>
+        <translation>تطبيق…</translation>
+    </message>
+    <message>
+        <source>Tool…</source>
+        <translation>أداة…</translation>
+    </message>
+    <message>
+        <source>Link…</source>
+        <translation>رابط…</translation>
+    </message>
+    <message>
+        <source>Files…</source>
+        <translation>ملفات…</translation>
+    </message>
+    <message>
+        <source>Folder…</source>
+        <translation>مجلد…</translation>
+    </message>
+    <message>
+        <source>Divider</source>
+        <translation>فاصل</translation>
+    </message>
+    <message>
+        <source>Widgets…</source>
+        <translation>بطاقات…</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>إعادة التسمية…</translation>
+    </message>
+    <message>
+        <source>Move it before</source>
+        <translation>قدّمها</translation>
+    </message>
+    <message>
+        <source>Move it behind</source>
+        <translation>أخّرها</translation>
+    </message>
+    <message>
+        <source>New workspace</source>
+        <translation>مساحة عمل جديدة</translation>
+    </message>
+    <message>
+        <source>Dock settings</source>
+        <translation>إعدادات الرصيف</translation>
+    </message>
+    <message>
+        <source>Remove…</source>
+        <translation>إزالة…</translation>
+    </message>
+    <message>
+        <source>Remove %1?</source>
+        <translation>إزالة %1؟</translation>
+    </message>
+    <message>
+        <source>Its items go with it. What they lead to stays where it is.</source>
+        <translation>تذهب عناصرها معها. أما ما تقود إليه فيبقى مكانه.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>إبقاء</translation>
+    </message>
+    <message>
+        <source>Choose files for the dock</source>
+        <translation>اختر ملفات للرصيف</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the dock</source>
+        <translation>اختر مجلدًا للرصيف</translation>
+    </message>
+</context>
+<context>
+    <name>DockItemMenu</name>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>إعادة التسمية…</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>يبقى</translation>
+    </message>
+    <message>
+        <source>For an hour</source>
+        <translation>لساعة</translation>
+    </message>
+    <message>
+        <source>Until Velvetnook closes</source>
+        <translation>حتى يُغلق Velvetnook</translation>
+    </message>
+    <message>
+        <source>Move to %1</source>
+        <translation>نقل إلى %1</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+</context>
+<context>
+    <name>DockItemsPage</name>
+    <message>
+        <source>Nothing lies here yet</source>
+        <translation>لا شيء هنا بعد</translation>
+    </message>
+    <message>
+        <source>Drop files, applications or links here, or press +.</source>
+        <translation>أفلت هنا ملفات أو تطبيقات أو روابط، أو اضغط +.</translation>
+    </message>
+</context>
+<context>
+    <name>DockLink</name>
+    <message>
+        <source>Link</source>
+        <translation>رابط</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>example.org</source>
+        <translation>example.org</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>as the address</source>
+        <translation>كما في العنوان</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>إضافة</translation>
+    </message>
+</context>
+<context>
+    <name>DockName</name>
+    <message>
+        <source>Name of the workspace</source>
+        <translation>اسم مساحة العمل</translation>
+    </message>
+    <message>
+        <source>Name of the item</source>
+        <translation>اسم العنصر</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>إعادة التسمية</translation>
+    </message>
+</context>
+<context>
+    <name>DockPageHead</name>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>DockPlainWidget</name>
+    <message>
+        <source>Today’s Name</source>
+        <translation>اسم اليوم</translation>
+    </message>
+</context>
+<context>
+    <name>DockStatsWidget</name>
+    <message>
+        <source>%1: %2 %3</source>
+        <comment>monitor, processor, its use</comment>
+        <translation>%1: %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>CPU, 18%</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>DockSurface</name>
+    <message>
+        <source>Dock</source>
+        <translation>الرصيف</translation>
+    </message>
+</context>
+<context>
+    <name>DockTab</name>
+    <message>
+        <source>Workspaces</source>
+        <translation>مساحات العمل</translation>
+    </message>
+</context>
+<context>
+    <name>DockTile</name>
+    <message>
+        <source>not there any more</source>
+        <translation>لم يعد موجودًا</translation>
+    </message>
+    <message>
+        <source>Divider</source>
+        <translation>فاصل</translation>
+    </message>
+</context>
+<context>
+    <name>DockTimeWidget</name>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 س %2 د</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>screen time, how long</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <comment>today, 3 h 12 min</comment>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Nothing is counted</source>
+        <translation>لا يُحسب شيء</translation>
+    </message>
+    <message>
+        <source>Nothing counted yet</source>
+        <translation>لم يُحسب شيء بعد</translation>
+    </message>
+</context>
+<context>
+    <name>DockTools</name>
+    <message>
+        <source>Tools</source>
+        <translation>الأدوات</translation>
+    </message>
+</context>
+<context>
+    <name>DockWeatherWidget</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>weather, its words</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <comment>place, rain</comment>
+        <translation>%1 · %2</translation>
+    </message>
+</context>
+<context>
+    <name>DockWidgets</name>
+    <message>
+        <source>Widgets</source>
+        <translation>البطاقات</translation>
+    </message>
+</context>
+<context>
     <name>EmojiCell</name>
     <message>
         <source>pinned</source>
@@ -781,6 +1418,70 @@
         <translation>انتهى: %1</translation>
     </message>
     <message>
+        <source>This workspace is not there any more</source>
+        <translation>لم تعد مساحة العمل هذه موجودة</translation>
+    </message>
+    <message>
+        <source>This item is not there any more</source>
+        <translation>لم يعد هذا العنصر موجودًا</translation>
+    </message>
+    <message>
+        <source>A workspace has room for 64 items. Take one out first.</source>
+        <translation>تتسع مساحة العمل لأربعة وستين عنصرًا. أخرج منها واحدًا أولًا.</translation>
+    </message>
+    <message>
+        <source>This is in the workspace already</source>
+        <translation>هذا في مساحة العمل من قبل</translation>
+    </message>
+    <message>
+        <source>A name is one line of 1 to 80 characters</source>
+        <translation>الاسم سطر واحد من 1 إلى 80 محرفًا</translation>
+    </message>
+    <message>
+        <source>There is no such tool</source>
+        <translation>لا توجد أداة كهذه</translation>
+    </message>
+    <message>
+        <source>This address is too long</source>
+        <translation>هذا العنوان طويل جدًا</translation>
+    </message>
+    <message>
+        <source>The dock has room for 12 workspaces. Remove one first.</source>
+        <translation>يتسع الرصيف لاثنتي عشرة مساحة عمل. أزل واحدة أولًا.</translation>
+    </message>
+    <message>
+        <source>The last workspace stays</source>
+        <translation>تبقى مساحة العمل الأخيرة</translation>
+    </message>
+    <message>
+        <source>This application is not installed any more</source>
+        <translation>لم يعد هذا التطبيق مثبّتًا</translation>
+    </message>
+    <message>
+        <source>The application&apos;s command line is not valid</source>
+        <translation>سطر أوامر هذا التطبيق غير صالح</translation>
+    </message>
+    <message>
+        <source>It could not be started</source>
+        <translation>تعذّر تشغيله</translation>
+    </message>
+    <message>
+        <source>No terminal was found to start it in</source>
+        <translation>لم تُوجد طرفية لتشغيله فيها</translation>
+    </message>
+    <message>
+        <source>This file is not there any more</source>
+        <translation>لم يعد هذا الملف موجودًا</translation>
+    </message>
+    <message>
+        <source>Nothing was found to open it with</source>
+        <translation>لم يُوجد ما يفتحه</translation>
+    </message>
+    <message>
+        <source>This is no web address</source>
+        <translation>هذا ليس عنوان ويب</translation>
+    </message>
+    <message>
         <source>The system&apos;s package manager installed Velvetnook and updates it</source>
         <translation>ثبّت مدير حزم النظام Velvetnook وهو يحدّثه</translation>
     </message>
@@ -817,20 +1518,6 @@
         <translation>البيان أقدم من بيان سبقت رؤيته</translation>
     </message>
     <message>
-        <source>%1: It is no file of your own</source>
-        <translation>الملف %1 ليس ملفك</translation>
-    </message>
-    <message>
-        <source>%1: It is larger than a megabyte</source>
-        <translation>الملف %1 أكبر من ميغابايت</translation>
-    </message>
-    <message>
-        <source>%1: It has changed just now; try again</source>
-        <translation>تغيّر %1 للتو؛ حاول ثانية</translation>
-    </message>
-    <message>
-        <source>%1: It is not written as strict JSON. Nothing was changed</source>
-        <translation>ليس %1 مكتوبًا بصيغة JSON صحيحة. لم يُغيَّر شيء</translation>
         <source>Credential hidden · remove this saved entry</source>
         <translation>بيانات سرية مخفية · احذف هذا العنصر المحفوظ</translation>
     </message>
@@ -896,15 +1583,319 @@
     </message>
     <message>
         <source>The keyring is locked. Unlock it, and try again.</source>
-        <translation>حافظة المفاتيح مقفلة. افتحها وحاول مجددًا.</translation>
+        <translation>حافظة المفاتيح مقفلة. افتحها ثم حاول من جديد.</translation>
     </message>
     <message>
         <source>There is no keyring (Secret Service) here to keep the key in.</source>
-        <translation>لا حافظة مفاتيح (Secret Service) هنا لحفظ المفتاح.</translation>
+        <translation>لا توجد حافظة مفاتيح (Secret Service) هنا ليُحفظ المفتاح فيها.</translation>
     </message>
     <message>
         <source>There is no default keyring to keep the key in. Make one first.</source>
-        <translation>لا حافظة مفاتيح افتراضية لحفظ المفتاح. أنشئ واحدة أولًا.</translation>
+        <translation>لا حافظة مفاتيح افتراضية ليُحفظ المفتاح فيها. أنشئ واحدة أولًا.</translation>
+    </message>
+    <message>
+        <source>Only http:// and https:// addresses can be saved</source>
+        <translation>لا تُحفظ إلا عناوين http:// و https://</translation>
+    </message>
+    <message>
+        <source>An address has no spaces, backslashes or control characters</source>
+        <translation>لا يحوي العنوان مسافات أو شرطات خلفية أو محارف تحكّم</translation>
+    </message>
+    <message>
+        <source>This address names no website</source>
+        <translation>هذا العنوان لا يدل على موقع</translation>
+    </message>
+    <message>
+        <source>There is nothing in the text for the shelf</source>
+        <translation>لا شيء في النص ليوضع على الرف</translation>
+    </message>
+    <message>
+        <source>A name has to show something</source>
+        <translation>لا بد أن يظهر في الاسم شيء</translation>
+    </message>
+    <message>
+        <source>That calendar is there already</source>
+        <translation>هذا التقويم موجود</translation>
+    </message>
+    <message>
+        <source>%1: It is no file of your own</source>
+        <translation>الملف %1 ليس ملفك</translation>
+    </message>
+    <message>
+        <source>%1: It is larger than a megabyte</source>
+        <translation>الملف %1 أكبر من ميغابايت</translation>
+    </message>
+    <message>
+        <source>%1: It has changed just now; try again</source>
+        <translation>تغيّر %1 للتو؛ حاول ثانية</translation>
+    </message>
+    <message>
+        <source>%1: It is not written as strict JSON. Nothing was changed</source>
+        <translation>ليس %1 مكتوبًا بصيغة JSON صحيحة. لم يُغيَّر شيء</translation>
+    </message>
+    <message>
+        <source>Check the %1 key and website selection (HTTP %2).</source>
+        <translation>تحقّق من مفتاح %1 ومن اختيار الموقع (HTTP %2).</translation>
+    </message>
+    <message>
+        <source>The player “%1” cannot do this: %2</source>
+        <translation>لا يستطيع المشغّل «%1» ذلك: %2</translation>
+    </message>
+    <message>
+        <source>The player “%1” does not answer.</source>
+        <translation>المشغّل «%1» لا يجيب.</translation>
+    </message>
+    <message>
+        <source>No browser that may be driven listens on port %1.</source>
+        <translation>لا متصفّح يقبل التحكّم على المنفذ %1.</translation>
+    </message>
+    <message>
+        <source>The browser on port %1 does not answer.</source>
+        <translation>المتصفّح على المنفذ %1 لا يجيب.</translation>
+    </message>
+    <message>
+        <source>This address is saved already, as “%1”</source>
+        <translation>هذا العنوان محفوظ باسم «%1»</translation>
+    </message>
+    <message>
+        <source>%1: it is no calendar.</source>
+        <translation>%1: ليس تقويمًا.</translation>
+    </message>
+    <message>
+        <source>%1: it is not there.</source>
+        <translation>%1: غير موجود.</translation>
+    </message>
+    <message>
+        <source>Gross payments</source>
+        <translation>إجمالي المدفوعات</translation>
+    </message>
+    <message>
+        <source>Refunds</source>
+        <translation>المبالغ المستردّة</translation>
+    </message>
+    <message>
+        <source>Payment fees</source>
+        <translation>رسوم الدفع</translation>
+    </message>
+    <message>
+        <source>Net payments</source>
+        <translation>صافي المدفوعات</translation>
+    </message>
+    <message>
+        <source>Payout movements</source>
+        <translation>حركات التحويل</translation>
+    </message>
+    <message>
+        <source>Charges and payments</source>
+        <translation>العمليات والمدفوعات</translation>
+    </message>
+    <message>
+        <source>Refund movements, less failed-refund reversals</source>
+        <translation>حركات الاسترداد بعد طرح الاستردادات الفاشلة المعكوسة</translation>
+    </message>
+    <message>
+        <source>Fees attached to these payment and refund entries</source>
+        <translation>الرسوم المرفقة بقيود الدفع والاسترداد هذه</translation>
+    </message>
+    <message>
+        <source>After refunds and attached fees; excludes disputes, transfers and tax liability</source>
+        <translation>بعد الاستردادات والرسوم المرفقة، ومن غير النزاعات والتحويلات والضرائب</translation>
+    </message>
+    <message>
+        <source>Net balance debits for payouts, less failures/cancellations. Not a bank settlement confirmation</source>
+        <translation>صافي خصوم الرصيد للتحويلات بعد طرح الفاشلة والملغاة. ليس تأكيدًا للتسوية البنكية</translation>
+    </message>
+    <message>
+        <source>balance-entry creation date in the selected period</source>
+        <translation>بحسب تاريخ إنشاء القيد في الفترة المختارة</translation>
+    </message>
+    <message>
+        <source>Stripe test mode</source>
+        <translation>وضع Stripe التجريبي</translation>
+    </message>
+    <message>
+        <source>Payment balance activity, not profit. Currencies stay separate.</source>
+        <translation>حركة رصيد المدفوعات لا الربح. تبقى العملات منفصلة.</translation>
+    </message>
+    <message>
+        <source>Visitors</source>
+        <translation>الزوّار</translation>
+    </message>
+    <message>
+        <source>Page views</source>
+        <translation>مشاهدات الصفحات</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>الجلسات</translation>
+    </message>
+    <message>
+        <source>Avg. session</source>
+        <translation>متوسّط الجلسة</translation>
+    </message>
+    <message>
+        <source>Bounce rate</source>
+        <translation>معدّل الارتداد</translation>
+    </message>
+    <message>
+        <source>Attributed revenue</source>
+        <translation>الإيراد المنسوب</translation>
+    </message>
+    <message>
+        <source>Attributed payments</source>
+        <translation>المدفوعات المنسوبة</translation>
+    </message>
+    <message>
+        <source>Unavailable</source>
+        <translation>غير متاح</translation>
+    </message>
+    <message>
+        <source>DataFast website total</source>
+        <translation>مجموع موقع DataFast</translation>
+    </message>
+    <message>
+        <source>selected period</source>
+        <translation>الفترة المختارة</translation>
+    </message>
+    <message>
+        <source>DataFast average session duration</source>
+        <translation>متوسّط مدّة الجلسة في DataFast</translation>
+    </message>
+    <message>
+        <source>DataFast attribution in the website currency; not a Stripe payout or accounting total</source>
+        <translation>نسبة DataFast بعملة الموقع، وليست تحويلًا من Stripe ولا مجموعًا محاسبيًا</translation>
+    </message>
+    <message>
+        <source>website attribution rules. No currencies or providers are combined.</source>
+        <translation>قواعد النسبة للموقع. لا تُجمع العملات ولا المزوّدون.</translation>
+    </message>
+    <message>
+        <source>DataFast returned no data for this period.</source>
+        <translation>لم يُعد DataFast بيانات لهذه الفترة.</translation>
+    </message>
+    <message>
+        <source>The provider returned an unexpected report. No totals were saved.</source>
+        <translation>أعاد المزوّد تقريرًا غير متوقّع. لم تُحفظ مجاميع.</translation>
+    </message>
+    <message>
+        <source>This period contains more than 10,000 balance entries. Choose a shorter period; partial totals are not shown.</source>
+        <translation>في هذه الفترة أكثر من 10,000 قيد. اختر فترة أقصر، فالمجاميع الجزئية لا تُعرض.</translation>
+    </message>
+    <message>
+        <source>The provider is limiting requests. Wait a moment, then refresh.</source>
+        <translation>يحدّ المزوّد من الطلبات. انتظر قليلًا ثم حدّث.</translation>
+    </message>
+    <message>
+        <source>The provider is temporarily unavailable. Try again shortly.</source>
+        <translation>المزوّد غير متاح مؤقّتًا. حاول بعد قليل.</translation>
+    </message>
+    <message>
+        <source>Allow analytics:read and access to this website, then reconnect.</source>
+        <translation>اسمح بـ analytics:read وبالوصول إلى هذا الموقع، ثم صِل من جديد.</translation>
+    </message>
+    <message>
+        <source>Allow Balance read access on this restricted Stripe key, then reconnect.</source>
+        <translation>اسمح بقراءة الرصيد على مفتاح Stripe المقيّد هذا، ثم صِل من جديد.</translation>
+    </message>
+    <message>
+        <source>This Stripe key has expired or is invalid. Replace it in Connections.</source>
+        <translation>انتهت صلاحية مفتاح Stripe هذا أو أنه غير صالح. استبدله في الاتصالات.</translation>
+    </message>
+    <message>
+        <source>This DataFast key has expired or is invalid. Replace it in Connections.</source>
+        <translation>انتهت صلاحية مفتاح DataFast هذا أو أنه غير صالح. استبدله في الاتصالات.</translation>
+    </message>
+    <message>
+        <source>Stripe did not answer. Check the connection, then refresh.</source>
+        <translation>لم يجب Stripe. تحقّق من الاتصال ثم حدّث.</translation>
+    </message>
+    <message>
+        <source>DataFast did not answer. Check the connection, then refresh.</source>
+        <translation>لم يجب DataFast. تحقّق من الاتصال ثم حدّث.</translation>
+    </message>
+    <message>
+        <source>A key is one word of letters, digits and signs.</source>
+        <translation>المفتاح كلمة واحدة من حروف وأرقام وعلامات.</translation>
+    </message>
+    <message>
+        <source>This is a secret Stripe test key, whose figures would look like real ones. Make a restricted test key (rk_test_) with Balance read access at Stripe, and connect that.</source>
+        <translation>هذا مفتاح Stripe تجريبي سرّي تبدو أرقامه كالحقيقية. أنشئ لدى Stripe مفتاحًا تجريبيًا مقيّدًا (rk_test_) بقراءة الرصيد وصِله.</translation>
+    </message>
+    <message>
+        <source>This is a secret Stripe key: whoever has it can move money, and to read the balance needs no such power. Make a restricted key (rk_live_ or rk_test_) with Balance read access at Stripe, and connect that.</source>
+        <translation>هذا مفتاح Stripe سرّي، ومن يملكه يستطيع تحريك المال، وقراءة الرصيد لا تحتاج إلى ذلك. أنشئ لدى Stripe مفتاحًا مقيّدًا (rk_live_ أو rk_test_) بقراءة الرصيد وصِله.</translation>
+    </message>
+    <message>
+        <source>This is no restricted Stripe key. Make one (rk_live_ or rk_test_) with Balance read access at Stripe, and connect that.</source>
+        <translation>ليس هذا مفتاح Stripe مقيّدًا. أنشئ واحدًا (rk_live_ أو rk_test_) بقراءة الرصيد لدى Stripe وصِله.</translation>
+    </message>
+    <message>
+        <source>There is no session bus here, so no player can be asked.</source>
+        <translation>لا ناقل جلسة هنا، فلا يمكن سؤال أيّ مشغّل.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>ناقل الجلسة لا يجيب.</translation>
+    </message>
+    <message>
+        <source>The connected tab is not open any more. Connect another, or disconnect it.</source>
+        <translation>اللسان الموصول لم يعد مفتوحًا. صِل غيره أو افصله.</translation>
+    </message>
+    <message>
+        <source>Invalid playback details.</source>
+        <translation>تفاصيل التشغيل غير صالحة.</translation>
+    </message>
+    <message>
+        <source>Playback response is too large.</source>
+        <translation>جواب التشغيل أكبر مما يجوز.</translation>
+    </message>
+    <message>
+        <source>What listens on the port is no browser.</source>
+        <translation>ليس على هذا المنفذ متصفّح.</translation>
+    </message>
+    <message>
+        <source>The sounds are not installed.</source>
+        <translation>الأصوات غير مثبّتة.</translation>
+    </message>
+    <message>
+        <source>Updating forecast…</source>
+        <translation>يجري تحديث التوقّعات…</translation>
+    </message>
+    <message>
+        <source>Weather did not respond. Try again shortly.</source>
+        <translation>لم تجب خدمة الطقس. حاول بعد قليل.</translation>
+    </message>
+    <message>
+        <source>Weather is busy. Please try again in a few minutes.</source>
+        <translation>خدمة الطقس مشغولة. حاول بعد بضع دقائق.</translation>
+    </message>
+    <message>
+        <source>Weather is taking a break. Please try again in a few minutes.</source>
+        <translation>خدمة الطقس في استراحة. حاول بعد بضع دقائق.</translation>
+    </message>
+    <message>
+        <source>Weather is temporarily unavailable. Please try again shortly.</source>
+        <translation>خدمة الطقس غير متاحة مؤقّتًا. حاول بعد قليل.</translation>
+    </message>
+    <message>
+        <source>Forecast is out of date. Please try again shortly.</source>
+        <translation>التوقّعات قديمة. حاول بعد قليل.</translation>
+    </message>
+    <message>
+        <source>Forecast contains no usable temperatures</source>
+        <translation>لا درجات حرارة صالحة في التوقّعات</translation>
+    </message>
+    <message>
+        <source>Unsupported forecast units or date</source>
+        <translation>وحدات التوقّعات أو تاريخها غير مدعومين</translation>
+    </message>
+    <message>
+        <source>Choose a valid location</source>
+        <translation>اختر مكانًا صالحًا</translation>
+    </message>
+    <message>
+        <source>The refresh was cancelled.</source>
+        <translation>أُلغي التحديث.</translation>
     </message>
 </context>
 <context>
@@ -994,6 +1985,92 @@
     <message>
         <source>Close</source>
         <translation>إغلاق</translation>
+    </message>
+</context>
+<context>
+    <name>FileLine</name>
+    <message>
+        <source>Unpin %1</source>
+        <translation>إلغاء تثبيت %1</translation>
+    </message>
+    <message>
+        <source>Pin %1</source>
+        <translation>تثبيت %1</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>إلغاء التثبيت</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>تثبيت</translation>
+    </message>
+</context>
+<context>
+    <name>FilesView</name>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>المجلد</translation>
+    </message>
+    <message>
+        <source>pin</source>
+        <translation>تثبيت</translation>
+    </message>
+    <message>
+        <source>Search files</source>
+        <translation>البحث في الملفات</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>الأخيرة</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>المثبّتة</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>الملفات</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>معاينة</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Show in its folder</source>
+        <translation>إظهار في المجلد</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>نسخ المسار</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>إلغاء التثبيت</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>تثبيت</translation>
     </message>
 </context>
 <context>
@@ -1148,8 +2225,12 @@
         <translation>المراقب</translation>
     </message>
     <message>
-        <source>For now, “kest monitor” shows it in the terminal.</source>
-        <translation>يعرضه الآن الأمر «kest monitor» في الطرفية.</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing can be sampled here.</source>
+        <translation>لا يمكن القياس هنا.</translation>
     </message>
 </context>
 <context>
@@ -1185,8 +2266,724 @@
         <translation>الطقس</translation>
     </message>
     <message>
-        <source>For now, “kest weather” tells it in the terminal.</source>
-        <translation>يخبر به الآن الأمر «kest weather» في الطرفية.</translation>
+        <source>Weather: %1</source>
+        <translation>الطقس: %1</translation>
+    </message>
+</context>
+<context>
+    <name>InsightChoices</name>
+    <message>
+        <source>Period</source>
+        <translation>الفترة</translation>
+    </message>
+</context>
+<context>
+    <name>InsightConnection</name>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Connect Stripe</source>
+        <translation>وصل Stripe</translation>
+    </message>
+    <message>
+        <source>Connect DataFast</source>
+        <translation>وصل DataFast</translation>
+    </message>
+    <message>
+        <source>Make a restricted key with Balance read access at Stripe. It is kept in your keyring, is sent to Stripe alone and is never shown again.</source>
+        <translation>أنشئ لدى Stripe مفتاحًا مقيّدًا بقراءة الرصيد. يُحفظ في حافظة مفاتيحك، ولا يُرسل إلا إلى Stripe، ولا يُعرض ثانية أبدًا.</translation>
+    </message>
+    <message>
+        <source>Make a key with analytics:read at DataFast. It is kept in your keyring, is sent to DataFast alone and is never shown again.</source>
+        <translation>أنشئ لدى DataFast مفتاحًا بصلاحية analytics:read. يُحفظ في حافظة مفاتيحك، ولا يُرسل إلا إلى DataFast، ولا يُعرض ثانية أبدًا.</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>المفتاح</translation>
+    </message>
+    <message>
+        <source>Id of the website</source>
+        <translation>معرّف الموقع</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>وصل</translation>
+    </message>
+    <message>
+        <source>Remove the key</source>
+        <translation>إزالة المفتاح</translation>
+    </message>
+</context>
+<context>
+    <name>InsightMissing</name>
+    <message>
+        <source>Its key stays in your keyring and goes to nobody else.</source>
+        <translation>يبقى مفتاحه في حافظة مفاتيحك ولا يذهب إلى أحد سواه.</translation>
+    </message>
+    <message>
+        <source>Connect…</source>
+        <translation>وصل…</translation>
+    </message>
+    <message>
+        <source>Connections…</source>
+        <translation>الاتصالات…</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>حاول من جديد</translation>
+    </message>
+</context>
+<context>
+    <name>InsightReport</name>
+    <message>
+        <source>Currency</source>
+        <translation>العملة</translation>
+    </message>
+</context>
+<context>
+    <name>InsightRow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>InsightWords</name>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>7 days</source>
+        <translation>7 أيام</translation>
+    </message>
+    <message>
+        <source>30 days</source>
+        <translation>30 يومًا</translation>
+    </message>
+    <message>
+        <source>90 days</source>
+        <translation>90 يومًا</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>هذا الشهر</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>هذه السنة</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Top pages</source>
+        <translation>أكثر الصفحات</translation>
+    </message>
+    <message>
+        <source>Referrers</source>
+        <translation>المُحيلون</translation>
+    </message>
+    <message>
+        <source>Lately</source>
+        <translation>مؤخّرًا</translation>
+    </message>
+</context>
+<context>
+    <name>InsightsView</name>
+    <message>
+        <source>The key is in the keyring.</source>
+        <translation>المفتاح في حافظة المفاتيح.</translation>
+    </message>
+    <message>
+        <source>The key was removed from the keyring.</source>
+        <translation>أُزيل المفتاح من حافظة المفاتيح.</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>Connections…</source>
+        <translation>الاتصالات…</translation>
+    </message>
+</context>
+<context>
+    <name>LinkForm</name>
+    <message>
+        <source>Link to the source</source>
+        <translation>رابط المصدر</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>ملاحظة</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+</context>
+<context>
+    <name>LinkLine</name>
+    <message>
+        <source>Open %1</source>
+        <translation>فتح %1</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+</context>
+<context>
+    <name>LinkNotice</name>
+    <message>
+        <source>The built-in dua collection remains unavailable until its source, translation and review records are complete.</source>
+        <translation>تبقى مجموعة الأدعية المضمّنة غير متاحة حتى تكتمل سجلات مصدرها وترجمتها ومراجعتها.</translation>
+    </message>
+    <message>
+        <source>This collection is awaiting source, translation, count-reference and qualified-review records. No new devotional excerpts are included in this build.</source>
+        <translation>تنتظر هذه المجموعة سجلات المصدر والترجمة ومرجع العدد والمراجعة المؤهّلة. لا يتضمّن هذا الإصدار نصوصًا تعبّدية جديدة.</translation>
+    </message>
+    <message>
+        <source>Open the existing dhikr starter collection</source>
+        <translation>فتح مجموعة الأذكار الموجودة</translation>
+    </message>
+</context>
+<context>
+    <name>LinksView</name>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>add</source>
+        <translation>إضافة</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Change the bookmark</source>
+        <translation>تعديل الإشارة المرجعية</translation>
+    </message>
+    <message>
+        <source>New bookmark</source>
+        <translation>إشارة مرجعية جديدة</translation>
+    </message>
+    <message>
+        <source>Your dua bookmarks</source>
+        <translation>إشاراتك المرجعية للأدعية</translation>
+    </message>
+    <message>
+        <source>Find a bookmark</source>
+        <translation>البحث عن إشارة مرجعية</translation>
+    </message>
+    <message>
+        <source>Add a bookmark</source>
+        <translation>إضافة إشارة مرجعية</translation>
+    </message>
+    <message>
+        <source>Save a link to a source you choose. Personal bookmarks are not a reviewed Velvetnook collection.</source>
+        <translation>احفظ رابطًا لمصدر تختاره. الإشارات الشخصية ليست مجموعة راجعها Velvetnook.</translation>
+    </message>
+    <message>
+        <source>Search bookmarks</source>
+        <translation>البحث في الإشارات</translation>
+    </message>
+    <message>
+        <source>Bookmarks</source>
+        <translation>الإشارات المرجعية</translation>
+    </message>
+    <message>
+        <source>No bookmark has these words</source>
+        <translation>لا إشارة فيها هذه الكلمات</translation>
+    </message>
+    <message>
+        <source>Nothing saved yet. Add one, or drop a link here.</source>
+        <translation>لم يُحفظ شيء بعد. أضف رابطًا أو أفلته هنا.</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorAlertBar</name>
+    <message>
+        <source>Review</source>
+        <translation>مراجعة</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>تجاهل</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorAlertOptions</name>
+    <message>
+        <source>Alerts</source>
+        <translation>التنبيهات</translation>
+    </message>
+    <message>
+        <source>When one application keeps the machine busy or its memory keeps growing.</source>
+        <translation>عندما يشغل تطبيق الجهاز طويلًا أو تستمر ذاكرته في النمو.</translation>
+    </message>
+    <message>
+        <source>Processor above</source>
+        <translation>المعالج فوق</translation>
+    </message>
+    <message>
+        <source>of one core, for so long</source>
+        <translation>من نواة واحدة، لهذه المدة</translation>
+    </message>
+    <message>
+        <source>For so long</source>
+        <translation>لهذه المدة</translation>
+    </message>
+    <message>
+        <source>Memory grown in an hour by</source>
+        <translation>نمو الذاكرة في ساعة</translation>
+    </message>
+    <message>
+        <source>Disk busier than</source>
+        <translation>القرص أنشط من</translation>
+    </message>
+    <message>
+        <source>for five minutes</source>
+        <translation>لخمس دقائق</translation>
+    </message>
+    <message>
+        <source>raises no alerts</source>
+        <translation>لا يثير تنبيهات</translation>
+    </message>
+    <message>
+        <source>Allow alerts</source>
+        <translation>السماح بالتنبيهات</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorAppPage</name>
+    <message>
+        <source>has ended</source>
+        <translation>انتهى</translation>
+    </message>
+    <message>
+        <source>No alerts about this application</source>
+        <translation>لا تنبيهات عن هذا التطبيق</translation>
+    </message>
+    <message>
+        <source>Alerts about this application</source>
+        <translation>تنبيهات عن هذا التطبيق</translation>
+    </message>
+    <message>
+        <source>Quit…</source>
+        <translation>إنهاء…</translation>
+    </message>
+    <message>
+        <source>Kill…</source>
+        <translation>إنهاء قسري…</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>العمليات</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>المعالج</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>الذاكرة</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>القرص</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorApps</name>
+    <message>
+        <source>Applications</source>
+        <translation>التطبيقات</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>المعالج</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>الذاكرة</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorChartPage</name>
+    <message>
+        <source>What is shown</source>
+        <translation>ما يُعرض</translation>
+    </message>
+    <message>
+        <source>How far back</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>1 h</source>
+        <translation>١ س</translation>
+    </message>
+    <message>
+        <source>24 h</source>
+        <translation>٢٤ س</translation>
+    </message>
+    <message>
+        <source>7 d</source>
+        <translation>٧ أيام</translation>
+    </message>
+    <message>
+        <source>30 d</source>
+        <translation>٣٠ يومًا</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded</source>
+        <translation>لا شيء يُسجَّل</translation>
+    </message>
+    <message>
+        <source>Nothing recorded yet</source>
+        <translation>لم يُسجَّل شيء بعد</translation>
+    </message>
+    <message>
+        <source>Reading the history…</source>
+        <translation>جارٍ قراءة السجل…</translation>
+    </message>
+    <message>
+        <source>The history keeps a figure a minute, on this computer only.</source>
+        <translation>يحفظ السجل رقمًا كل دقيقة، في هذا الحاسوب فقط.</translation>
+    </message>
+    <message>
+        <source>Record from now on</source>
+        <translation>التسجيل من الآن</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>المحاولة مرة أخرى</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorFoot</name>
+    <message>
+        <source>Battery %1</source>
+        <translation>البطارية %1</translation>
+    </message>
+    <message>
+        <source>Export image…</source>
+        <translation>تصدير صورة…</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorHead</name>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <comment>the key</comment>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorImageDialog</name>
+    <message>
+        <source>Export an image</source>
+        <translation>تصدير صورة</translation>
+    </message>
+    <message>
+        <source>Images (*.png)</source>
+        <translation>صور (*.png)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>كل الملفات (*)</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMachinePage</name>
+    <message>
+        <source>All readings</source>
+        <translation>كل القراءات</translation>
+    </message>
+    <message>
+        <source>sensors, batteries and what is connected</source>
+        <translation>المجسّات والبطاريات وما هو موصول</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMixerPage</name>
+    <message>
+        <source>Volumes</source>
+        <translation>مستويات الصوت</translation>
+    </message>
+    <message>
+        <source>of each application that has a sound</source>
+        <translation>لكل تطبيق له صوت</translation>
+    </message>
+    <message>
+        <source>Unmute %1</source>
+        <translation>إعادة صوت %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation>كتم %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation>صوت %1</translation>
+    </message>
+    <message>
+        <source>No application has a sound now</source>
+        <translation>لا تطبيق له صوت الآن</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorOptionsPage</name>
+    <message>
+        <source>Recording and alerts</source>
+        <translation>التسجيل والتنبيهات</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>A figure a minute, on this computer only; sampled every 10 seconds.</source>
+        <translation>رقم كل دقيقة، في هذا الحاسوب فقط؛ يُقاس كل ١٠ ثوانٍ.</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>متوقف مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Kept for</source>
+        <translation>يُحفظ</translation>
+    </message>
+    <message>
+        <source>1 day</source>
+        <translation>يومًا</translation>
+    </message>
+    <message>
+        <source>7 days</source>
+        <translation>٧ أيام</translation>
+    </message>
+    <message>
+        <source>30 days</source>
+        <translation>٣٠ يومًا</translation>
+    </message>
+    <message>
+        <source>Clear…</source>
+        <translation>مسح…</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorOverview</name>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>All readings</source>
+        <translation>كل القراءات</translation>
+    </message>
+    <message>
+        <source>Volumes</source>
+        <translation>مستويات الصوت</translation>
+    </message>
+    <message>
+        <source>Recording and alerts</source>
+        <translation>التسجيل والتنبيهات</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorProcessRow</name>
+    <message>
+        <source>Quit %1</source>
+        <translation>إنهاء %1</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <comment>the key</comment>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Kill %1</source>
+        <translation>إنهاء %1 قسرًا</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorSort</name>
+    <message>
+        <source>Sort by %1</source>
+        <translation>الترتيب حسب %1</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTileCard</name>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation>%1: %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorView</name>
+    <message>
+        <source>Monitor</source>
+        <translation>المراقب</translation>
+    </message>
+    <message>
+        <source>Nothing can be sampled here.</source>
+        <translation>لا يمكن القياس هنا.</translation>
+    </message>
+    <message>
+        <source>Taking the first sample…</source>
+        <translation>جارٍ أخذ القياس الأول…</translation>
+    </message>
+</context>
+<context>
+    <name>MusicKeys</name>
+    <message>
+        <source>Previous</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>كتم</translation>
+    </message>
+    <message>
+        <source>Unmute</source>
+        <translation>إلغاء الكتم</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+</context>
+<context>
+    <name>MusicPlayer</name>
+    <message>
+        <source>Choose what is shown</source>
+        <translation>اختر ما يُعرض</translation>
+    </message>
+    <message>
+        <source>Browser tab…</source>
+        <translation>لسان متصفّح…</translation>
+    </message>
+    <message>
+        <source>Show it in the strip</source>
+        <translation>إظهاره في الشريط</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+</context>
+<context>
+    <name>MusicTabPage</name>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>A tab of your browser</source>
+        <translation>لسان من متصفّحك</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>فصل</translation>
+    </message>
+    <message>
+        <source>Start the browser with --remote-debugging-port=9222, play something, and choose its tab here. Only that tab is read, and nothing until you choose it. While the browser runs so, other programs on this computer can drive it too.</source>
+        <translation>شغّل المتصفّح بالخيار ‎--remote-debugging-port=9222‎ وشغّل فيه شيئًا، ثم اختر لسانه هنا. لا يُقرأ إلا ذلك اللسان، ولا شيء قبل اختيارك. وما دام المتصفّح كذلك تستطيع برامج أخرى على هذا الحاسوب التحكّم فيه أيضًا.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>المنفذ</translation>
+    </message>
+    <message>
+        <source>Show its tabs</source>
+        <translation>عرض ألسنته</translation>
+    </message>
+</context>
+<context>
+    <name>MusicView</name>
+    <message>
+        <source>Private windows are never read</source>
+        <translation>النوافذ الخاصّة لا تُقرأ أبدًا</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <comment>the key</comment>
+        <translation>المسافة</translation>
+    </message>
+    <message>
+        <source>play or pause</source>
+        <translation>تشغيل أو إيقاف</translation>
+    </message>
+    <message>
+        <source>seek %1 s</source>
+        <translation>تقدّم %1 ث</translation>
+    </message>
+    <message>
+        <source>mute</source>
+        <translation>كتم</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>الموسيقى</translation>
+    </message>
+    <message>
+        <source>What a player or a browser plays shows here by itself.</source>
+        <translation>ما يشغّله مشغّل أو متصفّح يظهر هنا من تلقاء نفسه.</translation>
+    </message>
+    <message>
+        <source>Connect a browser tab…</source>
+        <translation>وصل لسان متصفّح…</translation>
     </message>
 </context>
 <context>
@@ -1770,6 +3567,30 @@
         <source>Start again</source>
         <translation>ابدأ من جديد</translation>
     </message>
+    <message>
+        <source>Play or pause the music</source>
+        <translation>تشغيل الموسيقى أو إيقافها</translation>
+    </message>
+    <message>
+        <source>Next song</source>
+        <translation>المقطع التالي</translation>
+    </message>
+    <message>
+        <source>Play or pause the sounds</source>
+        <translation>تشغيل الأصوات أو إيقافها</translation>
+    </message>
+    <message>
+        <source>Open the dock</source>
+        <translation>افتح الرصيف</translation>
+    </message>
+    <message>
+        <source>Pause the clipboard</source>
+        <translation>إيقاف الحافظة مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Resume the clipboard</source>
+        <translation>استئناف الحافظة</translation>
+    </message>
 </context>
 <context>
     <name>PaletteLine</name>
@@ -2051,6 +3872,115 @@
     </message>
 </context>
 <context>
+    <name>ScreenTimeApps</name>
+    <message>
+        <source>Applications</source>
+        <translation>التطبيقات</translation>
+    </message>
+    <message>
+        <source>More about %1</source>
+        <translation>المزيد عن %1</translation>
+    </message>
+    <message>
+        <source>Count no more</source>
+        <translation>لا يُحسب بعد الآن</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenTimeOptions</name>
+    <message>
+        <source>Count the time at the screen</source>
+        <translation>حساب الوقت أمام الشاشة</translation>
+    </message>
+    <message>
+        <source>Known only to this computer; kept for 92 days and in no backup.</source>
+        <translation>لا يعرفه إلا هذا الحاسوب؛ يُحفظ ٩٢ يومًا ولا يدخل أي نسخة احتياطية.</translation>
+    </message>
+    <message>
+        <source>A pause begins after</source>
+        <translation>تبدأ الراحة بعد</translation>
+    </message>
+    <message>
+        <source>without a key or the pointer</source>
+        <translation>بلا مفتاح ولا مؤشر</translation>
+    </message>
+    <message>
+        <source>is not counted</source>
+        <translation>لا يُحسب</translation>
+    </message>
+    <message>
+        <source>Count again</source>
+        <translation>حسابه من جديد</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenTimeSummary</name>
+    <message>
+        <source>Period</source>
+        <translation>الفترة</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>الأسبوع</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 س</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <comment>hours</comment>
+        <translation>س</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>د</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenTimeView</name>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Counting…</source>
+        <translation>الحساب…</translation>
+    </message>
+    <message>
+        <source>Screen time</source>
+        <translation>وقت الشاشة</translation>
+    </message>
+    <message>
+        <source>Nothing is counted</source>
+        <translation>لا شيء يُحسب</translation>
+    </message>
+    <message>
+        <source>Nothing counted yet</source>
+        <translation>لم يُحسب شيء بعد</translation>
+    </message>
+    <message>
+        <source>How long which application is in front, known only to this computer.</source>
+        <translation>كم يبقى كل تطبيق في المقدمة، لا يعرفه إلا هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>What is in front from now on is counted.</source>
+        <translation>يُحسب ما يكون في المقدمة من الآن.</translation>
+    </message>
+    <message>
+        <source>Count from now on</source>
+        <translation>الحساب من الآن</translation>
+    </message>
+</context>
+<context>
     <name>SettingsAbout</name>
     <message>
         <source>Velvetnook</source>
@@ -2090,7 +4020,7 @@
     </message>
     <message>
         <source>Counts and notes stay on this computer. Only what you switch on asks the network.</source>
-        <translation type="unfinished"></translation>
+        <translation>تبقى الأعداد والملاحظات على هذا الحاسوب. ولا يتصل بالشبكة إلا ما تشغّله.</translation>
     </message>
 </context>
 <context>
@@ -2323,6 +4253,81 @@
     </message>
 </context>
 <context>
+    <name>SettingsDock</name>
+    <message>
+        <source>Dock</source>
+        <translation>الرصيف</translation>
+    </message>
+    <message>
+        <source>Applications, files, links and tools at an edge of the screen, in workspaces.</source>
+        <translation>تطبيقات وملفات وروابط وأدوات عند حافة الشاشة، في مساحات عمل.</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>المكان</translation>
+    </message>
+    <message>
+        <source>Edge</source>
+        <translation>الحافة</translation>
+    </message>
+    <message>
+        <source>Floating</source>
+        <translation>عائم</translation>
+    </message>
+    <message>
+        <source>A little away from the edge, round all over.</source>
+        <translation>بعيد قليلًا عن الحافة، مستدير من كل جهة.</translation>
+    </message>
+    <message>
+        <source>At rest</source>
+        <translation>عند السكون</translation>
+    </message>
+    <message>
+        <source>The pointer brings it out where it touches the edge.</source>
+        <translation>يخرجه المؤشر حيث يمس الحافة.</translation>
+    </message>
+    <message>
+        <source>It lies above the windows.</source>
+        <translation>يبقى فوق النوافذ.</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>الفتح</translation>
+    </message>
+    <message>
+        <source>By hovering</source>
+        <translation>بمرور المؤشر</translation>
+    </message>
+    <message>
+        <source>After the delay of the notch. Otherwise a click opens a workspace.</source>
+        <translation>بعد مهلة الشريط العلوي. وإلا فنقرة تفتح مساحة العمل.</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>المظهر</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>اللسان</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>اللوحة</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>السطح</translation>
+    </message>
+    <message>
+        <source>Magnification</source>
+        <translation>التكبير</translation>
+    </message>
+    <message>
+        <source>What is under the pointer grows a little.</source>
+        <translation>يكبر ما تحت المؤشر قليلًا.</translation>
+    </message>
+</context>
+<context>
     <name>SettingsGeneral</name>
     <message>
         <source>Open at login</source>
@@ -2441,6 +4446,18 @@
     <message>
         <source>minutes</source>
         <translation>دقيقة</translation>
+    </message>
+    <message>
+        <source>Volume and brightness</source>
+        <translation>الصوت والسطوع</translation>
+    </message>
+    <message>
+        <source>Show the level in the strip</source>
+        <translation>إظهار المستوى في الشريط</translation>
+    </message>
+    <message>
+        <source>For a moment when a key changes it. Turn off the one of your desktop, if it shows its own.</source>
+        <translation>للحظة عندما يغيّره مفتاح. أوقف ما يظهره سطح المكتب إن كان له مثله.</translation>
     </message>
 </context>
 <context>
@@ -2670,56 +4687,410 @@
     </message>
 </context>
 <context>
+    <name>ShelfCard</name>
+    <message>
+        <source>Name on the shelf</source>
+        <translation>الاسم على الرف</translation>
+    </message>
+</context>
+<context>
+    <name>ShelfDropZone</name>
+    <message>
+        <source>Let go to keep it close</source>
+        <translation>أفلته ليبقى قريبًا</translation>
+    </message>
+    <message>
+        <source>Drop files here to keep them close</source>
+        <translation>أفلت الملفات هنا لتبقى قريبة</translation>
+    </message>
+    <message>
+        <source>Pictures, links and texts too. Files stay where they are.</source>
+        <translation>والصور والروابط والنصوص أيضًا. تبقى الملفات في أماكنها.</translation>
+    </message>
+</context>
+<context>
+    <name>ShelfView</name>
+    <message>
+        <source>paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <translation>معاينة</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>take off shelf</source>
+        <translation>رفع من الرف</translation>
+    </message>
+    <message>
+        <source>There is nothing to paste</source>
+        <translation>لا شيء للصقه</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>الرف</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>معاينة</translation>
+    </message>
+    <message>
+        <source>Show in its folder</source>
+        <translation>إظهار في المجلد</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>إعادة تسمية</translation>
+    </message>
+    <message>
+        <source>Take off shelf</source>
+        <translation>رفع من الرف</translation>
+    </message>
+    <message>
+        <source>Clear the shelf…</source>
+        <translation>إفراغ الرف…</translation>
+    </message>
+    <message>
+        <source>Take everything off the shelf?</source>
+        <translation>أتريد رفع كل شيء من الرف؟</translation>
+    </message>
+    <message>
+        <source>Your files stay where they are.</source>
+        <translation>تبقى ملفاتك في أماكنها.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>إفراغ</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>إبقاء</translation>
+    </message>
+</context>
+<context>
     <name>ShortcutGroup</name>
     <message>
         <source>From anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>من أي مكان</translation>
     </message>
     <message>
         <source>A key for a tool</source>
-        <translation type="unfinished"></translation>
+        <translation>مفتاح لأداة</translation>
     </message>
     <message>
         <source>It opens the panel with that tool.</source>
-        <translation type="unfinished"></translation>
+        <translation>يفتح اللوحة على تلك الأداة.</translation>
     </message>
     <message>
         <source>Tool</source>
-        <translation type="unfinished"></translation>
+        <translation>الأداة</translation>
     </message>
     <message>
         <source>Choose a tool</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر أداة</translation>
     </message>
 </context>
 <context>
     <name>ShortcutRecorder</name>
     <message>
         <source>Press the keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>اضغط المفاتيح…</translation>
     </message>
 </context>
 <context>
     <name>ShortcutRow</name>
     <message>
         <source>Press the keys together. Esc leaves it as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>اضغط المفاتيح معًا. ويبقيه Esc كما هو.</translation>
     </message>
     <message>
         <source>Change…</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير…</translation>
     </message>
     <message>
         <source>Set…</source>
-        <translation type="unfinished">تعيين…</translation>
+        <translation>تعيين…</translation>
     </message>
     <message>
         <source>Change the key of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير مفتاح %1</translation>
     </message>
     <message>
         <source>Take the key of %1 away</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة مفتاح %1</translation>
+    </message>
+</context>
+<context>
+    <name>Sky</name>
+    <message>
+        <source>Clear sky</source>
+        <translation>سماء صافية</translation>
+    </message>
+    <message>
+        <source>Fair</source>
+        <translation>صحو</translation>
+    </message>
+    <message>
+        <source>Partly cloudy</source>
+        <translation>غائم جزئيًا</translation>
+    </message>
+    <message>
+        <source>Cloudy</source>
+        <translation>غائم</translation>
+    </message>
+    <message>
+        <source>Fog</source>
+        <translation>ضباب</translation>
+    </message>
+    <message>
+        <source>Light rain</source>
+        <translation>مطر خفيف</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>مطر</translation>
+    </message>
+    <message>
+        <source>Heavy rain</source>
+        <translation>مطر غزير</translation>
+    </message>
+    <message>
+        <source>Light rain showers</source>
+        <translation>زخّات مطر خفيفة</translation>
+    </message>
+    <message>
+        <source>Rain showers</source>
+        <translation>زخّات مطر</translation>
+    </message>
+    <message>
+        <source>Heavy rain showers</source>
+        <translation>زخّات مطر غزيرة</translation>
+    </message>
+    <message>
+        <source>Light rain and thunder</source>
+        <translation>مطر خفيف ورعد</translation>
+    </message>
+    <message>
+        <source>Rain and thunder</source>
+        <translation>مطر ورعد</translation>
+    </message>
+    <message>
+        <source>Heavy rain and thunder</source>
+        <translation>مطر غزير ورعد</translation>
+    </message>
+    <message>
+        <source>Light rain showers and thunder</source>
+        <translation>زخّات مطر خفيفة ورعد</translation>
+    </message>
+    <message>
+        <source>Rain showers and thunder</source>
+        <translation>زخّات مطر ورعد</translation>
+    </message>
+    <message>
+        <source>Heavy rain showers and thunder</source>
+        <translation>زخّات مطر غزيرة ورعد</translation>
+    </message>
+    <message>
+        <source>Light sleet</source>
+        <translation>مطر ثلجي خفيف</translation>
+    </message>
+    <message>
+        <source>Sleet</source>
+        <translation>مطر ثلجي</translation>
+    </message>
+    <message>
+        <source>Heavy sleet</source>
+        <translation>مطر ثلجي غزير</translation>
+    </message>
+    <message>
+        <source>Light sleet showers</source>
+        <translation>زخّات مطر ثلجي خفيفة</translation>
+    </message>
+    <message>
+        <source>Sleet showers</source>
+        <translation>زخّات مطر ثلجي</translation>
+    </message>
+    <message>
+        <source>Heavy sleet showers</source>
+        <translation>زخّات مطر ثلجي غزيرة</translation>
+    </message>
+    <message>
+        <source>Light sleet and thunder</source>
+        <translation>مطر ثلجي خفيف ورعد</translation>
+    </message>
+    <message>
+        <source>Sleet and thunder</source>
+        <translation>مطر ثلجي ورعد</translation>
+    </message>
+    <message>
+        <source>Heavy sleet and thunder</source>
+        <translation>مطر ثلجي غزير ورعد</translation>
+    </message>
+    <message>
+        <source>Light sleet showers and thunder</source>
+        <translation>زخّات مطر ثلجي خفيفة ورعد</translation>
+    </message>
+    <message>
+        <source>Sleet showers and thunder</source>
+        <translation>زخّات مطر ثلجي ورعد</translation>
+    </message>
+    <message>
+        <source>Heavy sleet showers and thunder</source>
+        <translation>زخّات مطر ثلجي غزيرة ورعد</translation>
+    </message>
+    <message>
+        <source>Light snow</source>
+        <translation>ثلج خفيف</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>ثلج</translation>
+    </message>
+    <message>
+        <source>Heavy snow</source>
+        <translation>ثلج غزير</translation>
+    </message>
+    <message>
+        <source>Light snow showers</source>
+        <translation>زخّات ثلج خفيفة</translation>
+    </message>
+    <message>
+        <source>Snow showers</source>
+        <translation>زخّات ثلج</translation>
+    </message>
+    <message>
+        <source>Heavy snow showers</source>
+        <translation>زخّات ثلج غزيرة</translation>
+    </message>
+    <message>
+        <source>Light snow and thunder</source>
+        <translation>ثلج خفيف ورعد</translation>
+    </message>
+    <message>
+        <source>Snow and thunder</source>
+        <translation>ثلج ورعد</translation>
+    </message>
+    <message>
+        <source>Heavy snow and thunder</source>
+        <translation>ثلج غزير ورعد</translation>
+    </message>
+    <message>
+        <source>Light snow showers and thunder</source>
+        <translation>زخّات ثلج خفيفة ورعد</translation>
+    </message>
+    <message>
+        <source>Snow showers and thunder</source>
+        <translation>زخّات ثلج ورعد</translation>
+    </message>
+    <message>
+        <source>Heavy snow showers and thunder</source>
+        <translation>زخّات ثلج غزيرة ورعد</translation>
+    </message>
+    <message>
+        <source>Unknown sky</source>
+        <translation>حالة سماء غير معروفة</translation>
+    </message>
+</context>
+<context>
+    <name>SoundCard</name>
+    <message>
+        <source>Volume of %1</source>
+        <translation>مستوى %1</translation>
+    </message>
+</context>
+<context>
+    <name>Sounds</name>
+    <message>
+        <source>Rain</source>
+        <translation>مطر</translation>
+    </message>
+    <message>
+        <source>Wind</source>
+        <translation>رياح</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <translation>جدول ماء</translation>
+    </message>
+    <message>
+        <source>Night garden</source>
+        <translation>حديقة ليلًا</translation>
+    </message>
+    <message>
+        <source>Far thunder</source>
+        <translation>رعد بعيد</translation>
+    </message>
+    <message>
+        <source>Brown noise</source>
+        <translation>ضجيج بنّي</translation>
+    </message>
+    <message>
+        <source>Pink noise</source>
+        <translation>ضجيج وردي</translation>
+    </message>
+    <message>
+        <source>White noise</source>
+        <translation>ضجيج أبيض</translation>
+    </message>
+</context>
+<context>
+    <name>SoundsView</name>
+    <message>
+        <source>Space</source>
+        <comment>the key</comment>
+        <translation>المسافة</translation>
+    </message>
+    <message>
+        <source>pause all</source>
+        <translation>إيقاف الكل</translation>
+    </message>
+    <message>
+        <source>play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>volume</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>الأصوات</translation>
+    </message>
+    <message>
+        <source>Pause all</source>
+        <translation>إيقاف الكل مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Play the mix</source>
+        <translation>تشغيل المزيج</translation>
+    </message>
+    <message>
+        <source>Volume of all</source>
+        <translation>مستوى الكل</translation>
     </message>
 </context>
 <context>
@@ -2762,7 +5133,6 @@
     <message>
         <source>%1 is waiting for you</source>
         <comment>Claude Code</comment>
-        <translation type="unfinished"></translation>
         <translation>ينتظرك %1</translation>
     </message>
 </context>
@@ -3236,34 +5606,34 @@
     <name>UpdateGroup</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديثات</translation>
     </message>
     <message>
         <source>Look now</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث الآن</translation>
     </message>
     <message>
         <source>Look for a newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث عن إصدار أحدث</translation>
     </message>
     <message>
-        <source>Asks the maker&apos;s server once a day. Nothing but the version of this program is told to it.</source>
-        <translation type="unfinished"></translation>
+        <source>Asks the maker’s server once a day. Nothing but the version of this program is told to it.</source>
+        <translation>يُسأل خادم الصانع مرة في اليوم، ولا يُخبَر بغير إصدار هذا البرنامج.</translation>
     </message>
 </context>
 <context>
     <name>UpdateOffer</name>
     <message>
         <source>Velvetnook %1 is there</source>
-        <translation type="unfinished"></translation>
+        <translation>صدر Velvetnook %1</translation>
     </message>
     <message>
         <source>Copy its address</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ عنوانه</translation>
     </message>
     <message>
         <source>SHA-256 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>SHA-256 %1</translation>
     </message>
 </context>
 <context>
@@ -3547,6 +5917,10 @@
         <source>Copied %1</source>
         <translation>نُسخ %1</translation>
     </message>
+    <message>
+        <source>%1 is counted no more.</source>
+        <translation>لم يعد %1 يُحسب.</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::AppearanceSettings</name>
@@ -3608,135 +5982,130 @@
     <message>
         <source>weekly</source>
         <comment>span of a limit</comment>
-        <translation type="unfinished"></translation>
+        <translation>أسبوعي</translation>
     </message>
     <message>
         <source>monthly</source>
         <comment>span of a limit</comment>
-        <translation type="unfinished"></translation>
+        <translation>شهري</translation>
     </message>
     <message numerus="yes">
         <source>%n day(s)</source>
         <comment>span of a limit</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n يوم</numerusform>
+            <numerusform>يوم واحد</numerusform>
+            <numerusform>يومان</numerusform>
+            <numerusform>%n أيام</numerusform>
+            <numerusform>%n يومًا</numerusform>
+            <numerusform>%n يوم</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 h window</source>
         <comment>span of a limit</comment>
-        <translation type="unfinished"></translation>
+        <translation>مدة %1 س</translation>
     </message>
     <message>
         <source>%1 bn</source>
         <comment>tokens</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 مليار</translation>
     </message>
     <message>
         <source>%1 M</source>
         <comment>tokens</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 مليون</translation>
     </message>
     <message>
         <source>%1 k</source>
         <comment>tokens</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ألف</translation>
     </message>
     <message>
         <source>resets %1</source>
         <comment>15:40 or Mon</comment>
-        <translation type="unfinished"></translation>
+        <translation>يتجدد %1</translation>
     </message>
     <message>
         <source>%1, %2: %3 percent used. %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2: استُعمل %3 بالمئة. %4</translation>
     </message>
     <message>
-        <source>%1 in seven days</source>
-        <comment>1.2 M tokens</comment>
-        <translation type="unfinished"></translation>
+        <source>tokens · %1 in seven days</source>
+        <comment>1.2 M</comment>
+        <translation>رموز · %1 في سبعة أيام</translation>
     </message>
     <message>
         <source>5 h window</source>
-        <translation type="unfinished"></translation>
+        <translation>مدة ٥ س</translation>
     </message>
     <message>
         <source>seven days</source>
-        <translation type="unfinished"></translation>
+        <translation>سبعة أيام</translation>
     </message>
     <message>
         <source>until %1</source>
         <comment>15:40</comment>
-        <translation type="unfinished"></translation>
+        <translation>حتى %1</translation>
     </message>
     <message>
-        <source>tokens</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing in the last five hours</source>
-        <translation type="unfinished"></translation>
+        <source>tokens · none in five hours</source>
+        <translation>رموز · لا شيء في خمس ساعات</translation>
     </message>
     <message>
         <source>%1, %2: %3 tokens. %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2: %3 من الرموز. %4</translation>
     </message>
     <message>
         <source>working</source>
-        <translation type="unfinished"></translation>
+        <translation>يعمل</translation>
     </message>
     <message>
         <source>working · %1 ago</source>
         <comment>4 min</comment>
-        <translation type="unfinished"></translation>
+        <translation>يعمل · قبل %1</translation>
     </message>
     <message>
         <source>waiting for your answer</source>
-        <translation type="unfinished"></translation>
+        <translation>ينتظر جوابك</translation>
     </message>
     <message>
         <source>%1 · waiting for your answer</source>
         <comment>a folder</comment>
-        <translation type="unfinished"></translation>
         <translation>‏%1 · ينتظر جوابك</translation>
     </message>
     <message>
         <source>just now</source>
-        <translation type="unfinished"></translation>
+        <translation>الآن</translation>
     </message>
     <message>
         <source>No activity</source>
-        <translation type="unfinished"></translation>
+        <translation>لا نشاط</translation>
     </message>
     <message>
         <source>idle since %1</source>
         <comment>11:20 or Mon</comment>
-        <translation type="unfinished"></translation>
+        <translation>ساكن منذ %1</translation>
     </message>
     <message>
         <source>Reading the logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>تجري قراءة السجلات…</translation>
     </message>
     <message numerus="yes">
         <source>%n log(s) could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لم يتعذر سجل</numerusform>
+            <numerusform>تعذّرت قراءة سجل واحد</numerusform>
+            <numerusform>تعذّرت قراءة سجلين</numerusform>
+            <numerusform>تعذّرت قراءة %n سجلات</numerusform>
+            <numerusform>تعذّرت قراءة %n سجلًا</numerusform>
+            <numerusform>تعذّرت قراءة %n سجل</numerusform>
         </translation>
     </message>
     <message>
         <source>Read from the tools’ own logs · %1</source>
         <comment>13:06</comment>
-        <translation type="unfinished"></translation>
+        <translation>من سجلات الأدوات نفسها · %1</translation>
     </message>
 </context>
 <context>
@@ -3767,6 +6136,119 @@
     <message>
         <source>There is no tray in this session.</source>
         <translation>لا صينية في هذه الجلسة.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::CalendarPageViewModel</name>
+    <message>
+        <source>As in my country</source>
+        <translation>كما في بلدي</translation>
+    </message>
+    <message>
+        <source>Only files of this computer can be added.</source>
+        <translation>لا تُضاف إلا ملفات هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>Write the whole path, such as ~/calendars</source>
+        <translation>اكتب المسار كاملًا، مثل ~/calendars</translation>
+    </message>
+    <message>
+        <source>Taken off the list; the file stays</source>
+        <translation>أُزيل من القائمة؛ والملف باقٍ</translation>
+    </message>
+    <message>
+        <source>No calendar is there yet</source>
+        <translation>لا تقويم بعد</translation>
+    </message>
+    <message>
+        <source>Reading your calendars…</source>
+        <translation>تُقرأ تقاويمك…</translation>
+    </message>
+    <message>
+        <source>Nothing planned</source>
+        <translation>لا مواعيد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar(s) could not be read in full</source>
+        <translation>
+            <numerusform>تعذّرت قراءة %n تقويم كاملًا</numerusform>
+            <numerusform>تعذّرت قراءة تقويم واحد كاملًا</numerusform>
+            <numerusform>تعذّرت قراءة تقويمين كاملين</numerusform>
+            <numerusform>تعذّرت قراءة %n تقاويم كاملة</numerusform>
+            <numerusform>تعذّرت قراءة %n تقويمًا كاملًا</numerusform>
+            <numerusform>تعذّرت قراءة %n تقويم كاملًا</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some series could not be counted out</source>
+        <translation>تعذّر حساب بعض المواعيد المتكررة</translation>
+    </message>
+    <message>
+        <source>Your calendar files are only read</source>
+        <translation>تُقرأ ملفات تقاويمك فقط</translation>
+    </message>
+    <message numerus="yes">
+        <source>Read only · %n calendar(s)</source>
+        <translation>
+            <numerusform>للقراءة فقط · %n تقويم</numerusform>
+            <numerusform>للقراءة فقط · تقويم واحد</numerusform>
+            <numerusform>للقراءة فقط · تقويمان</numerusform>
+            <numerusform>للقراءة فقط · %n تقاويم</numerusform>
+            <numerusform>للقراءة فقط · %n تقويمًا</numerusform>
+            <numerusform>للقراءة فقط · %n تقويم</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::CalendarRows</name>
+    <message>
+        <source>all day</source>
+        <translation>كل اليوم</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more like it.</source>
+        <translation>
+            <numerusform>و%n مثله.</numerusform>
+            <numerusform>وواحد مثله.</numerusform>
+            <numerusform>واثنان مثله.</numerusform>
+            <numerusform>و%n مثله.</numerusform>
+            <numerusform>و%n مثله.</numerusform>
+            <numerusform>و%n مثله.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s) in it could not be read.</source>
+        <translation>
+            <numerusform>تعذّرت قراءة %n موعد فيه.</numerusform>
+            <numerusform>تعذّرت قراءة موعد واحد فيه.</numerusform>
+            <numerusform>تعذّرت قراءة موعدين فيه.</numerusform>
+            <numerusform>تعذّرت قراءة %n مواعيد فيه.</numerusform>
+            <numerusform>تعذّرت قراءة %n موعدًا فيه.</numerusform>
+            <numerusform>تعذّرت قراءة %n موعد فيه.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(no title)</source>
+        <translation>(بلا عنوان)</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>بعد %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation>
+            <numerusform>%n موعد</numerusform>
+            <numerusform>موعد واحد</numerusform>
+            <numerusform>موعدان</numerusform>
+            <numerusform>%n مواعيد</numerusform>
+            <numerusform>%n موعدًا</numerusform>
+            <numerusform>%n موعد</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4031,6 +6513,181 @@
     </message>
 </context>
 <context>
+    <name>Velvetnook::DesktopActivity</name>
+    <message>
+        <source>This session does not tell which application is in front.</source>
+        <translation>لا تخبر هذه الجلسة أي تطبيق في المقدمة.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::DockSettings</name>
+    <message>
+        <source>This session lets no program stand at an edge of the screen.</source>
+        <translation>لا تتيح هذه الجلسة لبرنامج أن يقف عند حافة الشاشة.</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>اليسار</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>الأسفل</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>اليمين</translation>
+    </message>
+    <message>
+        <source>Always in sight</source>
+        <translation>ظاهر دائمًا</translation>
+    </message>
+    <message>
+        <source>At the edge</source>
+        <translation>عند الحافة</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>صغير</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>متوسط</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>كبير</translation>
+    </message>
+    <message>
+        <source>Compact</source>
+        <translation>مدمج</translation>
+    </message>
+    <message>
+        <source>Comfortable</source>
+        <translation>مريح</translation>
+    </message>
+    <message>
+        <source>Frosted</source>
+        <translation>زجاجي</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>مصمت</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::DockViewModel</name>
+    <message>
+        <source>New</source>
+        <translation>جديدة</translation>
+    </message>
+    <message>
+        <source>%1 removed.</source>
+        <translation>أُزيل %1.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>item, reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Files, folders, applications and web addresses can lie here.</source>
+        <translation>توضع هنا ملفات ومجلدات وتطبيقات وعناوين ويب.</translation>
+    </message>
+    <message>
+        <source>Divider</source>
+        <translation>فاصل</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>حتى %1</translation>
+    </message>
+    <message>
+        <source>until Velvetnook closes</source>
+        <translation>حتى يُغلق Velvetnook</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::FileGlance</name>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 بايت</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 ك.ب</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 م.ب</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 غ.ب</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 ت.ب</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::FileOpening</name>
+    <message>
+        <source>No program here opens this.</source>
+        <translation>لا برنامج هنا يفتح هذا.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::FilesViewModel</name>
+    <message>
+        <source>No file here has this name</source>
+        <translation>لا ملف هنا بهذا الاسم</translation>
+    </message>
+    <message>
+        <source>Nothing pinned yet</source>
+        <translation>لم يُثبَّت شيء بعد</translation>
+    </message>
+    <message>
+        <source>Nothing was opened lately</source>
+        <translation>لم يُفتح شيء مؤخرًا</translation>
+    </message>
+    <message>
+        <source>Drop files and folders here, or pin what you opened lately.</source>
+        <translation>أفلت الملفات والمجلدات هنا، أو ثبّت ما فتحته مؤخرًا.</translation>
+    </message>
+    <message>
+        <source>What your programs open appears here.</source>
+        <translation>يظهر هنا ما تفتحه برامجك.</translation>
+    </message>
+    <message>
+        <source>Pinned files stay where they are</source>
+        <translation>تبقى الملفات المثبّتة في أماكنها</translation>
+    </message>
+    <message>
+        <source>From the list that your programs keep</source>
+        <translation>من القائمة التي تحفظها برامجك</translation>
+    </message>
+    <message>
+        <source>Not where it was</source>
+        <translation>ليس في مكانه</translation>
+    </message>
+    <message>
+        <source>%1 is not where it was.</source>
+        <translation>%1 ليس في مكانه.</translation>
+    </message>
+    <message>
+        <source>Path copied</source>
+        <translation>نُسخ المسار</translation>
+    </message>
+    <message>
+        <source>No longer pinned</source>
+        <translation>أُلغي التثبيت</translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook::Formatting</name>
     <message>
         <source>am</source>
@@ -4105,29 +6762,24 @@
 <context>
     <name>Velvetnook::GlobalKeys</name>
     <message>
-        <source>No key is set.</source>
-        <translation>لا مفتاح معيّن.</translation>
+        <source>This kind of session gives no program a key of its own. Bind %1 to “%2” in the desktop&apos;s keyboard settings.</source>
+        <translation>لا يمنح هذا النوع من الجلسات برنامجًا مفتاحًا خاصًا. اربط %1 بالأمر «%2» في إعدادات لوحة المفاتيح لسطح المكتب.</translation>
     </message>
     <message>
         <source>This keyboard has no such key. Choose another.</source>
         <translation>لا مفتاح كهذا في لوحة المفاتيح. اختر غيره.</translation>
     </message>
     <message>
-        <source>This kind of session gives no program a key of its own. Bind %1 to “%2” in the desktop&apos;s keyboard settings.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 is another shortcut&apos;s already. Choose another.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Another program has %1. Choose another key, or bind one to “%2” in the desktop&apos;s keyboard settings.</source>
-        <translation type="unfinished"></translation>
         <translation>صار %1 لاختصار آخر. اختر غيره.</translation>
     </message>
     <message>
         <source>Another program has %1. Choose another key, or bind one to “%2” in the desktop&apos;s keyboard settings.</source>
         <translation>صار %1 لبرنامج آخر. اختر مفتاحًا آخر، أو اربط واحدًا بالأمر «%2» في إعدادات لوحة المفاتيح لسطح المكتب.</translation>
+    </message>
+    <message>
+        <source>No key is set.</source>
+        <translation>لا مفتاح معيّن.</translation>
     </message>
 </context>
 <context>
@@ -4248,11 +6900,72 @@
     <name>Velvetnook::HookConnections</name>
     <message>
         <source>The command kest is not where this program is: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس الأمر kest حيث هذا البرنامج: %1</translation>
     </message>
     <message>
         <source>There is nothing to change in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء يُغيَّر في %1</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::InsightsViewModel</name>
+    <message>
+        <source>Fetching from %1…</source>
+        <translation>يجري الجلب من %1…</translation>
+    </message>
+    <message>
+        <source>%1 is not connected yet.</source>
+        <translation>لم يوصل %1 بعد.</translation>
+    </message>
+    <message>
+        <source>Refresh returns at %1.</source>
+        <translation>يعود التحديث عند %1.</translation>
+    </message>
+    <message>
+        <source>%1 online now</source>
+        <translation>%1 متّصلون الآن</translation>
+    </message>
+    <message>
+        <source>Fetched %1 · %2</source>
+        <translation>جُلب %1 · %2</translation>
+    </message>
+    <message>
+        <source>Fetched %1</source>
+        <translation>جُلب %1</translation>
+    </message>
+    <message>
+        <source>DataFast asks for the website’s id.</source>
+        <translation>يطلب DataFast معرّف الموقع.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::LinksViewModel</name>
+    <message>
+        <source>No bookmarks yet</source>
+        <translation>لا إشارات بعد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bookmark(s)</source>
+        <translation>
+            <numerusform>%n إشارة</numerusform>
+            <numerusform>إشارة واحدة</numerusform>
+            <numerusform>إشارتان</numerusform>
+            <numerusform>%n إشارات</numerusform>
+            <numerusform>%n إشارة</numerusform>
+            <numerusform>%n إشارة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Use a source URL beginning with https://</source>
+        <translation>استخدم رابط مصدر يبدأ بـ https://</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>نُسخ</translation>
+    </message>
+    <message>
+        <source>Bookmark removed</source>
+        <translation>أُزيلت الإشارة</translation>
     </message>
 </context>
 <context>
@@ -4279,6 +6992,229 @@
     <message>
         <source>This system does not tell when it sleeps.</source>
         <translation>لا يخبر هذا النظام متى ينام.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::MixerRows</name>
+    <message>
+        <source>Muted</source>
+        <translation>مكتوم</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::MonitorChart</name>
+    <message>
+        <source>mean and peak, all cores</source>
+        <translation>المتوسط والذروة، كل الأنوية</translation>
+    </message>
+    <message>
+        <source>mean and peak</source>
+        <translation>المتوسط والذروة</translation>
+    </message>
+    <message>
+        <source>%1/%2</source>
+        <comment>day and month</comment>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>الآن</translation>
+    </message>
+    <message>
+        <source>peak %1</source>
+        <translation>الذروة %1</translation>
+    </message>
+    <message>
+        <source>History off</source>
+        <translation>السجل متوقف</translation>
+    </message>
+    <message>
+        <source>History paused</source>
+        <translation>السجل متوقف مؤقتًا</translation>
+    </message>
+    <message>
+        <source>History on</source>
+        <translation>السجل يعمل</translation>
+    </message>
+    <message>
+        <source>one day</source>
+        <translation>يوم واحد</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%1 أيام</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::MonitorOptions</name>
+    <message>
+        <source>Off</source>
+        <comment>no threshold</comment>
+        <translation>متوقف</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::MonitorTile</name>
+    <message>
+        <source>CPU</source>
+        <translation>المعالج</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>الذاكرة</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>القرص</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>one core</source>
+        <translation>نواة واحدة</translation>
+    </message>
+    <message>
+        <source>%1 cores</source>
+        <translation>%1 أنوية</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>9.4 of 16 GB</comment>
+        <translation>من %1</translation>
+    </message>
+    <message>
+        <source>↑ %1</source>
+        <comment>upload</comment>
+        <translation>↑ %1</translation>
+    </message>
+    <message>
+        <source>%1 free</source>
+        <translation>%1 متاح</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::MonitorViewModel</name>
+    <message>
+        <source>Review</source>
+        <translation>مراجعة</translation>
+    </message>
+    <message>
+        <source>Kernel</source>
+        <translation>النواة</translation>
+    </message>
+    <message>
+        <source>%1, processor %2, memory %3</source>
+        <translation>%1، المعالج %2، الذاكرة %3</translation>
+    </message>
+    <message>
+        <source>%1, number %2, processor %3, memory %4</source>
+        <translation>%1، الرقم %2، المعالج %3، الذاكرة %4</translation>
+    </message>
+    <message>
+        <source>Battery of the accessory</source>
+        <translation>بطارية الملحق</translation>
+    </message>
+    <message>
+        <source>Listens on %1</source>
+        <translation>يستمع على %1</translation>
+    </message>
+    <message>
+        <source>Up %1</source>
+        <translation>يعمل منذ %1</translation>
+    </message>
+    <message>
+        <source>one process restricted</source>
+        <translation>عملية واحدة محجوبة</translation>
+    </message>
+    <message>
+        <source>%1 processes restricted</source>
+        <translation>%1 عمليات محجوبة</translation>
+    </message>
+    <message>
+        <source>Clear the monitor’s history?</source>
+        <translation>مسح سجل المراقب؟</translation>
+    </message>
+    <message>
+        <source>Kill %1?</source>
+        <translation>إنهاء %1 قسرًا؟</translation>
+    </message>
+    <message>
+        <source>Quit %1?</source>
+        <translation>إنهاء %1؟</translation>
+    </message>
+    <message>
+        <source>All that was recorded so far is deleted. This cannot be undone.</source>
+        <translation>يُحذف كل ما سُجّل حتى الآن. لا يمكن التراجع عن هذا.</translation>
+    </message>
+    <message>
+        <source>It ends at once. What it has not saved is lost.</source>
+        <translation>ينتهي فورًا. يضيع ما لم يحفظه.</translation>
+    </message>
+    <message>
+        <source>It is asked to end, and may save its work first or refuse.</source>
+        <translation>يُطلب منه أن ينتهي، وقد يحفظ عمله أولًا أو يرفض.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Kill</source>
+        <translation>إنهاء قسري</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <comment>an application</comment>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>The monitor’s history is cleared.</source>
+        <translation>مُسح سجل المراقب.</translation>
+    </message>
+    <message>
+        <source>%1 is ended.</source>
+        <translation>أُنهي %1.</translation>
+    </message>
+    <message>
+        <source>Asked %1 to quit.</source>
+        <translation>طُلب من %1 أن ينتهي.</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>حُفظت باسم %1.</translation>
+    </message>
+    <message>
+        <source>The image could not be written: %1</source>
+        <translation>تعذّرت كتابة الصورة: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::MusicViewModel</name>
+    <message>
+        <source>Nothing is playing</source>
+        <translation>لا شيء يعمل</translation>
+    </message>
+    <message>
+        <source>Browser tab · connected</source>
+        <translation>لسان متصفّح · موصول</translation>
+    </message>
+    <message>
+        <source>Browser tab · %1</source>
+        <translation>لسان متصفّح · %1</translation>
+    </message>
+    <message>
+        <source>The one that played last</source>
+        <translation>آخر ما شُغّل</translation>
+    </message>
+    <message>
+        <source>The connected browser tab</source>
+        <translation>لسان المتصفّح الموصول</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1٪</translation>
     </message>
 </context>
 <context>
@@ -4441,6 +7377,25 @@
     <message>
         <source>Open</source>
         <translation>مفتوح</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::OverlayViewModel</name>
+    <message>
+        <source>Muted</source>
+        <translation>مكتوم</translation>
+    </message>
+    <message>
+        <source>Volume %1</source>
+        <translation>الصوت %1</translation>
+    </message>
+    <message>
+        <source>Brightness %1</source>
+        <translation>السطوع %1</translation>
+    </message>
+    <message>
+        <source>Keyboard light %1</source>
+        <translation>إضاءة لوحة المفاتيح %1</translation>
     </message>
 </context>
 <context>
@@ -4773,6 +7728,21 @@
     </message>
 </context>
 <context>
+    <name>Velvetnook::PulseServer</name>
+    <message>
+        <source>The part that knows volumes cannot be loaded: %1</source>
+        <translation>تعذّر تحميل الجزء الذي يعرف مستويات الصوت: %1</translation>
+    </message>
+    <message>
+        <source>The sound server cannot be asked.</source>
+        <translation>لا يمكن سؤال خادم الصوت.</translation>
+    </message>
+    <message>
+        <source>There is no sound server in this session.</source>
+        <translation>لا يوجد خادم صوت في هذه الجلسة.</translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook::PulseSounds</name>
     <message>
         <source>There is no sound server in this session.</source>
@@ -4846,30 +7816,66 @@
     </message>
 </context>
 <context>
+    <name>Velvetnook::ScreenTimeViewModel</name>
+    <message>
+        <source>7 days</source>
+        <comment>the last ones</comment>
+        <translation>٧ أيام</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>the week before</source>
+        <translation>الأسبوع السابق</translation>
+    </message>
+    <message>
+        <source>the day before</source>
+        <translation>اليوم السابق</translation>
+    </message>
+    <message>
+        <source>as much as %1</source>
+        <translation>مثل %1</translation>
+    </message>
+    <message>
+        <source>%1 less than %2</source>
+        <translation>أقل من %2 بمقدار %1</translation>
+    </message>
+    <message>
+        <source>%1 more than %2</source>
+        <translation>أكثر من %2 بمقدار %1</translation>
+    </message>
+    <message>
+        <source>Longest stretch %1</source>
+        <translation>أطول مدة متصلة %1</translation>
+    </message>
+    <message>
+        <source>under a minute</source>
+        <translation>أقل من دقيقة</translation>
+    </message>
+    <message>
+        <source>Nothing is counted now</source>
+        <translation>لا شيء يُحسب الآن</translation>
+    </message>
+    <message>
+        <source>Known only to this computer</source>
+        <translation>لا يعرفه إلا هذا الحاسوب</translation>
+    </message>
+</context>
+<context>
     <name>Velvetnook::SettingsViewModel</name>
     <message>
         <source>General</source>
         <translation>عام</translation>
     </message>
     <message>
-        <source>language arabic english digits clock start login history sound onboarding</source>
-        <translation>لغة عربية إنجليزية أرقام ساعة بدء دخول سجل صوت</translation>
-    </message>
-    <message>
         <source>Appearance</source>
         <translation>المظهر</translation>
     </message>
     <message>
-        <source>theme dark light accent colour color motion material text size surface transliteration</source>
-        <translation>سمة داكن فاتح لون تمييز حركة نص حجم سطح لاتينية</translation>
-    </message>
-    <message>
         <source>Notch</source>
         <translation>الشريط العلوي</translation>
-    </message>
-    <message>
-        <source>strip panel open delay hidden hide screen display fullscreen applications pause pinned</source>
-        <translation>شريط لوحة تأخير مخفي شاشة عرض تطبيقات إيقاف مثبت</translation>
     </message>
     <message>
         <source>Shortcuts</source>
@@ -4884,73 +7890,52 @@
         <translation>التذكيرات</translation>
     </message>
     <message>
-        <source>notification hours days weekdays interval pause sound test</source>
-        <translation>إشعار ساعات أيام فاصل إيقاف تجربة</translation>
-    </message>
-    <message>
         <source>Prayer</source>
         <translation>الصلاة</translation>
-    </message>
-    <message>
-        <source>place city location method asr hanafi latitude qibla hijri adjustments times</source>
-        <translation>مكان مدينة موقع طريقة عصر عرض هجري تعديل مواقيت</translation>
     </message>
     <message>
         <source>Tools</source>
         <translation>الأدوات</translation>
     </message>
     <message>
-        <source>order favourites favorites tabs header</source>
-        <translation>ترتيب مفضلة ألسنة ترويسة</translation>
-    </message>
-    <message>
         <source>Data &amp; backup</source>
         <translation>البيانات والنسخ</translation>
-    </message>
-    <message>
-        <source>export import restore erase clear history reset folder file</source>
-        <translation>تصدير استيراد مسح سجل تصفير مجلد ملف</translation>
     </message>
     <message>
         <source>About</source>
         <translation>حول</translation>
     </message>
     <message>
-        <source>version licence license updates capabilities</source>
-        <translation>إصدار رخصة تحديثات قدرات</translation>
-    </message>
-</context>
-<context>
-    <name>Velvetnook::ShortcutSettings</name>
-    <message>
-        <source>Palette</source>
-        <translation type="unfinished"></translation>
+        <source>language arabic english digits clock start login history sound onboarding</source>
+        <translation>لغة عربية إنجليزية أرقام ساعة بدء دخول سجل صوت</translation>
     </message>
     <message>
-        <source>Panel</source>
-        <translation type="unfinished"></translation>
+        <source>theme dark light accent colour color motion material text size surface transliteration</source>
+        <translation>سمة داكن فاتح لون تمييز حركة نص حجم سطح لاتينية</translation>
     </message>
     <message>
-        <source>No key is set.</source>
-        <translation type="unfinished">لا مفتاح معيّن.</translation>
+        <source>strip panel open delay hidden hide screen display fullscreen applications pause pinned</source>
+        <translation>شريط لوحة تأخير مخفي شاشة عرض تطبيقات إيقاف مثبت</translation>
     </message>
     <message>
-        <source>It works over every application.</source>
-        <translation type="unfinished">يعمل فوق كل تطبيق.</translation>
+        <source>Dock</source>
+        <translation>الرصيف</translation>
     </message>
     <message>
-        <source>This key cannot be taken. A letter, a digit or F1 to F12 can.</source>
-        <translation type="unfinished"></translation>
+        <source>workspaces edge side companion hover floating magnification</source>
+        <translation>مساحات العمل حافة جانب رفيق مرور عائم تكبير رصيف</translation>
     </message>
     <message>
-        <source>Hold Ctrl, Alt or Super together with it.</source>
-        <translation type="unfinished"></translation>
+        <source>notification hours days weekdays interval pause sound test</source>
+        <translation>إشعار ساعات أيام فاصل إيقاف تجربة</translation>
     </message>
     <message>
-        <source>%1 opens %2 already.</source>
-        <comment>Ctrl+K, Notes</comment>
-        <translation type="unfinished"></translation>
-        <translation>الاختصار %1 يفتح %2.</translation>
+        <source>place city location method asr hanafi latitude qibla hijri adjustments times</source>
+        <translation>مكان مدينة موقع طريقة عصر عرض هجري تعديل مواقيت</translation>
+    </message>
+    <message>
+        <source>order favourites favorites tabs header</source>
+        <translation>ترتيب مفضلة ألسنة ترويسة</translation>
     </message>
     <message>
         <source>Clipboard</source>
@@ -4960,12 +7945,182 @@
         <source>copy paste history password exclude days limit</source>
         <translation>نسخ لصق سجل كلمة مرور استثناء أيام حد copy paste clipboard</translation>
     </message>
+    <message>
+        <source>export import restore erase clear history reset folder file</source>
+        <translation>تصدير استيراد مسح سجل تصفير مجلد ملف</translation>
+    </message>
+    <message>
+        <source>version licence license updates capabilities</source>
+        <translation>إصدار رخصة تحديثات قدرات</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::ShelfViewModel</name>
+    <message>
+        <source>The picture is too large for the shelf.</source>
+        <translation>الصورة أكبر من أن توضع على الرف.</translation>
+    </message>
+    <message>
+        <source>%1 is not where it was.</source>
+        <translation>%1 ليس في مكانه.</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>نُسخ</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>تغيّر الاسم</translation>
+    </message>
+    <message>
+        <source>Renamed here; the file keeps its name</source>
+        <translation>تغيّر الاسم هنا؛ ويبقى اسم الملف</translation>
+    </message>
+    <message>
+        <source>Taken off the shelf</source>
+        <translation>رُفع من الرف</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>الرف فارغ</translation>
+    </message>
+    <message>
+        <source>What you put here stays on this computer</source>
+        <translation>ما تضعه هنا يبقى على هذا الحاسوب</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) · stays on this computer</source>
+        <translation>
+            <numerusform>%n ملف · تبقى على هذا الحاسوب</numerusform>
+            <numerusform>ملف واحد · يبقى على هذا الحاسوب</numerusform>
+            <numerusform>ملفان · يبقيان على هذا الحاسوب</numerusform>
+            <numerusform>%n ملفات · تبقى على هذا الحاسوب</numerusform>
+            <numerusform>%n ملفًا · تبقى على هذا الحاسوب</numerusform>
+            <numerusform>%n ملف · تبقى على هذا الحاسوب</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thing(s) · stays on this computer</source>
+        <translation>
+            <numerusform>%n شيء · تبقى على هذا الحاسوب</numerusform>
+            <numerusform>شيء واحد · يبقى على هذا الحاسوب</numerusform>
+            <numerusform>شيئان · يبقيان على هذا الحاسوب</numerusform>
+            <numerusform>%n أشياء · تبقى على هذا الحاسوب</numerusform>
+            <numerusform>%n شيئًا · تبقى على هذا الحاسوب</numerusform>
+            <numerusform>%n شيء · تبقى على هذا الحاسوب</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not where it was</source>
+        <translation>ليس في مكانه</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>مجلد</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>رابط</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>نص</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::ShortcutSettings</name>
+    <message>
+        <source>Palette</source>
+        <translation>لوحة الأوامر</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>اللوحة</translation>
+    </message>
+    <message>
+        <source>No key is set.</source>
+        <translation>لا مفتاح معيّن.</translation>
+    </message>
+    <message>
+        <source>It works over every application.</source>
+        <translation>يعمل فوق كل تطبيق.</translation>
+    </message>
+    <message>
+        <source>This key cannot be taken. A letter, a digit or F1 to F12 can.</source>
+        <translation>لا يؤخذ هذا المفتاح. يؤخذ حرف أو رقم أو F1 إلى F12.</translation>
+    </message>
+    <message>
+        <source>Hold Ctrl, Alt or Super together with it.</source>
+        <translation>اضغط معه Ctrl أو Alt أو Super.</translation>
+    </message>
+    <message>
+        <source>%1 opens %2 already.</source>
+        <comment>Ctrl+K, Notes</comment>
+        <translation>الاختصار %1 يفتح %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::SoundMixViewModel</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1٪</translation>
+    </message>
+    <message>
+        <source>Until you stop it</source>
+        <translation>حتى توقفها</translation>
+    </message>
+    <message>
+        <source>Off in %1</source>
+        <comment>30 min</comment>
+        <translation>تتوقّف بعد %1</translation>
+    </message>
+    <message>
+        <source>Choose a sound, or several together</source>
+        <translation>اختر صوتًا أو عدّة أصوات معًا</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sound(s) playing together</source>
+        <translation>
+            <numerusform>لا صوت يعمل</numerusform>
+            <numerusform>صوت واحد يعمل</numerusform>
+            <numerusform>صوتان يعملان معًا</numerusform>
+            <numerusform>%n أصوات تعمل معًا</numerusform>
+            <numerusform>%n صوتًا يعمل معًا</numerusform>
+            <numerusform>%n صوت يعمل معًا</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sound(s) paused</source>
+        <translation>
+            <numerusform>لا صوت موقوف</numerusform>
+            <numerusform>صوت واحد موقوف مؤقتًا</numerusform>
+            <numerusform>صوتان موقوفان مؤقتًا</numerusform>
+            <numerusform>%n أصوات موقوفة مؤقتًا</numerusform>
+            <numerusform>%n صوتًا موقوفًا مؤقتًا</numerusform>
+            <numerusform>%n صوت موقوف مؤقتًا</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no way to play sounds here.</source>
+        <translation>لا سبيل إلى تشغيل الأصوات هنا.</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::StoreLender</name>
     <message>
         <source>A kest command is using your data. What you do meanwhile is kept and saved when it ends.</source>
         <translation>أمر kest يستعمل بياناتك. ما تفعله الآن يُحفظ حين ينتهي.</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::TabPlayback</name>
+    <message>
+        <source>A port is a number from 1 to 65,535.</source>
+        <translation>المنفذ رقم من 1 إلى 65,535.</translation>
+    </message>
+    <message>
+        <source>The browser has no tab that may be read.</source>
+        <translation>ليس في المتصفّح لسان يجوز أن يُقرأ.</translation>
     </message>
 </context>
 <context>
@@ -5147,40 +8302,224 @@
     <name>Velvetnook::UpdateSettings</name>
     <message>
         <source>Stable build</source>
-        <translation type="unfinished"></translation>
+        <translation>إصدار مستقر</translation>
     </message>
     <message>
         <source>Release candidate</source>
-        <translation type="unfinished"></translation>
+        <translation>إصدار مرشّح</translation>
     </message>
     <message>
         <source>Development build</source>
-        <translation type="unfinished"></translation>
+        <translation>إصدار للتطوير</translation>
     </message>
     <message>
         <source>Asking…</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري السؤال…</translation>
     </message>
     <message>
         <source>Nobody was asked yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُسأل أحد بعد.</translation>
     </message>
     <message>
         <source>Nobody is asked until you allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسأل أحد حتى تأذن.</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>a date and a time</comment>
-        <translation type="unfinished">%1، %2</translation>
+        <translation>%1، %2</translation>
     </message>
     <message>
         <source>Asked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>سُئل: %1</translation>
     </message>
     <message>
         <source>Nothing newer was there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يكن ما هو أحدث: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::WeatherPlaces</name>
+    <message>
+        <source>No city is called “%1”</source>
+        <translation>لا مدينة اسمها «%1»</translation>
+    </message>
+    <message>
+        <source>the place of the prayer times</source>
+        <translation>مكان أوقات الصلاة</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+</context>
+<context>
+    <name>Velvetnook::WeatherViewModel</name>
+    <message>
+        <source>The forecast comes over the network.</source>
+        <translation>تأتي التوقّعات عبر الشبكة.</translation>
+    </message>
+    <message>
+        <source>MET Norway is asked for it while you look. It is told where, to about a kilometre, and nothing else.</source>
+        <translation>تُسأل عنها MET Norway ما دمت تنظر. تُعطى المكان بدقّة كيلومتر تقريبًا ولا شيء غيره.</translation>
+    </message>
+    <message>
+        <source>Refresh returns at %1.</source>
+        <translation>يعود التحديث عند %1.</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <comment>the place of the prayer times</comment>
+        <translation>هنا</translation>
+    </message>
+    <message>
+        <source>Forecast updated %1</source>
+        <translation>حُدّثت التوقّعات %1</translation>
+    </message>
+    <message>
+        <source>Previous forecast · %1</source>
+        <translation>توقّعات سابقة · %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1، %2، %3</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherDays</name>
+    <message>
+        <source>%1: %2, %3 to %4</source>
+        <translation>%1: %2، من %3 إلى %4</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherForecast</name>
+    <message>
+        <source>Choose another place</source>
+        <translation>اختر مكانًا آخر</translation>
+    </message>
+    <message>
+        <source>The next hours</source>
+        <translation>الساعات القادمة</translation>
+    </message>
+    <message>
+        <source>The next days</source>
+        <translation>الأيام القادمة</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>مطر</translation>
+    </message>
+    <message>
+        <source>Wind</source>
+        <translation>رياح</translation>
+    </message>
+    <message>
+        <source>Humidity</source>
+        <translation>الرطوبة</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherHours</name>
+    <message>
+        <source>The next hours: %1</source>
+        <translation>الساعات القادمة: %1</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherPlacePage</name>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Place of the weather</source>
+        <translation>مكان الطقس</translation>
+    </message>
+    <message>
+        <source>As the prayer times: %1</source>
+        <translation>كأوقات الصلاة: %1</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>مدينة</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherTile</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherView</name>
+    <message>
+        <source>Weather</source>
+        <translation>الطقس</translation>
+    </message>
+    <message>
+        <source>Choose a city</source>
+        <translation>اختر مدينة</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>السماح</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>حاول من جديد</translation>
+    </message>
+    <message>
+        <source>Another place…</source>
+        <translation>مكان آخر…</translation>
+    </message>
+    <message>
+        <source>Data from MET Norway</source>
+        <translation>البيانات من MET Norway</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>تحديث</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherWords</name>
+    <message>
+        <source>%1 km/h</source>
+        <translation>%1 كم/س</translation>
+    </message>
+    <message>
+        <source>Wind unavailable</source>
+        <translation>الرياح غير متاحة</translation>
+    </message>
+    <message>
+        <source>%1 mm next hour</source>
+        <translation>%1 مم في الساعة القادمة</translation>
+    </message>
+    <message>
+        <source>Rain unavailable</source>
+        <translation>المطر غير متاح</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1٪</translation>
+    </message>
+    <message>
+        <source>Humidity unavailable</source>
+        <translation>الرطوبة غير متاحة</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>الآن</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
     </message>
 </context>
 <context>
@@ -5192,6 +8531,21 @@
     <message>
         <source>Welcome to Velvetnook</source>
         <translation>أهلًا بك في Velvetnook</translation>
+    </message>
+</context>
+<context>
+    <name>Workspaces</name>
+    <message>
+        <source>Faith</source>
+        <translation>الإيمان</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>التركيز</translation>
+    </message>
+    <message>
+        <source>Coding</source>
+        <translation>البرمجة</translation>
     </message>
 </context>
 </TS>
