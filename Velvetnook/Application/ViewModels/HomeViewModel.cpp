@@ -12,6 +12,7 @@
 #include "Velvetnook/Application/LocalDay.h"
 #include "Velvetnook/Application/PrayerWatch.h"
 #include "Velvetnook/Application/TimerSteps.h"
+#include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ToolTitles.h"
 
 #include <QVariantMap>
@@ -157,6 +158,13 @@ QString HomeViewModel::footer() const
 {
     return tr("%1 · %2").arg(m_formatting.date(m_model.now()),
                              islamicDateText(m_model, m_formatting));
+}
+
+QString HomeViewModel::clipboardNote() const
+{
+    const bool isPaused = isToolOn(m_model.state(), "clipboard") &&
+                          m_model.isOn("clipboard.enabled") && m_model.isOn("clipboard.paused");
+    return isPaused ? tr("Clipboard · paused") : QString{};
 }
 
 QString HomeViewModel::counterNote() const

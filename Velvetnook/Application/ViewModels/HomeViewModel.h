@@ -25,6 +25,7 @@ class HomeViewModel : public QObject
     Q_PROPERTY(
         QVariantList cards READ cards NOTIFY cardsChanged) // {tool, row, column, columns}
     Q_PROPERTY(QString footer READ footer NOTIFY changed)
+    Q_PROPERTY(QString clipboardNote READ clipboardNote NOTIFY changed) // while it is paused
     Q_PROPERTY(QString counterNote READ counterNote NOTIFY changed)
 
     Q_PROPERTY(QString prayerTitle READ prayerTitle NOTIFY changed)
@@ -50,6 +51,7 @@ public:
     void setShown(bool isShown);
     QVariantList cards() const { return m_cards; }
     QString footer() const;
+    QString clipboardNote() const;
     QString counterNote() const;
     QString prayerTitle() const;
     QVariantList prayerLeft() const;

@@ -9,12 +9,17 @@ import Velvetnook.Shell
 Item {
     id: root
 
+    signal footerActionClicked
+
     readonly property string footerText: App.home.footer
+    readonly property string footerAction: App.home.clipboardNote
 
     readonly property var sources: ({dhikr: "HomeCounterCard.qml", prayer: "HomePrayerCard.qml",
                                      names: "HomeNameCard.qml", timers: "HomeTimerCard.qml",
                                      weather: "HomeWeatherCard.qml", stats: "HomeMonitorCard.qml"})
     readonly property real column: (width - 36) / 4
+
+    onFooterActionClicked: App.panel.openTool("clipboard")
 
     implicitWidth: 600
     implicitHeight: 220
