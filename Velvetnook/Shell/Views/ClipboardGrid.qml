@@ -75,7 +75,7 @@ FocusScope {
         height: parent.height + 6
         focus: true
         activeFocusOnTab: true
-        cellWidth: 610 / 3
+        cellWidth: 203
         cellHeight: 92
         cacheBuffer: 0
         clip: contentHeight > height + 10
