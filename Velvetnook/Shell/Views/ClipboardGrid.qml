@@ -16,6 +16,7 @@ FocusScope {
     property var items: []
     property var deeds: []
 
+    function begin() { cards.currentIndex = 0; }
     function use() { if (chosen !== "") { model.use(chosen); } }
     function copy() { if (chosen !== "") { model.copy(chosen); } }
     function openMenu(x, y) {

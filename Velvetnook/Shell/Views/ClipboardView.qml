@@ -35,7 +35,10 @@ FocusScope {
     QtObject {
         readonly property bool isShown: root.visible && root.Window.visibility !== Window.Hidden
 
-        onIsShownChanged: root.model.setShown(isShown)
+        onIsShownChanged: {
+            root.model.setShown(isShown);
+            grid.begin();
+        }
         Component.onCompleted: root.model.setShown(isShown)
     }
     Field {
