@@ -21,6 +21,9 @@
 #include "Velvetnook/Application/ViewModels/SoundMixViewModel.h"
 #include "Velvetnook/Application/ViewModels/WeatherViewModel.h"
 
+#include <QDesktopServices>
+#include <QUrl>
+
 namespace Velvetnook
 {
 
@@ -253,6 +256,11 @@ MonitorViewModel *App::monitor()
         made(m_monitor);
         connect(m_monitor, &MonitorViewModel::said, this,
                 [this](const QString &message) { panel()->showMessage(message, {}); });
+        connect(m_monitor, &MonitorViewModel::imageSaved, this,
+                [this](const QString &message, const QUrl &folder) {
+                    panel()->showMessage(message, tr("Show", "the folder of a file"),
+                                         [folder] { QDesktopServices::openUrl(folder); });
+                });
         connect(m_monitor, &MonitorViewModel::notificationWanted, this,
                 [this](const NotificationRequest &request) {
                     const bool isInView =

@@ -98,8 +98,9 @@ StripStep Strip::step()
         lookAgain(*m_sources.countedAt + kCountingTime);
     }
     if (m_sources.isLent) {
-        return {.content = {.kind = QStringLiteral("lent"), .isNarrow = true},
-                .changesAt = m_changesAt};
+        return {
+            .content = {.kind = QStringLiteral("lent"), .isCentred = true, .isNarrow = true},
+            .changesAt = m_changesAt};
     }
     using Source = Content (Strip::*)();
     static constexpr Source kOrder[]{

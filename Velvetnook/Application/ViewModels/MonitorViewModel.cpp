@@ -9,6 +9,7 @@
 #include "Velvetnook/Application/Monitor/AmountText.h"
 
 #include <QColor>
+#include <QDir>
 #include <QFileInfo>
 #include <QPainter>
 #include <QSaveFile>
@@ -525,10 +526,16 @@ void MonitorViewModel::carryOut(const Question &question)
     });
 }
 
-QUrl MonitorViewModel::imageFile() const
+QUrl MonitorViewModel::freeImageFile() const
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    return QUrl::fromLocalFile(folder + u'/' + imageName());
+    const QDir folder{QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)};
+    const QFileInfo plain{imageName()};
+    QString name = plain.fileName();
+    for (int number = 2; QFileInfo::exists(folder.filePath(name)); ++number) {
+        name = QStringLiteral("%1-%2.%3")
+                   .arg(plain.completeBaseName(), QString::number(number), plain.suffix());
+    }
+    return QUrl::fromLocalFile(folder.filePath(name));
 }
 
 void MonitorViewModel::saveImage(const QImage &view, const QColor &ground, const QUrl &file)
@@ -543,11 +550,17 @@ void MonitorViewModel::saveImage(const QImage &view, const QColor &ground, const
     plain.setDevicePixelRatio(1);
     painter.drawImage(margin, margin, plain);
     painter.end();
-    QSaveFile written{file.toLocalFile()};
+    const QFileInfo place{file.toLocalFile()};
+    QDir{}.mkpath(place.path());
+    QSaveFile written{place.filePath()};
     const bool isWritten = !view.isNull() && written.open(QIODevice::WriteOnly) &&
                            picture.save(&written, "PNG") && written.commit();
-    emit said(isWritten ? tr("Saved as %1.").arg(QFileInfo{file.toLocalFile()}.fileName())
-                        : tr("The image could not be written: %1").arg(written.errorString()));
+    if (isWritten) {
+        emit imageSaved(tr("Saved as %1.").arg(place.fileName()),
+                        QUrl::fromLocalFile(place.path()));
+    } else {
+        emit said(tr("The image could not be written: %1").arg(written.errorString()));
+    }
 }
 
 } // namespace Velvetnook

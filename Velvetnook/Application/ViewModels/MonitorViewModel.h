@@ -57,7 +57,6 @@ class MonitorViewModel : public QObject
     Q_PROPERTY(QString questionBody READ questionBody NOTIFY questionChanged)
     Q_PROPERTY(QString questionVerb READ questionVerb NOTIFY questionChanged)
     Q_PROPERTY(bool questionKills READ questionKills NOTIFY questionChanged)
-    Q_PROPERTY(QUrl imageFile READ imageFile NOTIFY pageChanged) // offered for the export
     Q_PROPERTY(Velvetnook::MixerRows *mixer READ mixer CONSTANT)
     Q_PROPERTY(Velvetnook::MonitorChart *chart READ chart CONSTANT)
     Q_PROPERTY(Velvetnook::MonitorOptions *options READ options CONSTANT)
@@ -99,7 +98,6 @@ public:
     QString questionBody() const;
     QString questionVerb() const;
     bool questionKills() const;
-    QUrl imageFile() const;
     MixerRows *mixer() { return &m_mixer; }
     MonitorChart *chart() { return &m_chart; }
     MonitorOptions *options() { return &m_options; }
@@ -113,6 +111,8 @@ public:
     // Asks before it ends one process, or with its id the whole application.
     Q_INVOKABLE void askToEnd(const QString &rowId, bool kills);
     Q_INVOKABLE void answer(bool isYes);
+    // Where a picture can go without taking the place of another.
+    Q_INVOKABLE QUrl freeImageFile() const;
     // Writes the picture of the view on its ground.
     Q_INVOKABLE void saveImage(const QImage &view, const QColor &ground, const QUrl &file);
     Q_INVOKABLE void askToClear();
@@ -127,6 +127,7 @@ signals:
     void alertsChanged();
     void questionChanged();
     void said(const QString &message);
+    void imageSaved(const QString &message, const QUrl &folder);
     void notificationWanted(const Velvetnook::NotificationRequest &request);
     void notificationObsolete(const QString &notificationId);
 

@@ -20,8 +20,8 @@ Item {
                                      options: "MonitorOptionsPage.qml"})
 
     function exportImage() {
-        files.active = false;
-        files.active = true;
+        root.grabToImage(picture => App.monitor.saveImage(picture.image, Theme.color.bg0,
+                                                          App.monitor.freeImageFile()));
     }
 
     implicitWidth: 600
@@ -79,19 +79,6 @@ Item {
             if (App.monitor.question !== "" && !dialog.visible) {
                 dialog.open();
             }
-        }
-    }
-    Loader {
-        id: files
-
-        active: false
-        sourceComponent: MonitorImageDialog {
-            selectedFile: App.monitor.imageFile
-            onAccepted: {
-                const file = selectedFile;
-                root.grabToImage(picture => App.monitor.saveImage(picture.image, Theme.color.bg0, file));
-            }
-            Component.onCompleted: open()
         }
     }
     Component {
