@@ -15,6 +15,16 @@ namespace
 
 // Named once more for the translators, who do not read the engines.
 [[maybe_unused]] constexpr const char *kTexts[]{
+    QT_TRANSLATE_NOOP("Engine", "Sustained disk activity exceeded your threshold."),
+    QT_TRANSLATE_NOOP("Engine", "Sustained network activity exceeded your threshold."),
+    QT_TRANSLATE_NOOP("Engine", "Its process footprint grew over the last hour. Review the app "
+                                "to see why."),
+    QT_TRANSLATE_NOOP("Engine", "This process has ended already."),
+    QT_TRANSLATE_NOOP("Engine", "The system cannot run without this process."),
+    QT_TRANSLATE_NOOP("Engine", "This is a part of the system's kernel."),
+    QT_TRANSLATE_NOOP("Engine", "This process belongs to another user."),
+    QT_TRANSLATE_NOOP("Engine", "Velvetnook itself runs under this process."),
+    QT_TRANSLATE_NOOP("Engine", "Your session would end with this process."),
     QT_TRANSLATE_NOOP("Engine", "Target must be between 1 and 1,000,000"),
     QT_TRANSLATE_NOOP("Engine", "Confirm before resetting a nonempty session"),
     QT_TRANSLATE_NOOP("Engine", "This item was removed."),
@@ -141,6 +151,12 @@ constexpr Pattern kPatterns[]{
      QT_TRANSLATE_NOOP("Engine", "This address is saved already, as “%1”")},
     {"^(.*): it is no calendar\\.$", QT_TRANSLATE_NOOP("Engine", "%1: it is no calendar.")},
     {"^(.*): it is not there\\.$", QT_TRANSLATE_NOOP("Engine", "%1: it is not there.")},
+    {"^CPU stayed above (.*)% of one core\\.$",
+     QT_TRANSLATE_NOOP("Engine", "CPU stayed above %1% of one core.")},
+    {"^(.*): high CPU load$", QT_TRANSLATE_NOOP("Engine", "%1: high CPU load")},
+    {"^(.*): high disk activity$", QT_TRANSLATE_NOOP("Engine", "%1: high disk activity")},
+    {"^(.*): high network activity$", QT_TRANSLATE_NOOP("Engine", "%1: high network activity")},
+    {"^(.*): growing memory$", QT_TRANSLATE_NOOP("Engine", "%1: growing memory")},
     {"^(.*) finished\\.$", QT_TRANSLATE_NOOP("Engine", "%1 finished.")},
 };
 

@@ -396,7 +396,7 @@ TEST(MonitorOfHost, ShowsAProcessAndEndsItButNotTheFirstOne)
     app.view.service().end({key.value()}, MonitorTools::Ending::quit, keep);
     ASSERT_TRUE(app.waitUntil([&] { return ended.has_value(); }));
     EXPECT_TRUE(*ended);
-    EXPECT_TRUE(sleeper.waitForFinished());
+    EXPECT_TRUE(app.waitUntil([&] { return sleeper.state() == QProcess::NotRunning; }));
 }
 
 } // namespace

@@ -56,7 +56,7 @@ MonitorViewModel::MonitorViewModel(ApplicationModel &model, const Formatting &fo
     connect(&m_service, &MonitorService::alerted, this,
             [this](const MonitorCore::MonitorAlert &alert) {
                 emit notificationWanted({.id = notificationOf(alert.id),
-                                         .title = QString::fromStdString(alert.title),
+                                         .title = engineText(alert.title),
                                          .body = engineText(alert.detail),
                                          .actions = {{QStringLiteral("review"), tr("Review")}},
                                          .withSound = false});
@@ -405,7 +405,12 @@ QString MonitorViewModel::battery() const
 QString MonitorViewModel::alertApp() const
 {
     const auto &alerts = m_service.alerts();
-    return alerts.empty() ? QString{} : QString::fromStdString(alerts.front().title);
+    if (alerts.empty()) {
+        return {};
+    }
+    // The title says what the text says again, after the application's name.
+    const QString title = QString::fromStdString(alerts.front().title);
+    return title.contains(u':') ? title.section(u':', 0, -2) : title;
 }
 
 QString MonitorViewModel::alertText() const

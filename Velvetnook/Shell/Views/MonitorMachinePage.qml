@@ -20,7 +20,6 @@ Item {
         id: rows
 
         y: 40
-        x: LayoutMirroring.enabled ? -16 : 0
         width: parent.width + 16 // the gap after the last column
         height: parent.height - 40
         cellWidth: Math.floor(width / 2)
