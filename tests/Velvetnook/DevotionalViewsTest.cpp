@@ -4,6 +4,7 @@
 #include "Velvetnook/Application/FridayPrompt.h"
 #include "Velvetnook/Application/HomeCards.h"
 #include "Velvetnook/Application/TimerSteps.h"
+#include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ViewModels/HomeViewModel.h"
 #include "Velvetnook/Application/ViewModels/NamesViewModel.h"
 
@@ -96,7 +97,9 @@ TEST(HomeCards, StandWhereTheyHaveRoom)
          }) {
         SCOPED_TRACE(name);
         auto state = KestCore::defaultNativeState();
-        state.enabled.emplace_back("stats"); // samples, so nobody has it unasked
+        for (const char *tool : {"weather", "stats"}) { // which the user turns on
+            Velvetnook::setToolOn(state, tool, true);
+        }
         std::erase(state.enabled, off);
         if (widgets != nullptr) {
             state.settings["home.widgets"] = widgets;
