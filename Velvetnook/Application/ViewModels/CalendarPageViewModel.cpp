@@ -69,7 +69,7 @@ QStringList CalendarPageViewModel::weekdays() const
 
 QString CalendarPageViewModel::date() const
 {
-    const QString date = m_formatting.date(noonOf(dayNumberOf(m_day), m_model));
+    QString date = m_formatting.date(noonOf(dayNumberOf(m_day), m_model));
     if (m_day.year() == m_today.year()) {
         return date;
     }

@@ -65,6 +65,7 @@ FocusScope {
         anchors.top: parent.top
         anchors.topMargin: 36
         anchors.bottom: warning.visible ? warning.top : parent.bottom
+        anchors.bottomMargin: warning.visible ? 10 : 0
         visible: root.hasEvents
         activeFocusOnTab: true
         clip: contentHeight > height

@@ -65,9 +65,11 @@ Item {
         opacity: root.isMissing ? 0.7 : 1
     }
     Txt {
-        x: 12
+        anchors.left: parent.left
+        anchors.leftMargin: 12
+        anchors.right: parent.right
+        anchors.rightMargin: 6
         y: 86
-        width: parent.width - 24
         visible: !root.editing
         role: "strong"
         lineHeight: 18
