@@ -42,7 +42,7 @@ std::vector<LocalRecord> linksOf(const ApplicationModel &model)
 
 QString firstLetter(const QString &title)
 {
-    const auto found =
+    const auto *const found =
         std::ranges::find_if(title, [](QChar c) { return c.isLetterOrNumber(); });
     return found == title.end() ? QStringLiteral("·") : QString{*found}.toUpper();
 }
