@@ -14,6 +14,7 @@ Item {
 
     signal pageWanted(string page, string itemId, string title)
 
+    readonly property bool hasMenu: adding.visible || managing.visible
     readonly property bool isOnly: App.dock.workspaces.length < 2
 
     function addChosen(index) {
@@ -67,6 +68,7 @@ Item {
         size: 30
         iconName: "plus"
         name: qsTr("Add to this workspace")
+        tip: root.hasMenu ? "" : qsTr("Add") // short: beyond the panel nothing is drawn
         onClicked: adding.popupAt(plus)
     }
     IconButton {
@@ -77,6 +79,7 @@ Item {
         size: 30
         iconName: "more"
         name: qsTr("This workspace")
+        tip: root.hasMenu ? "" : qsTr("More")
         onClicked: managing.popupAt(more)
     }
     DockMenu {
