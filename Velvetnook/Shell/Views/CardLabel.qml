@@ -26,6 +26,7 @@ Item {
         anchors.left: sign.right
         anchors.right: parent.right
         anchors.leftMargin: 7
+        horizontalAlignment: Text.AlignLeft // mirrored with the layout, also of a Latin name
         role: "label"
         text: root.text
         color: Theme.color.text2
