@@ -84,15 +84,6 @@ void ClipboardViewModel::setDesktop(ClipboardDesktop desktop)
     emit changed();
 }
 
-bool ClipboardViewModel::isOn() const { return m_model.isOn("clipboard.enabled"); }
-
-bool ClipboardViewModel::isPaused() const { return isOn() && m_model.isOn("clipboard.paused"); }
-
-bool ClipboardViewModel::pastes() const
-{
-    return m_desktop.paste && m_model.setting("clipboard.pastes") != "false";
-}
-
 void ClipboardViewModel::follow()
 {
     if (m_isClearing && !m_keyring.isOpening()) {
@@ -396,22 +387,6 @@ void ClipboardViewModel::clear()
         return;
     }
     performAndTell([](ClipboardHistory &history) { return history.clear(); });
-}
-
-void ClipboardViewModel::setFilter(const QString &filter)
-{
-    m_filter = filter;
-    showRows();
-    emit listChanged();
-}
-
-void ClipboardViewModel::setQuery(const QString &query)
-{
-    if (query != m_query) {
-        m_query = query;
-        m_typing.start();
-        emit listChanged();
-    }
 }
 
 } // namespace Velvetnook

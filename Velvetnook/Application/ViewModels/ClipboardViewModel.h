@@ -131,7 +131,7 @@ private:
     std::vector<QString> m_lookedAt; // the oldest first
     std::shared_ptr<KestCore::RecordChanges> m_removed;
     bool m_isClearing = false; // once the key is there
-    QTimer m_forget; // what was removed
+    QTimer m_forget;           // what was removed
     QTimer m_typing;
 };
 

@@ -10,6 +10,15 @@ namespace Velvetnook
 
 using KestCore::Availability;
 
+bool ClipboardViewModel::isOn() const { return m_model.isOn("clipboard.enabled"); }
+
+bool ClipboardViewModel::isPaused() const { return isOn() && m_model.isOn("clipboard.paused"); }
+
+bool ClipboardViewModel::pastes() const
+{
+    return m_desktop.paste && m_model.setting("clipboard.pastes") != "false";
+}
+
 Availability ClipboardViewModel::standing() const
 {
     const bool isEmpty = !m_loaded || m_loaded->total == 0;
@@ -159,6 +168,22 @@ void ClipboardViewModel::takeStatusAction()
         m_model.changeSetting("clipboard.enabled", "true");
     } else {
         m_model.changeSetting("clipboard.paused", isPaused() ? "false" : "true");
+    }
+}
+
+void ClipboardViewModel::setFilter(const QString &filter)
+{
+    m_filter = filter;
+    showRows();
+    emit listChanged();
+}
+
+void ClipboardViewModel::setQuery(const QString &query)
+{
+    if (query != m_query) {
+        m_query = query;
+        m_typing.start();
+        emit listChanged();
     }
 }
 
