@@ -965,6 +965,14 @@
         <source>Choose a folder for the dock</source>
         <translation>اختر مجلدًا للرصيف</translation>
     </message>
+    <message>
+        <source>Add</source>
+        <translation>إضافة</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>المزيد</translation>
+    </message>
 </context>
 <context>
     <name>DockItemMenu</name>
@@ -1897,6 +1905,62 @@
         <source>The refresh was cancelled.</source>
         <translation>أُلغي التحديث.</translation>
     </message>
+    <message>
+        <source>Sustained disk activity exceeded your threshold.</source>
+        <translation>تجاوز نشاط القرص المستمر الحدّ الذي اخترته.</translation>
+    </message>
+    <message>
+        <source>Sustained network activity exceeded your threshold.</source>
+        <translation>تجاوز نشاط الشبكة المستمر الحدّ الذي اخترته.</translation>
+    </message>
+    <message>
+        <source>Its process footprint grew over the last hour. Review the app to see why.</source>
+        <translation>نمت ذاكرة عملياته في الساعة الأخيرة. راجع التطبيق لترى السبب.</translation>
+    </message>
+    <message>
+        <source>This process has ended already.</source>
+        <translation>انتهت هذه العملية من قبل.</translation>
+    </message>
+    <message>
+        <source>The system cannot run without this process.</source>
+        <translation>لا يعمل النظام بلا هذه العملية.</translation>
+    </message>
+    <message>
+        <source>This is a part of the system&apos;s kernel.</source>
+        <translation>هذا جزء من نواة النظام.</translation>
+    </message>
+    <message>
+        <source>This process belongs to another user.</source>
+        <translation>هذه العملية لمستخدم آخر.</translation>
+    </message>
+    <message>
+        <source>Velvetnook itself runs under this process.</source>
+        <translation>يعمل Velvetnook نفسه تحت هذه العملية.</translation>
+    </message>
+    <message>
+        <source>Your session would end with this process.</source>
+        <translation>تنتهي جلستك مع هذه العملية.</translation>
+    </message>
+    <message>
+        <source>CPU stayed above %1% of one core.</source>
+        <translation>بقي المعالج فوق %1٪ من نواة واحدة.</translation>
+    </message>
+    <message>
+        <source>%1: high CPU load</source>
+        <translation>%1: حمل مرتفع على المعالج</translation>
+    </message>
+    <message>
+        <source>%1: high disk activity</source>
+        <translation>%1: نشاط مرتفع للقرص</translation>
+    </message>
+    <message>
+        <source>%1: high network activity</source>
+        <translation>%1: نشاط مرتفع للشبكة</translation>
+    </message>
+    <message>
+        <source>%1: growing memory</source>
+        <translation>%1: ذاكرة تنمو</translation>
+    </message>
 </context>
 <context>
     <name>EventGroup</name>
@@ -2711,21 +2775,6 @@
         <source>Esc</source>
         <comment>the key</comment>
         <translation>Esc</translation>
-    </message>
-</context>
-<context>
-    <name>MonitorImageDialog</name>
-    <message>
-        <source>Export an image</source>
-        <translation>تصدير صورة</translation>
-    </message>
-    <message>
-        <source>Images (*.png)</source>
-        <translation>صور (*.png)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>كل الملفات (*)</translation>
     </message>
 </context>
 <context>
@@ -5921,6 +5970,11 @@
         <source>%1 is counted no more.</source>
         <translation>لم يعد %1 يُحسب.</translation>
     </message>
+    <message>
+        <source>Show</source>
+        <comment>the folder of a file</comment>
+        <translation>عرض</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::AppearanceSettings</name>
@@ -6894,6 +6948,10 @@
     <message>
         <source>paused</source>
         <translation>متوقف</translation>
+    </message>
+    <message>
+        <source>Clipboard · paused</source>
+        <translation>الحافظة · متوقفة مؤقتًا</translation>
     </message>
 </context>
 <context>
