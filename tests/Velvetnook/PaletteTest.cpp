@@ -180,7 +180,7 @@ TEST_F(PaletteTest, MovesRoundItsEndsAndStepsBackBeforeItCloses)
 
 TEST_F(PaletteTest, LearnsWhatIsChosenAfterASearchAndForgetsItWhenAsked)
 {
-    palette().setQuery(QStringLiteral("s"));
+    palette().setQuery(QStringLiteral("sc"));
     const auto before = titles();
     const auto tool = before.indexOf(QStringLiteral("Scratchpad"));
     ASSERT_GE(tool, 0);
@@ -194,7 +194,7 @@ TEST_F(PaletteTest, LearnsWhatIsChosenAfterASearchAndForgetsItWhenAsked)
     ASSERT_TRUE(
         waitUntil([&] { return !m_model->setting(KestCore::kPaletteUsesKey).empty(); }));
     palette().begin();
-    palette().setQuery(QStringLiteral("s"));
+    palette().setQuery(QStringLiteral("sc"));
     EXPECT_EQ(titles().front(), "Scratchpad");
 
     palette().setQuery(QStringLiteral("forget what"));
