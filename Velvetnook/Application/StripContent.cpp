@@ -104,10 +104,9 @@ StripStep Strip::step()
     }
     using Source = Content (Strip::*)();
     static constexpr Source kOrder[]{
-        &Strip::emphasis,     &Strip::message,    &Strip::prayerNow,
-        &Strip::lastMinute,   &Strip::counting,   &Strip::assistant,
-        &Strip::runningTimer, &Strip::nowPlaying, &Strip::prayerSoon,
-        &Strip::pinned};
+        &Strip::emphasis,   &Strip::message,   &Strip::prayerNow,    &Strip::lastMinute,
+        &Strip::counting,   &Strip::assistant, &Strip::runningTimer, &Strip::nowPlaying,
+        &Strip::prayerSoon, &Strip::pinned};
     for (const Source source : kOrder) {
         if (Content content = (this->*source)()) {
             return {.content = std::move(*content), .changesAt = m_changesAt};

@@ -49,7 +49,8 @@ NotesViewModel::NotesViewModel(ApplicationModel &model, const Formatting &format
         follow();
         emit statusChanged(); // also of what is being written
     });
-    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &NotesViewModel::leave);
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
+            &NotesViewModel::leave);
     m_list.show(rows());
     m_open = opened(scratchpadIn(m_model.records()));
 }
