@@ -73,14 +73,15 @@ bool hasXServer()
 
 // Only an X server, also one inside a Wayland session, lets a window stand at the top edge
 // above the others. False when there is nothing to draw on.
-bool chooseDisplay()
+bool chooseDisplay(bool &isOurChoice)
 {
+    isOurChoice = false;
     if (isSet("QT_QPA_PLATFORM")) {
         return true; // the user knows better
     }
     if (isSet("DISPLAY") && hasXServer()) {
         setenv("QT_QPA_PLATFORM", "xcb", 1);
-        setenv("VELVETNOOK_CHOSE_DISPLAY", "1", 1); // not for what is started from here
+        isOurChoice = true;
         return true;
     }
     return isSet("WAYLAND_DISPLAY");
@@ -429,7 +430,8 @@ int main(int argc, char **argv)
     if (const auto status = answerWithoutWindow(launch, argc, argv)) {
         return *status;
     }
-    if (!chooseDisplay()) {
+    bool isOurDisplay = false;
+    if (!chooseDisplay(isOurDisplay)) {
         std::fputs("velvetnook: There is no display here. `kest` works in a terminal.\n",
                    stderr);
         return 1;
@@ -440,6 +442,9 @@ int main(int argc, char **argv)
     std::jthread fonts{readFontList};
     LastWords lastWords;
     QGuiApplication application{argc, argv};
+    if (isOurDisplay) {
+        unsetenv("QT_QPA_PLATFORM"); // what is started from here chooses for itself
+    }
     lastWords.displayIsOpen();
     QGuiApplication::setApplicationName(QStringLiteral("velvetnook"));
     QGuiApplication::setApplicationVersion(QStringLiteral(KEST_VERSION));

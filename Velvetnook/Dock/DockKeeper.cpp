@@ -39,7 +39,8 @@ void DockKeeper::follow()
         [this] {
             m_isFollowing = false;
             const bool isWanted = m_model.companion().dock.enabled;
-            if (isWanted && m_window == nullptr) {
+            m_hasFailed = m_hasFailed && isWanted;
+            if (isWanted && m_window == nullptr && !m_hasFailed) {
                 make();
             } else if (!isWanted) {
                 drop();
@@ -61,6 +62,7 @@ void DockKeeper::make()
     m_window = std::make_unique<DockWindow>(m_engine, m_model, *dock, *m_driver);
     if (!m_window->problem().isEmpty()) {
         std::fprintf(stderr, "velvetnook: %s\n", qPrintable(m_window->problem()));
+        m_hasFailed = true; // until it is turned off and on again
         drop();
         return;
     }

@@ -41,6 +41,7 @@ private:
     std::unique_ptr<ApplicationLauncher> m_launcher;
     std::unique_ptr<DockDriver> m_driver;
     std::unique_ptr<DockWindow> m_window;
+    bool m_hasFailed = false; // to make it
     bool m_isFollowing = false;
 };
 

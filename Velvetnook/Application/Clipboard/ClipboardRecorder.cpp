@@ -107,9 +107,8 @@ void ClipboardRecorder::end()
     m_side.reset();
     m_pause.stop();
     m_isNew = false;
-    if (m_content == nullptr) {
-        m_isBusy = false; // an answer that is still on its way is for another watch
-    }
+    m_content.reset(); // what waits for its key may not be kept any more
+    m_isBusy = false;  // an answer that is still on its way is for another watch
     m_problem.clear();
     emit changed();
 }

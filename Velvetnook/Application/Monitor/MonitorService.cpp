@@ -122,7 +122,9 @@ void MonitorService::sample(Base::Instant now)
 void MonitorService::take(MonitorReport report)
 {
     m_isAsked = false;
-    m_snapshot = std::move(report.snapshot);
+    if (pace()) { // else it comes after the rest has begun, and would be old by the next look
+        m_snapshot = std::move(report.snapshot);
+    }
     const QString problem = engineText(report.problem);
     if (std::exchange(m_recordingProblem, problem) != problem) {
         emit recordingChanged();

@@ -89,6 +89,7 @@ void ScreenTimeService::start(const KestCore::ScreenTimeSettings &settings)
     connect(m_activity.get(), &ScreenActivity::lockedChanged, this, [this] {
         m_tracker->setAway(Away::locked, m_activity->isLocked(), m_model.now());
         write();
+        m_model.clock().reschedule(); // nothing was waited for while it was locked
     });
     connect(m_activity.get(), &ScreenActivity::suspending, this, [this] {
         m_tracker->setAway(Away::suspended, true, m_model.now());

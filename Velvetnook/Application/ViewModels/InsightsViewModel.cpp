@@ -371,7 +371,7 @@ void InsightsViewModel::connectKey(const QString &key, const QString &website)
                         return {};
                     });
             }
-            finishKey(problem, true);
+            finishKey(provider, problem, true);
         });
 }
 
@@ -383,16 +383,24 @@ void InsightsViewModel::disconnectKey()
     m_isConnecting = true;
     m_refusal.clear();
     m_desk.keep(m_provider, std::nullopt,
-                [this](const std::string &problem) { finishKey(problem, false); });
+                [this, provider = m_provider](const std::string &problem) {
+                    finishKey(provider, problem, false);
+                });
     emit changed();
 }
 
-void InsightsViewModel::finishKey(const std::string &problem, bool isConnected)
+// The keyring may have asked its owner for long: another provider may be shown by now.
+void InsightsViewModel::finishKey(InsightProvider provider, const std::string &problem,
+                                  bool isConnected)
 {
     m_isConnecting = false;
-    m_refusal = problem.empty() ? QString{} : engineText(problem);
+    const bool isShown = provider == m_provider;
+    m_refusal = isShown && !problem.empty() ? engineText(problem) : QString{};
     if (problem.empty()) {
-        page() = Page{.question = page().question + 1};
+        Page &kept = m_pages[provider];
+        kept = Page{.question = kept.question + 1};
+    }
+    if (problem.empty() && isShown) {
         load(Keyring::Prompts::never, true);
         isConnected ? emit connected() : emit disconnected();
     }

@@ -118,7 +118,8 @@ private:
     void load(Keyring::Prompts prompts, bool isFresh);
     void take(KestCore::InsightProvider provider, InsightDesk::Answer answer);
     void keepWait(KestCore::InsightProvider provider, std::optional<Base::Instant> until);
-    void finishKey(const std::string &problem, bool isConnected);
+    void finishKey(KestCore::InsightProvider provider, const std::string &problem,
+                   bool isConnected);
 
     ApplicationModel &m_model;
     const Formatting &m_formatting;

@@ -114,6 +114,7 @@ void MusicViewModel::setShown(bool isShown)
     }
     m_shownAt = m_model.now();
     m_model.clock().reschedule();
+    tellPlaying();
     emit positionChanged();
     emit isShownChanged();
 }
@@ -174,6 +175,11 @@ void MusicViewModel::show(std::optional<BrowserPlayback> now)
     m_model.clock().reschedule();
     emit changed();
     emit positionChanged();
+    tellPlaying();
+}
+
+void MusicViewModel::tellPlaying()
+{
     auto told = nowPlaying();
     if (told != m_told) {
         m_told = std::move(told);
@@ -190,7 +196,9 @@ void MusicViewModel::setInStrip(bool isInStrip)
 
 std::optional<NowPlaying> MusicViewModel::nowPlaying() const
 {
-    if (!isPlaying() || !isInStrip()) {
+    // A tab is only read while the view is seen: later nobody knows whether it still plays.
+    const bool isKnown = !m_isTab || m_isShown;
+    if (!isPlaying() || !isInStrip() || !isKnown) {
         return std::nullopt;
     }
     return NowPlaying{.title = title(), .position = m_now->position, .at = m_readAt};

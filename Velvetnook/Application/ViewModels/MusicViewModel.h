@@ -111,6 +111,7 @@ private:
     void followPlayers();
     void chooseNow();
     void show(std::optional<KestCore::BrowserPlayback> now);
+    void tellPlaying(); // to the strip
     void perform(const Action &action);
     std::string lastActive() const;
 

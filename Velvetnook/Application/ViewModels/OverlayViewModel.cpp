@@ -49,6 +49,9 @@ void OverlayViewModel::follow()
         return;
     }
     if (!isWanted) {
+        if (m_sources->sound) {
+            m_sources->sound->disconnect(this); // it may be shared and stay
+        }
         m_sources.reset();
         m_volume.reset();
         return;

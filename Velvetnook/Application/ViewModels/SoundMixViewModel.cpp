@@ -338,8 +338,9 @@ void SoundMixViewModel::keep()
     const std::string volume = fmt::format("{:.2f}", m_volume);
     m_keep.stop();
     m_kept = mix;
-    if (m_model.setting(kMixKey) == mix &&
-        (m_model.setting(kVolumeKey) == volume || m_model.setting(kVolumeKey).empty())) {
+    const std::string_view stored = m_model.setting(kVolumeKey);
+    const bool isSameVolume = stored.empty() ? m_volume == kUsualVolume : stored == volume;
+    if (m_model.setting(kMixKey) == mix && isSameVolume) {
         return;
     }
     m_model.changeState([mix, volume](KestCore::NativeState &state) -> Result<void> {

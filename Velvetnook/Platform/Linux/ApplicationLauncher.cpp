@@ -60,17 +60,6 @@ std::string programAt(const std::string &word, const AppPlaces &places)
     return found == places.programs.end() ? std::string{} : (*found / word).string();
 }
 
-// What this program has set for itself is not for others.
-QProcessEnvironment environmentOfOthers()
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    if (environment.contains(QStringLiteral("VELVETNOOK_CHOSE_DISPLAY"))) {
-        environment.remove(QStringLiteral("VELVETNOOK_CHOSE_DISPLAY"));
-        environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
-    }
-    return environment;
-}
-
 Result<void> start(std::vector<std::string> words, const std::string &folder,
                    const AppPlaces &places, const char *ifMissing)
 {
@@ -86,7 +75,6 @@ Result<void> start(std::vector<std::string> words, const std::string &folder,
     QProcess process;
     process.setProgram(QString::fromStdString(program));
     process.setArguments(arguments);
-    process.setProcessEnvironment(environmentOfOthers());
     process.setStandardInputFile(QProcess::nullDevice());
     std::error_code error;
     if (!folder.empty() && fs::is_directory(folder, error)) {

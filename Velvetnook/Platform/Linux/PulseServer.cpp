@@ -58,12 +58,14 @@ QString PulseServer::problem() const
     if (!m_failure.isEmpty()) {
         return m_failure;
     }
-    return m_volume ? QString{} : tr("There is no sound server in this session.");
+    return m_volume || !m_isAnswered ? QString{}
+                                     : tr("There is no sound server in this session.");
 }
 
 void PulseServer::takeVolume(std::optional<SystemVolume> volume)
 {
-    const bool wasThere = m_volume.has_value();
+    const bool wasThere = m_volume.has_value() || !m_isAnswered;
+    m_isAnswered = true;
     if (std::exchange(m_volume, volume) != volume) {
         emit volumeChanged();
     }

@@ -35,6 +35,7 @@ private:
 
     QString m_failure; // of the module
     std::optional<SystemVolume> m_volume;
+    bool m_isAnswered = false; // before that nothing is known of the server
     std::vector<AudioStream> m_streams;
     std::unique_ptr<VolumeLink> m_link; // last: it goes first, and with it its thread
 };

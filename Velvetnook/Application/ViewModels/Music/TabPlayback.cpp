@@ -155,7 +155,7 @@ void TabPlayback::perform(const Action &action)
         });
 }
 
-// A reading that failed leaves the one before it, and the tab connected.
+// A reading that failed leaves the tab connected, but nothing is known of it any more.
 void TabPlayback::take(const KestCore::ConnectedTab &asked, const Action &action,
                        const Answer &answer)
 {
@@ -165,8 +165,11 @@ void TabPlayback::take(const KestCore::ConnectedTab &asked, const Action &action
     m_problem = answer ? QString{} : engineText(answer.error().message);
     if (answer) {
         m_playback = *answer;
-    } else if (action.kind != Action::Kind::read) {
-        emit failed(m_problem);
+    } else {
+        m_playback.reset();
+        if (action.kind != Action::Kind::read) {
+            emit failed(m_problem);
+        }
     }
     emit changed();
 }

@@ -95,12 +95,15 @@ std::optional<Base::Instant> UpdateSettings::dueAt(Base::Instant now) const
     if (!isPossible() || !isAllowed() || m_isBusy) {
         return std::nullopt;
     }
-    const Base::Instant first = m_begunAt + kAfterStart;
+    Base::Instant due = m_begunAt + kAfterStart;
     if (m_askedAt) {
-        return std::max(first, *m_askedAt + kDay);
+        due = std::max(due, *m_askedAt + kDay);
     }
-    const auto &checked = m_known.checkedAt;
-    return checked && *checked <= now ? std::max(first, *checked + kDay) : first;
+    // Also when another program has asked since.
+    if (const auto &checked = m_known.checkedAt; checked && *checked <= now) {
+        due = std::max(due, *checked + kDay);
+    }
+    return due;
 }
 
 bool UpdateSettings::canAsk() const
