@@ -3,10 +3,13 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QString>
 
 #include <algorithm>
 #include <iterator>
 #include <span>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace Velvetnook
@@ -62,9 +65,12 @@ public:
 
     void show(const std::vector<Row> &rows)
     {
+        std::unordered_set<decltype(Row::id)> staying;
+        for (const Row &row : rows) {
+            staying.insert(row.id);
+        }
         for (int at = rowCount() - 1; at >= 0; --at) {
-            const auto &id = m_rows.at(static_cast<std::size_t>(at)).id;
-            if (std::ranges::find(rows, id, &Row::id) == rows.end()) {
+            if (!staying.contains(m_rows.at(static_cast<std::size_t>(at)).id)) {
                 beginRemoveRows({}, at, at);
                 m_rows.erase(m_rows.begin() + at);
                 endRemoveRows();
@@ -74,6 +80,15 @@ public:
         for (const Row &row : rows) {
             bring(row, to++);
         }
+    }
+
+protected:
+    // Shows these in the place of all that were there.
+    void reset(std::vector<Row> rows)
+    {
+        beginResetModel();
+        m_rows = std::move(rows);
+        endResetModel();
     }
 
 private:

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QAbstractListModel>
+#include "Velvetnook/Application/RowList.h"
+
 #include <QImage>
 #include <QString>
 
@@ -28,12 +29,9 @@ struct ClipboardRow {
     bool operator==(const ClipboardRow &) const = default;
 };
 
-// The cards as they are shown. Told new ones, it says only what has changed, so that a card
-// that stays keeps its focus.
-class ClipboardList : public QAbstractListModel
+// The cards as they are shown.
+class ClipboardList : public RowList<ClipboardRow>
 {
-    Q_OBJECT
-
 public:
     enum Role : std::uint16_t {
         entryId = Qt::UserRole,
@@ -50,19 +48,10 @@ public:
         code
     };
 
-    using QAbstractListModel::QAbstractListModel;
+    ClipboardList();
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
-    const std::vector<ClipboardRow> &rows() const { return m_rows; }
+    // A history may be long: the first cards come, and the last go, all at once.
     void show(std::vector<ClipboardRow> rows);
-
-private:
-    void bring(const ClipboardRow &row, int to);
-
-    std::vector<ClipboardRow> m_rows;
 };
 
 } // namespace Velvetnook

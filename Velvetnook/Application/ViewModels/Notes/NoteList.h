@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QAbstractListModel>
-#include <QString>
+#include "Velvetnook/Application/RowList.h"
 
-#include <vector>
+#include <QString>
 
 namespace Velvetnook
 {
@@ -22,12 +21,9 @@ struct NoteRow {
     bool operator==(const NoteRow &) const = default;
 };
 
-// The lines as they are shown. Told new ones, it says only what has changed, so that a line
-// that stays keeps its focus.
-class NoteList : public QAbstractListModel
+// The lines as they are shown.
+class NoteList : public RowList<NoteRow>
 {
-    Q_OBJECT
-
 public:
     enum Role : std::uint16_t {
         noteId = Qt::UserRole,
@@ -38,19 +34,7 @@ public:
         scratchpad
     };
 
-    using QAbstractListModel::QAbstractListModel;
-
-    int rowCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
-    const std::vector<NoteRow> &rows() const { return m_rows; }
-    void show(std::vector<NoteRow> rows);
-
-private:
-    void bring(const NoteRow &row, int to);
-
-    std::vector<NoteRow> m_rows;
+    NoteList();
 };
 
 } // namespace Velvetnook
