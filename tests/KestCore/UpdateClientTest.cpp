@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Clients/UpdateClient.h"
 
-#include "Base/File.h"
 #include "HttpTransport/HttpTransport.h"
+#include "tests/FeedScript.h"
 #include "tests/WebServer.h"
 
 #include <fmt/format.h>
 #include <gmock/gmock.h>
 
-#include <cstdlib>
 #include <fstream>
 
 using namespace KestCore;
@@ -26,32 +25,16 @@ class Updates : public testing::Test
 protected:
     Updates()
     {
-        std::ofstream{m_folder.path() / "package"} << "0123456789";
-        std::ofstream{m_folder.path() / "notes"} << "New \"beads\"\nfor your counter";
-        m_build.publicKey = keys("key.pem");
+        m_build.publicKey = m_script.keys("key.pem");
         m_build.address = m_server.url("/updates");
     }
 
-    std::string run(const std::string &words) const
-    {
-        const std::string out = m_folder.path() / "out";
-        const std::string command = fmt::format(
-            "cd '{}' && '{}' {} > '{}'", m_folder.path().string(), KEST_MAKE_FEED, words, out);
-        EXPECT_EQ(std::system(command.c_str()), 0) << command; // NOLINT(*-command-processor)
-        return Base::readFile(out).value();
-    }
-    std::string keys(const std::string &file) const
-    {
-        std::string key = run("keys " + file);
-        key.pop_back();
-        return key;
-    }
     std::string feed(const std::string &version, const std::string &published,
                      const std::string &key = "key.pem", const char *channel = "stable",
                      const char *address = "https://example.org/velvetnook.deb") const
     {
-        return run(fmt::format("feed {} {} {} {} package notes {}", key, version, channel,
-                               address, published));
+        return m_script.run(fmt::format("feed {} {} {} {} package notes {}", key, version,
+                                        channel, address, published));
     }
     // The message of the failure; empty when it was taken.
     std::string check(const std::string &body, Base::Instant now = kNow)
@@ -66,6 +49,7 @@ protected:
         return known.offer ? known.offer->version : "";
     }
 
+    FeedScript m_script{"New \"beads\"\nfor your counter"};
     TemporaryFolder m_folder;
     WebServer m_server;
     std::unique_ptr<Base::HttpTransport> m_transport = Web::openTransport().value();
@@ -108,7 +92,7 @@ TEST_F(Updates, OfferOnlyWhatIsNewer)
 TEST_F(Updates, RefuseWhatIsNotGenuineAndKeepWhatWasKnown)
 {
     ASSERT_EQ(check(feed("1.3.0", "2026-11-20T00:00:00Z")), "");
-    keys("other.pem");
+    m_script.keys("other.pem");
     const std::string good = feed("1.4.0", "2026-11-20T01:00:00Z");
     std::string changed = good;
     changed.replace(changed.find("1.4.0"), 5, "1.5.0");

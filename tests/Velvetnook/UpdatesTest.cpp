@@ -1,16 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
-#include "Base/File.h"
 #include "HttpTransport/HttpTransport.h"
 #include "Velvetnook/Application/ViewModels/Settings/UpdateSettings.h"
+#include "tests/FeedScript.h"
 #include "tests/Velvetnook/RunningModel.h"
 #include "tests/WebServer.h"
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <fstream>
 
 using namespace Velvetnook;
 
@@ -26,32 +23,17 @@ class UpdatesTest : public testing::Test
 protected:
     UpdatesTest()
     {
-        std::ofstream{m_folder.path() / "package"} << "0123456789";
-        std::ofstream{m_folder.path() / "notes"} << "New beads";
-        m_source.build.publicKey = keys("key.pem");
+        m_source.build.publicKey = m_script.keys("key.pem");
         m_source.build.address = m_server.url("/updates");
     }
 
-    std::string run(const std::string &words) const
-    {
-        const std::string out = m_folder.path() / "out";
-        const std::string command = fmt::format(
-            "cd '{}' && '{}' {} > '{}'", m_folder.path().string(), KEST_MAKE_FEED, words, out);
-        EXPECT_EQ(std::system(command.c_str()), 0) << command; // NOLINT(*-command-processor)
-        return Base::readFile(out).value();
-    }
-    std::string keys(const std::string &file) const
-    {
-        std::string key = run("keys " + file);
-        key.pop_back();
-        return key;
-    }
     void offer(const std::string &version, const std::string &key = "key.pem")
     {
-        m_server.on("/updates/stable.feed",
-                    {.body = run(fmt::format("feed {} {} stable https://example.org/v.deb "
-                                             "package notes 2025-11-14T00:00:00Z",
-                                             key, version))});
+        m_server.on(
+            "/updates/stable.feed",
+            {.body = m_script.run(fmt::format("feed {} {} stable https://example.org/v.deb "
+                                              "package notes 2025-11-14T00:00:00Z",
+                                              key, version))});
     }
     void open(bool isPackaged = false)
     {
@@ -74,7 +56,7 @@ protected:
     }
     std::size_t requests() const { return m_server.requests().size(); }
 
-    TemporaryFolder m_folder;
+    FeedScript m_script{"New beads"};
     WebServer m_server;
     UpdateSource m_source{
         .build = {.version = "1.2.0", .channel = KestCore::UpdateChannel::stable},
@@ -116,7 +98,7 @@ TEST_F(UpdatesTest, KeepsWhatIsKnownWhenAnAnswerIsNotGenuineOrDoesNotCome)
     allow();
     m_updates->ask();
     ASSERT_TRUE(isAnswered(1));
-    keys("other.pem");
+    m_script.keys("other.pem");
     offer("6.6.6", "other.pem");
     for (const std::size_t count : {2U, 3U}) {
         m_running.pass(kDay);
