@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Velvetnook/Platform/PulseLock.h"
 #include "Velvetnook/Platform/Sound/LoopOutput.h"
 
 #include <pulse/pulseaudio.h>
@@ -27,22 +28,6 @@ struct Voice {
     float gain{};
     float wanted{};
     float step{}; // of the gain, for each sample
-};
-
-// The library's lock, which its callbacks hold too.
-class Lock
-{
-public:
-    explicit Lock(pa_threaded_mainloop *loop) : m_loop{loop}
-    {
-        pa_threaded_mainloop_lock(loop);
-    }
-    ~Lock() { pa_threaded_mainloop_unlock(m_loop); }
-    Lock(const Lock &) = delete;
-    Lock &operator=(const Lock &) = delete;
-
-private:
-    pa_threaded_mainloop *m_loop;
 };
 
 class PulseLoops : public LoopOutput
@@ -125,7 +110,7 @@ std::string PulseLoops::open()
     if (m_rate == 0 || pa_threaded_mainloop_start(m_loop) < 0) {
         return "There is no sound to play";
     }
-    const Lock lock{m_loop};
+    const PulseLock lock{m_loop};
     std::string problem = connect();
     m_isOpen = problem.empty();
     return problem;
@@ -178,7 +163,7 @@ void PulseLoops::follow()
 
 void PulseLoops::fadeTo(std::span<const float> gains, milliseconds time)
 {
-    const Lock lock{m_loop};
+    const PulseLock lock{m_loop};
     const float samples =
         std::max(static_cast<float>(time.count()) * static_cast<float>(m_rate) / 1000, 1.0F);
     for (std::size_t at = 0; at < std::min(gains.size(), m_voices.size()); ++at) {

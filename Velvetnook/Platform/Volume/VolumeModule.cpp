@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Velvetnook/Platform/PulseLock.h"
 #include "Velvetnook/Platform/Volume/VolumeLink.h"
 
 #include <pulse/pulseaudio.h>
@@ -62,7 +63,7 @@ public:
 
     void setLevel(std::uint32_t stream, double level) override
     {
-        const Lock lock{m_loop};
+        const PulseLock lock{m_loop};
         const auto known = m_streams.find(stream);
         if (known == m_streams.end() || !isReady()) {
             return;
@@ -75,7 +76,7 @@ public:
     }
     void setMuted(std::uint32_t stream, bool isMuted) override
     {
-        const Lock lock{m_loop};
+        const PulseLock lock{m_loop};
         if (isReady()) {
             drop(pa_context_set_sink_input_mute(m_context, stream, isMuted ? 1 : 0, nullptr,
                                                 nullptr));
@@ -86,20 +87,6 @@ private:
     struct Known {
         AudioStream told{};
         pa_cvolume volume{};
-    };
-    class Lock
-    {
-    public:
-        explicit Lock(pa_threaded_mainloop *loop) : m_loop{loop}
-        {
-            pa_threaded_mainloop_lock(loop);
-        }
-        ~Lock() { pa_threaded_mainloop_unlock(m_loop); }
-        Lock(const Lock &) = delete;
-        Lock &operator=(const Lock &) = delete;
-
-    private:
-        pa_threaded_mainloop *m_loop;
     };
 
     static PulseLink &self(void *data) { return *static_cast<PulseLink *>(data); }
