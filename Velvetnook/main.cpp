@@ -8,6 +8,7 @@
 #include "Velvetnook/Application/CommandServer.h"
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Languages.h"
+#include "Velvetnook/Application/Summons.h"
 #include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
 #include "Velvetnook/Application/ViewModels/MonitorViewModel.h"
 #include "Velvetnook/Application/ViewModels/OverlayViewModel.h"
@@ -329,34 +330,12 @@ void Running::listen()
     QObject::connect(
         &m_commands, &CommandServer::assistantTold, qGuiApp,
         [this](const KestCore::AssistantEvent &event) { m_app.assistants()->take(event); });
-    QObject::connect(&m_commands, &CommandServer::notchWanted, qGuiApp,
-                     [this](const QString &how, const QString &tool) {
-                         needTheRest();
-                         PanelViewModel *panel = m_app.panel();
-                         panel->openTool(tool);
-                         if (tool == QLatin1String{"settings"}) {
-                             return; // they have a window of their own
-                         }
-                         if (how == QLatin1String{"open"}) {
-                             emit panel->openWanted(true);
-                         } else if (how == QLatin1String{"close"}) {
-                             emit panel->closeWanted();
-                         } else {
-                             emit panel->toggleWanted();
-                         }
-                     });
-    QObject::connect(&m_commands, &CommandServer::paletteWanted, qGuiApp,
-                     [this](const QString &how) {
-                         needTheRest();
-                         PaletteViewModel *palette = m_app.palette();
-                         if (how == QLatin1String{"open"}) {
-                             emit palette->openWanted();
-                         } else if (how == QLatin1String{"close"}) {
-                             emit palette->closeWanted();
-                         } else {
-                             emit palette->toggleWanted();
-                         }
-                     });
+    QObject::connect(
+        &m_commands, &CommandServer::surfaceWanted, qGuiApp,
+        [this](KestCore::QuickSurface surface, KestCore::SurfaceStep how, const QString &tool) {
+            needTheRest();
+            summon(m_app, surface, how, tool);
+        });
     if (const auto listening = m_commands.listen(); !listening) {
         m_model.say(engineText(listening.error().message));
     }

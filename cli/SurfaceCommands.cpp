@@ -10,7 +10,7 @@
 
 #include <memory>
 
-// palette and notch: what the running application shows.
+// palette, notch and dock: what the running application shows.
 namespace Cli
 {
 
@@ -78,6 +78,12 @@ void addSurfaceCommands(CLI::App &program, Session &session)
               {SurfaceStep::close, "Closes it"},
               {SurfaceStep::toggle, "Opens it, or closes it when it is open"}},
              std::make_shared<std::string>());
+    CLI::App *dock = program.add_subcommand("dock", "Opens or closes the dock");
+    addSteps(dock, session, ApplicationRequest::dock,
+             {{SurfaceStep::open, "Opens it"},
+              {SurfaceStep::close, "Closes it"},
+              {SurfaceStep::toggle, "Opens it, or closes it when it is open"}},
+             nullptr);
 }
 
 } // namespace Cli

@@ -8116,6 +8116,10 @@
         <comment>Ctrl+K, Notes</comment>
         <translation>الاختصار %1 يفتح %2.</translation>
     </message>
+    <message>
+        <source>Dock</source>
+        <translation>الرصيف</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::SoundMixViewModel</name>

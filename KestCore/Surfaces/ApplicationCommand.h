@@ -24,14 +24,18 @@ std::filesystem::path applicationSocket(const std::filesystem::path &databaseFil
 enum class ApplicationRequest : std::uint8_t {
     palette,
     notch,
+    dock,
     borrow, // the store, until the connection ends
     hook,   // what a coding assistant does
 };
 constexpr auto enumTexts(Of<ApplicationRequest>)
 {
     using enum ApplicationRequest;
-    return Base::EnumTexts<ApplicationRequest, 4>{
-        {{palette, "palette"}, {notch, "notch"}, {borrow, "borrow"}, {hook, "hook"}}};
+    return Base::EnumTexts<ApplicationRequest, 5>{{{palette, "palette"},
+                                                   {notch, "notch"},
+                                                   {dock, "dock"},
+                                                   {borrow, "borrow"},
+                                                   {hook, "hook"}}};
 }
 
 enum class SurfaceStep : std::uint8_t { open, close, toggle };

@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Summons.h"
 #include "Velvetnook/Application/ToolServices.h"
 #include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
 #include "Velvetnook/Application/ViewModels/CalendarPageViewModel.h"
@@ -301,10 +302,7 @@ DockViewModel *App::dock()
 {
     if (m_dock == nullptr) {
         connect(made(m_dock), &DockViewModel::toolWanted, this, [this](const QString &tool) {
-            panel()->openTool(tool);
-            if (tool != QLatin1String{"settings"}) { // they have a window of their own
-                emit panel() -> openWanted(true);
-            }
+            summon(*this, KestCore::QuickSurface::notch, KestCore::SurfaceStep::open, tool);
         });
         connect(m_dock, &DockViewModel::settingsWanted, this,
                 [this] { settings()->open(QStringLiteral("dock")); });

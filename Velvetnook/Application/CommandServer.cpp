@@ -25,6 +25,8 @@ namespace Velvetnook
 using KestCore::ApplicationAnswer;
 using KestCore::ApplicationCommand;
 using KestCore::ApplicationRequest;
+using KestCore::QuickSurface;
+using KestCore::SurfaceStep;
 
 namespace
 {
@@ -48,6 +50,14 @@ Result<sockaddr_un> addressOf(const std::filesystem::path &file)
     address.sun_family = AF_UNIX;
     std::memcpy(address.sun_path, file.c_str(), file.native().size() + 1);
     return address;
+}
+
+QuickSurface surfaceOf(ApplicationRequest request)
+{
+    if (request == ApplicationRequest::palette) {
+        return QuickSurface::command;
+    }
+    return request == ApplicationRequest::dock ? QuickSurface::dock : QuickSurface::notch;
 }
 
 // A socket that a killed application has left behind is in nobody's way.
@@ -80,7 +90,8 @@ struct CommandServer::Client {
 
 CommandServer::CommandServer(ApplicationModel &model, const std::filesystem::path &databaseFile,
                              QObject *parent)
-    : QObject{parent}, m_lender{model}, m_file{KestCore::applicationSocket(databaseFile)}
+    : QObject{parent}, m_model{model}, m_lender{model},
+      m_file{KestCore::applicationSocket(databaseFile)}
 {
 }
 
@@ -208,13 +219,14 @@ void CommandServer::obey(Client &client, const ApplicationCommand &command)
         answer(client.id, {.done = true});
         return;
     }
-    const QString step =
-        fromView(Base::textOf(command.how.value_or(KestCore::SurfaceStep::toggle)));
-    if (command.request == ApplicationRequest::palette) {
-        emit paletteWanted(step);
-    } else {
-        emit notchWanted(step, QString::fromStdString(command.tool.value_or("")));
+    const auto how = command.how.value_or(SurfaceStep::toggle);
+    const QuickSurface surface = surfaceOf(command.request);
+    if (surface == QuickSurface::dock && how != SurfaceStep::close &&
+        !m_model.companion().dock.enabled) {
+        answer(client.id, {.error = "The dock is turned off; the settings turn it on"});
+        return;
     }
+    emit surfaceWanted(surface, how, QString::fromStdString(command.tool.value_or("")));
     answer(client.id, {.done = true});
 }
 

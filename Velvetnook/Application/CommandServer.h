@@ -4,6 +4,7 @@
 
 #include "Base/File.h"
 #include "KestCore/Surfaces/ApplicationCommand.h"
+#include "KestCore/Surfaces/NotchInteraction.h"
 #include "Velvetnook/Application/StoreLender.h"
 
 #include <QObject>
@@ -36,9 +37,9 @@ public:
     [[nodiscard]] Result<void> listen();
 
 signals:
-    // "open", "close" or "toggle"; `tool` may be empty.
-    void paletteWanted(const QString &how);
-    void notchWanted(const QString &how, const QString &tool);
+    // `tool` may be empty.
+    void surfaceWanted(KestCore::QuickSurface surface, KestCore::SurfaceStep how,
+                       const QString &tool);
     void assistantTold(const KestCore::AssistantEvent &event);
 
 private:
@@ -53,6 +54,7 @@ private:
     void answer(int id, const KestCore::ApplicationAnswer &answer);
     void drop(int id);
 
+    ApplicationModel &m_model;
     StoreLender m_lender;
     std::filesystem::path m_file; // of the socket
     Base::FileDescriptor m_socket;

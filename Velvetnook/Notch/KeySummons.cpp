@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/Summons.h"
 #include "Velvetnook/Platform/GlobalKeys.h"
 
 namespace Velvetnook
@@ -12,15 +13,14 @@ namespace Velvetnook
 namespace
 {
 
-void summon(PanelViewModel &panel, const QString &target)
+void obey(App &app, const QString &target)
 {
-    if (target == QLatin1String{"notch"}) {
-        emit panel.toggleWanted();
-        return;
-    }
-    panel.openTool(target);
-    if (target != QLatin1String{"settings"}) { // they have a window of their own
-        emit panel.openWanted(true);
+    using KestCore::QuickSurface;
+    using KestCore::SurfaceStep;
+    if (const auto surface = Base::fromText<QuickSurface>(target.toStdString())) {
+        summon(app, *surface, SurfaceStep::toggle);
+    } else {
+        summon(app, QuickSurface::notch, SurfaceStep::open, target);
     }
 }
 
@@ -38,7 +38,7 @@ void followKeys(GlobalKeys &keys, ApplicationModel &model, App &app)
     QObject::connect(page, &ShortcutSettings::recordingChanged, &keys,
                      [&keys, page] { keys.setPaused(!page->recording().isEmpty()); });
     QObject::connect(&keys, &GlobalKeys::summoned, app.panel(),
-                     [&app](const QString &target) { summon(*app.panel(), target); });
+                     [&app](const QString &target) { obey(app, target); });
     tell();
 }
 

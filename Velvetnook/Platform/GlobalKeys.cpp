@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Platform/GlobalKeys.h"
 
+#include "KestCore/Surfaces/NotchInteraction.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/ShortcutKeys.h"
 #include "Velvetnook/Application/ViewModels/PaletteViewModel.h"
@@ -95,8 +96,8 @@ QString commandOf(const std::string &target)
     if (target == "command") {
         return QStringLiteral("kest palette toggle");
     }
-    return target == "notch"
-               ? QStringLiteral("kest notch toggle")
+    return Base::fromText<KestCore::QuickSurface>(target)
+               ? QStringLiteral("kest %1 toggle").arg(QString::fromStdString(target))
                : QStringLiteral("kest notch open %1").arg(QString::fromStdString(target));
 }
 

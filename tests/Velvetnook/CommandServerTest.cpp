@@ -6,6 +6,7 @@
 #include "KestCore/Surfaces/ApplicationCommand.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/AssistantActivity.h"
+#include "Velvetnook/Application/QtText.h"
 #include "tests/EndToEnd/Program.h"
 #include "tests/TemporaryFolder.h"
 
@@ -248,7 +249,7 @@ TEST_F(CommandServerTest, RefusesWhatIsNoCommandAndGoesOn)
         {"two documents", R"({"do":"borrow"}{"do":"borrow"})", "error"},
         {"a whole one", R"({"do":"palette","how":"toggle"})", "done"},
     };
-    QSignalSpy wanted{m_server.get(), &CommandServer::paletteWanted};
+    QSignalSpy wanted{m_server.get(), &CommandServer::surfaceWanted};
     for (const auto &[name, said, answer] : cases) {
         SCOPED_TRACE(name);
         Caller caller{database()};
@@ -290,17 +291,26 @@ TEST_F(CommandServerTest, ClosesOnCallersThatOnlyMakeNoise)
 
 TEST_F(CommandServerTest, OpensSurfacesForKest)
 {
-    QSignalSpy palette{m_server.get(), &CommandServer::paletteWanted};
-    QSignalSpy notch{m_server.get(), &CommandServer::notchWanted};
+    QStringList asked;
+    QObject::connect(m_server.get(), &CommandServer::surfaceWanted, m_model.get(),
+                     [&asked](KestCore::QuickSurface surface, KestCore::SurfaceStep how,
+                              const QString &tool) {
+                         asked += fromView(Base::textOf(surface)) + QLatin1Char{' '} +
+                                  fromView(Base::textOf(how)) + QLatin1Char{' '} + tool;
+                     });
     EXPECT_EQ(run({"palette", "toggle"}).status, 0);
     EXPECT_EQ(run({"--json", "palette", "close"}).out, "{\"done\":true}\n");
     EXPECT_EQ(run({"notch", "open", "prayer"}).status, 0);
     EXPECT_EQ(run({"notch", "open", "nothing"}).status, 1);
-    ASSERT_EQ(palette.count(), 2);
-    EXPECT_EQ(palette.at(0).at(0), "toggle");
-    ASSERT_EQ(notch.count(), 1);
-    EXPECT_EQ(notch.at(0).at(0), "open");
-    EXPECT_EQ(notch.at(0).at(1), "prayer");
+    const Outcome off = run({"dock", "open"});
+    EXPECT_EQ(off.status, 1);
+    EXPECT_TRUE(off.err.contains("The dock is turned off")) << off.err;
+    m_model->changeCompanion(
+        [](KestCore::CompanionState &companion) { companion.dock.enabled = true; });
+    EXPECT_TRUE(waitUntil([&] { return m_model->companion().dock.enabled; }));
+    EXPECT_EQ(run({"dock", "open"}).status, 0);
+    EXPECT_EQ(asked, (QStringList{"command toggle ", "command close ", "notch open prayer",
+                                  "dock open "}));
 
     m_server.reset();
     const Outcome alone = run({"palette", "toggle"});

@@ -64,6 +64,8 @@ public:
     DockViewModel(ApplicationModel &model, const Formatting &formatting,
                   QObject *parent = nullptr);
     void setDesktop(DockDesktop desktop) { m_desktop = std::move(desktop); }
+    // Whether it is on, and could be made.
+    bool isThere() const { return m_desktop.open != nullptr; }
 
     // The screen, and the room on it that no bar of the desktop takes.
     void setScreen(const QSizeF &screen, const QRectF &room);

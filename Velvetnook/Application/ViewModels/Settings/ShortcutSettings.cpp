@@ -25,7 +25,7 @@ namespace
 {
 
 // The surfaces have their row whether they have a key or not.
-constexpr std::array kSurfaces{"command", "notch"};
+constexpr std::array kSurfaces{"command", "notch", "dock"};
 
 bool isSurface(const std::string &target)
 {
@@ -86,6 +86,9 @@ QString ShortcutSettings::titleOf(const std::string &target) const
     if (target == "command") {
         return tr("Palette");
     }
+    if (target == "dock") {
+        return tr("Dock");
+    }
     return target == "notch" ? tr("Panel") : toolTitle(QString::fromStdString(target));
 }
 
@@ -96,7 +99,8 @@ QString ShortcutSettings::iconOf(const std::string &target) const
     }
     const auto &tools = KestCore::ToolRegistry::tools();
     const auto found = std::ranges::find(tools, target, &KestCore::ToolDescriptor::id);
-    return found == tools.end() ? QStringLiteral("notch") : QString::fromStdString(found->icon);
+    return found == tools.end() ? QString::fromStdString(isSurface(target) ? target : "notch")
+                                : QString::fromStdString(found->icon);
 }
 
 QVariantMap ShortcutSettings::rowOf(const std::string &target) const
