@@ -34,6 +34,7 @@
 #include "Velvetnook/Shell/Engine.h"
 #include "Velvetnook/Shell/Theme.h"
 
+#include <QDBusConnection>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -278,6 +279,7 @@ void Running::needTheRest()
     m_app.screenTime()->service().begin(
         [this] { return std::make_unique<DesktopActivity>(m_desktop.power()); });
     followLevels();
+    m_app.followEvents();
     m_desktop.follow(*m_activation);
     m_activation->begin();
     if (!m_isQuiet) {
@@ -293,7 +295,8 @@ void Running::needTheRest()
     // Made before they are wanted, while nothing else is to be done.
     QTimer::singleShot(1000, qGuiApp, [this] { m_driver.prepare(); });
     m_palette = std::make_unique<PaletteWindow>(m_engine, m_app);
-    m_keys = std::make_unique<GlobalKeys>(m_model, *m_app.palette());
+    m_keys =
+        std::make_unique<GlobalKeys>(m_model, *m_app.palette(), QDBusConnection::sessionBus());
     followKeys(*m_keys, m_model, m_app);
     QTimer::singleShot(1500, qGuiApp, [this] { m_palette->prepare(); });
     m_dock = std::make_unique<DockKeeper>(m_engine, m_model, m_app, steadySeconds);

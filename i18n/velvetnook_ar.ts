@@ -490,6 +490,10 @@
         <source>Add a folder of calendars</source>
         <translation>إضافة مجلد تقاويم</translation>
     </message>
+    <message>
+        <source>Show the next event in the strip</source>
+        <translation>عرض الموعد التالي في الشريط</translation>
+    </message>
 </context>
 <context>
     <name>CalendarView</name>
@@ -5184,6 +5188,15 @@
         <comment>Claude Code</comment>
         <translation>ينتظرك %1</translation>
     </message>
+    <message>
+        <source>(no title)</source>
+        <translation>(بلا عنوان)</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <comment>an event begins</comment>
+        <translation>الآن</translation>
+    </message>
 </context>
 <context>
     <name>StripSurface</name>
@@ -6834,6 +6847,19 @@
     <message>
         <source>No key is set.</source>
         <translation>لا مفتاح معيّن.</translation>
+    </message>
+    <message>
+        <source>The desktop is asked for %1.</source>
+        <translation>يُطلَب %1 من سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>The desktop has it under: %1</source>
+        <comment>a key</comment>
+        <translation>خصّص له سطح المكتب: %1</translation>
+    </message>
+    <message>
+        <source>The desktop did not give %1. Its keyboard settings can bind a key to “%2”.</source>
+        <translation>لم يمنح سطح المكتب %1. يمكن ربط مفتاح بالأمر «%2» من إعدادات لوحة المفاتيح.</translation>
     </message>
 </context>
 <context>

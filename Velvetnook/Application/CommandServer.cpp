@@ -3,6 +3,7 @@
 #include "Velvetnook/Application/CommandServer.h"
 
 #include "Base/JsonWriter.h"
+#include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/QtText.h"
 
 #include <QSocketNotifier>

@@ -4,6 +4,7 @@
 
 #include "KestCore/Surfaces/CompanionState.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -106,6 +107,23 @@ QString shortcutText(const KestCore::ShortcutBinding &binding)
     }
     const auto key = shortcutKey(binding.keyCode);
     parts.append(key ? QString::fromLatin1(key->name) : QString::number(binding.keyCode));
+    return parts.join(u'+');
+}
+
+QString shortcutTrigger(const KestCore::ShortcutBinding &binding)
+{
+    static const QHash<QString, QString> kNotation{
+        {QStringLiteral("Ctrl"), QStringLiteral("CTRL")},
+        {QStringLiteral("Alt"), QStringLiteral("ALT")},
+        {QStringLiteral("Shift"), QStringLiteral("SHIFT")},
+        {QStringLiteral("Super"), QStringLiteral("LOGO")},
+        {QStringLiteral("Space"), QStringLiteral("space")},
+        {QStringLiteral("Enter"), QStringLiteral("Return")},
+        {QStringLiteral("Esc"), QStringLiteral("Escape")}};
+    QStringList parts = shortcutText(binding).split(u'+');
+    for (QString &part : parts) {
+        part = kNotation.value(part, part.size() == 1 ? part.toLower() : part);
+    }
     return parts.join(u'+');
 }
 

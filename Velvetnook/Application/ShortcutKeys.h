@@ -31,4 +31,7 @@ std::optional<ShortcutKey> pressedKey(int key, quint32 scanCode);
 // "Ctrl+Shift+Space".
 QString shortcutText(const KestCore::ShortcutBinding &binding);
 
+// "CTRL+SHIFT+space", as the desktops' shared notation of shortcuts has it.
+QString shortcutTrigger(const KestCore::ShortcutBinding &binding);
+
 } // namespace Velvetnook

@@ -6,9 +6,13 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/ShortcutKeys.h"
 #include "Velvetnook/Application/ViewModels/PaletteViewModel.h"
+#include "Velvetnook/Application/ViewModels/Settings/ShortcutSettings.h"
+#include "Velvetnook/Platform/Linux/PortalKeys.h"
+#include "Velvetnook/Platform/XKeyboard.h"
 #include "Velvetnook/Platform/Xcb.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
 
 #include <algorithm>
 #include <array>
@@ -24,58 +28,9 @@ using KestCore::ShortcutBinding;
 using KestCore::ShortcutModifier;
 using Level = HotkeyState::Level;
 
-constexpr std::uint32_t kNumLock = 0xFF7F; // its keysym
 constexpr std::uint16_t kLocks = XCB_MOD_MASK_LOCK;
 constexpr std::uint16_t kSeen =
     XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
-
-struct Keyboard {
-    std::uint8_t first{};
-    std::uint8_t width{};
-    std::vector<xcb_keysym_t> keysyms{};
-
-    std::uint8_t keycodeOf(std::uint32_t keysym) const
-    {
-        const auto found = std::ranges::find(keysyms, keysym);
-        return found == keysyms.end() || width == 0
-                   ? std::uint8_t{0}
-                   : static_cast<std::uint8_t>(first + (found - keysyms.begin()) / width);
-    }
-};
-
-Keyboard readKeyboard(xcb_connection_t *server)
-{
-    const xcb_setup_t *setup = xcb_get_setup(server);
-    const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
-    const auto reply = Xcb::reply(xcb_get_keyboard_mapping_reply, server,
-                                  xcb_get_keyboard_mapping(server, setup->min_keycode, count));
-    if (!reply) {
-        return {};
-    }
-    const xcb_keysym_t *begin = xcb_get_keyboard_mapping_keysyms(reply.get());
-    return {.first = setup->min_keycode,
-            .width = reply->keysyms_per_keycode,
-            .keysyms = {begin, begin + xcb_get_keyboard_mapping_keysyms_length(reply.get())}};
-}
-
-// The modifier that Num Lock sets, on most keyboards the second.
-std::uint16_t numLockMask(xcb_connection_t *server, const Keyboard &keyboard)
-{
-    const std::uint8_t key = keyboard.keycodeOf(kNumLock);
-    const auto reply =
-        Xcb::reply(xcb_get_modifier_mapping_reply, server, xcb_get_modifier_mapping(server));
-    if (!reply || key == 0) {
-        return XCB_MOD_MASK_2;
-    }
-    const xcb_keycode_t *codes = xcb_get_modifier_mapping_keycodes(reply.get());
-    const int width = reply->keycodes_per_modifier;
-    for (int index = 0; index < 8 * width; ++index) {
-        if (codes[index] == key) {
-            return static_cast<std::uint16_t>(1U << static_cast<unsigned>(index / width));
-        }
-    }
-    return XCB_MOD_MASK_2;
-}
 
 std::uint16_t masksOf(const ShortcutBinding &binding)
 {
@@ -103,7 +58,8 @@ QString commandOf(const std::string &target)
 
 } // namespace
 
-GlobalKeys::GlobalKeys(ApplicationModel &model, PaletteViewModel &palette, QObject *parent)
+GlobalKeys::GlobalKeys(ApplicationModel &model, PaletteViewModel &palette,
+                       const QDBusConnection &session, QObject *parent)
     : QObject{parent}, m_model{model}, m_palette{palette}, m_server{Xcb::connection()}
 {
     if (m_server != nullptr) {
@@ -116,6 +72,16 @@ GlobalKeys::GlobalKeys(ApplicationModel &model, PaletteViewModel &palette, QObje
         m_keyboardEvents =
             extension && extension->present != 0 ? extension->first_event : std::uint8_t{0};
         QCoreApplication::instance()->installNativeEventFilter(this);
+    }
+    const bool isWayland = qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String{"wayland"};
+    if (m_server == nullptr || isWayland) {
+        m_portal = new PortalKeys{session, this};
+        connect(m_portal, &PortalKeys::stateChanged, this, &GlobalKeys::followSoon);
+        connect(m_portal, &PortalKeys::activated, this, [this](const QString &target) {
+            if (!m_isPaused) {
+                summon(target.toStdString());
+            }
+        });
     }
     connect(&model, &ApplicationModel::companionChanged, this, [this] {
         if (m_model.companion().shortcuts != m_bindings) {
@@ -158,8 +124,11 @@ void GlobalKeys::follow()
         return;
     }
     if (m_server != nullptr) {
-        const std::uint16_t numLock = numLockMask(m_server, readKeyboard(m_server));
+        const std::uint16_t numLock = XKeyboard::read(m_server).numLockMask(m_server);
         m_locks = {0, kLocks, numLock, static_cast<std::uint16_t>(kLocks | numLock)};
+    }
+    if (m_portal != nullptr) {
+        askDesktop();
     }
     for (const ShortcutBinding &binding : m_bindings) {
         Held held{.binding = binding};
@@ -172,15 +141,11 @@ void GlobalKeys::follow()
 
 HotkeyState GlobalKeys::ask(Held &held) const
 {
-    const QString text = shortcutText(held.binding);
-    const bool isWayland = qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String{"wayland"};
-    if (m_server == nullptr || isWayland) {
-        return {.level = Level::degraded,
-                .reason = tr("This kind of session gives no program a key of its own. Bind %1 "
-                             "to “%2” in the desktop's keyboard settings.")
-                              .arg(text, commandOf(held.binding.target))};
+    if (m_portal != nullptr) {
+        return toldByDesktop(held.binding);
     }
-    const Keyboard keyboard = readKeyboard(m_server);
+    const QString text = shortcutText(held.binding);
+    const XKeyboard keyboard = XKeyboard::read(m_server);
     const auto key = shortcutKey(held.binding.keyCode);
     const std::uint8_t keycode = key ? keyboard.keycodeOf(key->keysym) : std::uint8_t{0};
     if (keycode == 0) {
@@ -201,6 +166,48 @@ HotkeyState GlobalKeys::ask(Held &held) const
     }
     held.grab = grab;
     return {.level = Level::full, .reason = {}};
+}
+
+void GlobalKeys::askDesktop()
+{
+    std::vector<PortalKey> wished;
+    for (const ShortcutBinding &binding : m_bindings) {
+        wished.push_back({.target = QString::fromStdString(binding.target),
+                          .title = ShortcutSettings::titleOf(binding.target),
+                          .trigger = shortcutTrigger(binding)});
+    }
+    m_portal->ask(wished);
+}
+
+HotkeyState GlobalKeys::toldByDesktop(const ShortcutBinding &binding) const
+{
+    const QString text = shortcutText(binding);
+    const QString command = commandOf(binding.target);
+    const auto given = m_portal->givenTo(QString::fromStdString(binding.target));
+    switch (m_portal->state()) {
+    case PortalKeys::State::asking:
+        return {.level = Level::untried,
+                .reason = tr("The desktop is asked for %1.").arg(text)};
+    case PortalKeys::State::absent:
+        return {.level = Level::degraded,
+                .reason = tr("This kind of session gives no program a key of its own. Bind %1 "
+                             "to “%2” in the desktop's keyboard settings.")
+                              .arg(text, command)};
+    case PortalKeys::State::given:
+        if (given) {
+            return {.level = Level::full,
+                    .reason = given->isEmpty()
+                                  ? QString{}
+                                  : tr("The desktop has it under: %1", "a key").arg(*given)};
+        }
+        break;
+    case PortalKeys::State::refused:
+        break;
+    }
+    return {.level = Level::degraded,
+            .reason = tr("The desktop did not give %1. Its keyboard settings can bind a key to "
+                         "“%2”.")
+                          .arg(text, command)};
 }
 
 // A change of the layout comes as many events.

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+class QDBusConnection;
 struct xcb_connection_t;
 struct xcb_key_press_event_t; // NOLINT(readability-identifier-naming): xcb's own
 
@@ -21,10 +22,11 @@ namespace Velvetnook
 
 class ApplicationModel;
 class PaletteViewModel;
+class PortalKeys;
 
 // The keys that work wherever the user is: the shortcuts of the companion. The one whose target
-// is "command" opens the palette. Only an X server gives such keys; what is in the way of each,
-// and the way round it, is told.
+// is "command" opens the palette. An X server gives such keys, elsewhere a desktop may; what is
+// in the way of each, and the way round it, is told.
 //
 // The server stops the keyboard the moment that a key is pressed. What it summons is asked to
 // open, and has the keyboard when that returns; then it goes on. So what is typed meanwhile,
@@ -35,7 +37,9 @@ class GlobalKeys : public QObject, public QAbstractNativeEventFilter
     Q_OBJECT
 
 public:
-    GlobalKeys(ApplicationModel &model, PaletteViewModel &palette, QObject *parent = nullptr);
+    // `session` is the bus that the desktop is on.
+    GlobalKeys(ApplicationModel &model, PaletteViewModel &palette,
+               const QDBusConnection &session, QObject *parent = nullptr);
     ~GlobalKeys() override;
     GlobalKeys(const GlobalKeys &) = delete;
     GlobalKeys &operator=(const GlobalKeys &) = delete;
@@ -70,6 +74,8 @@ private:
 
     void follow();
     void followSoon();
+    void askDesktop();
+    HotkeyState toldByDesktop(const KestCore::ShortcutBinding &binding) const;
     void release();
     HotkeyState ask(Held &held) const;
     // Whether the server gave all of it.
@@ -85,6 +91,7 @@ private:
     ApplicationModel &m_model;
     PaletteViewModel &m_palette;
     xcb_connection_t *m_server;
+    PortalKeys *m_portal = nullptr; // where an X server does not have the keyboard
     std::uint32_t m_root = 0;
     std::uint8_t m_keyboardEvents = 0; // of the keyboard extension; 0: none
     std::vector<std::uint16_t> m_locks;

@@ -11,6 +11,7 @@
 #include "bench/XKeys.h"
 #include "tests/TemporaryFolder.h"
 
+#include <QDBusConnection>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QQmlEngine>
@@ -131,7 +132,11 @@ protected:
         EXPECT_TRUE(m_window->prepare());
     }
 
-    void listen() { m_hotkey = std::make_unique<GlobalKeys>(*m_model, *m_app->palette()); }
+    void listen()
+    {
+        m_hotkey = std::make_unique<GlobalKeys>(*m_model, *m_app->palette(),
+                                                QDBusConnection::sessionBus());
+    }
     void pressHotkey()
     {
         m_keys.press(kControl);

@@ -81,7 +81,7 @@ const ShortcutBinding *ShortcutSettings::bindingOf(const std::string &target) co
     return found == all.end() ? nullptr : &*found;
 }
 
-QString ShortcutSettings::titleOf(const std::string &target) const
+QString ShortcutSettings::titleOf(const std::string &target)
 {
     if (target == "command") {
         return tr("Palette");
@@ -112,8 +112,9 @@ QVariantMap ShortcutSettings::rowOf(const std::string &target) const
     QString note = tr("No key is set.");
     if (binding != nullptr) {
         keys = shortcutText(*binding).split(u'+');
-        note = told.level == HotkeyState::Level::full ? tr("It works over every application.")
-                                                      : told.reason;
+        note = told.reason.isEmpty() && told.level == HotkeyState::Level::full
+                   ? tr("It works over every application.")
+                   : told.reason;
     }
     return {{QStringLiteral("target"), QString::fromStdString(target)},
             {QStringLiteral("title"), titleOf(target)},

@@ -38,6 +38,9 @@ public:
     ShortcutSettings(ApplicationModel &model, const Formatting &formatting,
                      QObject *parent = nullptr);
 
+    // What the user knows the target as.
+    static QString titleOf(const std::string &target);
+
     QVariantList rows() const;
     QVariantList addable() const;
     QString recording() const { return m_recording; }
@@ -58,7 +61,6 @@ signals:
     void refusalChanged();
 
 private:
-    QString titleOf(const std::string &target) const;
     QString iconOf(const std::string &target) const;
     QVariantMap rowOf(const std::string &target) const;
     const KestCore::ShortcutBinding *bindingOf(const std::string &target) const;
