@@ -4,6 +4,7 @@
 
 #include "Velvetnook/Application/Alarms.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EventWatch.h"
 #include "Velvetnook/Application/Summons.h"
 #include "Velvetnook/Application/ToolServices.h"
 #include "Velvetnook/Application/ViewModels/AssistantsViewModel.h"
@@ -58,6 +59,13 @@ Alarms &App::alarms()
                           .panel = [this] { return panel()->isOpen(); }});
     }
     return *m_alarms;
+}
+
+void App::followEvents()
+{
+    auto *const events = new EventWatch{m_model, this};
+    connect(events, &EventWatch::changed, this,
+            [this, events] { strip()->setNextEvent(events->next()); });
 }
 
 void App::saveOpenWork()

@@ -102,6 +102,8 @@ public:
 
     // What happens by itself: made once, by whoever shows it first.
     Alarms &alarms();
+    // Has the strip tell of the next event from now on.
+    void followEvents();
     // What the tools reach the world with, before the first of them is made.
     void setServices(ToolServices services);
     // Hands the store what is being written and waits for a pause.

@@ -21,6 +21,7 @@ namespace
 constexpr Base::Seconds kMinute{60};
 constexpr Base::Seconds kHour{3600};
 constexpr Base::Seconds kPrayerIsNear{900};
+constexpr Base::Seconds kEventIsNear{600};
 
 class Strip
 {
@@ -43,6 +44,7 @@ private:
     Content lastMinute();
     Content counting();
     Content assistant();
+    Content event();
     Content runningTimer();
     Content nowPlaying();
     Content prayerSoon();
@@ -94,6 +96,9 @@ StripStep Strip::step()
         lookAgain(m_sources.nextPrayer->at);
         lookAgain(m_sources.nextPrayer->at - kHour);
     }
+    if (m_sources.nextEvent) {
+        lookAgain(m_sources.nextEvent->start - kEventIsNear);
+    }
     if (m_sources.countedAt) {
         lookAgain(*m_sources.countedAt + kCountingTime);
     }
@@ -104,9 +109,9 @@ StripStep Strip::step()
     }
     using Source = Content (Strip::*)();
     static constexpr Source kOrder[]{
-        &Strip::emphasis,   &Strip::message,   &Strip::prayerNow,    &Strip::lastMinute,
-        &Strip::counting,   &Strip::assistant, &Strip::runningTimer, &Strip::nowPlaying,
-        &Strip::prayerSoon, &Strip::pinned};
+        &Strip::emphasis,   &Strip::message,    &Strip::prayerNow, &Strip::lastMinute,
+        &Strip::counting,   &Strip::assistant,  &Strip::event,     &Strip::runningTimer,
+        &Strip::nowPlaying, &Strip::prayerSoon, &Strip::pinned};
     for (const Source source : kOrder) {
         if (Content content = (this->*source)()) {
             return {.content = std::move(*content), .changesAt = m_changesAt};
@@ -266,6 +271,26 @@ Strip::Content Strip::assistant()
     return StripContent{.kind = QStringLiteral("assistant"),
                         .text = tr("%1 is waiting for you", "Claude Code").arg(waiting->title),
                         .textTone = QStringLiteral("text1")};
+}
+
+Strip::Content Strip::event()
+{
+    const auto &next = m_sources.nextEvent;
+    if (!next || m_now < next->start - kEventIsNear || m_now >= next->start + kEventNowTime) {
+        return std::nullopt;
+    }
+    const bool isNow = m_now >= next->start;
+    lookAgain(isNow ? next->start + kEventNowTime : next->start);
+    return StripContent{.kind = QStringLiteral("event"),
+                        .icon = QStringLiteral("calendar"),
+                        .iconTone = QStringLiteral("accent"),
+                        .text = next->title.isEmpty() ? tr("(no title)") : next->title,
+                        .textTone = QStringLiteral("text1"),
+                        .note = m_formatting.time(next->start),
+                        .trailing = isNow
+                                        ? tr("now", "an event begins")
+                                        : tr("in %1", "42 min").arg(minutesUntil(next->start)),
+                        .trailingTone = QStringLiteral("accent")};
 }
 
 // A pinned phrase keeps its place, and the timer trails.

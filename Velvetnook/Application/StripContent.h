@@ -6,6 +6,7 @@
 #include "KestCore/Prayer/PrayerCalculator.h"
 #include "KestCore/Surfaces/MessageAnimation.h"
 #include "KestCore/Tools/TimerList.h"
+#include "Velvetnook/Application/EventWatch.h"
 #include "Velvetnook/Application/NowPlaying.h"
 
 #include <QString>
@@ -27,7 +28,7 @@ inline constexpr Base::Seconds kWaitingTime{15 * 60};
 // The one thing that the closed strip shows. Tones are names of colours of the theme; a ring or
 // a hem of less than 0 is not there.
 struct StripContent {
-    QString kind{}; // rest, pin, count, timer, prayer, music, message, assistant
+    QString kind{}; // rest, pin, count, timer, prayer, event, music, message, assistant
     QString icon{};
     QString iconTone{};
     QString arabic{};
@@ -75,6 +76,7 @@ struct StripSources {
     std::optional<Base::Instant> emphasisUntil{};
     std::optional<ShortMessage> message{};
     std::optional<WaitingAssistant> waiting{};
+    std::optional<UpcomingEvent> nextEvent{};
     std::optional<NowPlaying> nowPlaying{};
     bool isLent{};    // something larger stands in its place for a moment
     bool canBeSeen{}; // what cannot be seen counts no seconds
@@ -87,8 +89,8 @@ struct StripStep {
 
 // The first of these that there is: a reminder's emphasis on what is pinned, a short message,
 // a prayer whose time has come, a timer in its last minute, the counting of the last two
-// minutes, an assistant that waits, a running timer, what plays, a prayer within the hour if
-// that is chosen, what is pinned.
+// minutes, an assistant that waits, an event of the next ten minutes, a running timer, what
+// plays, a prayer within the hour if that is chosen, what is pinned.
 StripStep stripStep(const StripSources &sources, const Formatting &formatting,
                     Base::Instant now);
 

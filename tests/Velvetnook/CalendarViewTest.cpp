@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Tools/CalendarSources.h"
 #include "RunningModel.h"
+#include "Velvetnook/Application/EventWatch.h"
+#include "Velvetnook/Application/ToolChoice.h"
 #include "Velvetnook/Application/ViewModels/CalendarPageViewModel.h"
 
 #include <QAbstractItemModelTester>
@@ -216,6 +218,41 @@ TEST_F(CalendarViewTest, TakesOnlyWhatIsACalendar)
     undo();
     running.settle();
     EXPECT_TRUE(shows({"One"}));
+}
+
+TEST_F(CalendarViewTest, TellsTheStripOfTheNextEventUnlessItIsToldNotTo)
+{
+    using Base::Seconds;
+    EventWatch watch{running.model()};
+    const auto next = [&watch](const char *title) {
+        return RunningModel::waitUntil([&] {
+            return watch.next() ? watch.next()->title == QLatin1String{title} : *title == '\0';
+        });
+    };
+    EXPECT_TRUE(next(""));
+    const std::string path =
+        put("work.ics", {"20251114T150000 Review", "20251114T140000 Call"});
+    add(path);
+    running.change([](KestCore::NativeState &state) { setToolOn(state, "calendar", true); });
+    EXPECT_TRUE(next("Call")); // it is 13:06
+    running.pass(Seconds{54 * 60});
+    EXPECT_TRUE(next("Call")); // begins
+    running.pass(Seconds{60});
+    EXPECT_TRUE(next("Review"));
+    put("work.ics", {"20251114T143000 Tea"});
+    EXPECT_TRUE(next("Tea")); // the file was written anew
+
+    const auto setTool = [this](const char *key, const char *value) {
+        running.change([=](KestCore::NativeState &state) { state.settings[key] = value; });
+    };
+    setTool("calendar.strip", "false");
+    EXPECT_TRUE(next(""));
+    setTool("calendar.strip", "true");
+    EXPECT_TRUE(next("Tea"));
+    running.change([&path](KestCore::NativeState &state) {
+        ASSERT_TRUE(KestCore::removeCalendarSource(state.settings, path));
+    });
+    EXPECT_TRUE(next(""));
 }
 
 } // namespace

@@ -115,9 +115,10 @@ public:
     {
         for (int round = 0; round < 3; ++round) {
             settle();
-            bool isDone = false;
-            view.service().readPorts({}, [&isDone](const auto &) { isDone = true; });
-            waitUntil([&] { return isDone || !view.service().hasBegun() || machine.isStuck; });
+            // A machine that is stuck may answer long after this.
+            const auto isDone = std::make_shared<bool>(false);
+            view.service().readPorts({}, [isDone](const auto &) { *isDone = true; });
+            waitUntil([&] { return *isDone || !view.service().hasBegun() || machine.isStuck; });
         }
     }
 

@@ -66,6 +66,8 @@ TEST_F(StripTest, ShowsTheFirstOfWhatThereIs)
     m_sources.timers = {timerWith(45)};
     m_sources.countedAt = kNow - kMinute;
     m_sources.waiting = WaitingAssistant{.title = QStringLiteral("Cursor"), .since = kNow};
+    m_sources.nextEvent =
+        UpcomingEvent{.title = QStringLiteral("Tea with Sara"), .start = kNow + 8 * kMinute};
     const auto shown = [&] { return said(step().content); };
 
     EXPECT_EQ(shown(), "pin: Subḥāna llāh | ");
@@ -80,6 +82,8 @@ TEST_F(StripTest, ShowsTheFirstOfWhatThereIs)
     m_sources.countedAt.reset();
     EXPECT_EQ(shown(), "assistant: Cursor is waiting for you | ");
     m_sources.waiting.reset();
+    EXPECT_EQ(shown(), "event: Tea with Sara | in 8 min");
+    m_sources.nextEvent.reset();
     EXPECT_EQ(shown(), "timer: Subḥāna llāh | 14:32"); // trails the pinned phrase
     m_state.devotional.preferences.pinEnabled = false;
     EXPECT_EQ(shown(), "timer: Focus | 14:32");
@@ -109,6 +113,13 @@ TEST_F(StripTest, EachThingEndsAtItsMoment)
     m_sources.waiting = WaitingAssistant{.title = QStringLiteral("Cursor"), .since = kNow};
     EXPECT_EQ(step().changesAt, kNow + kWaitingTime);
     EXPECT_EQ(said(step(kWaitingTime).content), "rest:  | ");
+    m_sources.waiting.reset();
+    m_sources.nextEvent = UpcomingEvent{.title = {}, .start = kNow + 12 * kMinute};
+    EXPECT_EQ(step().changesAt, kNow + 2 * kMinute);
+    EXPECT_EQ(said(step().content), "rest:  | ");
+    EXPECT_EQ(said(step(2 * kMinute).content), "event: (no title) | in 10 min");
+    EXPECT_EQ(said(step(12 * kMinute).content), "event: (no title) | now");
+    EXPECT_EQ(said(step(12 * kMinute + kEventNowTime).content), "rest:  | ");
 }
 
 TEST_F(StripTest, LooksAgainOnlyWhenTheTextIsAnother)

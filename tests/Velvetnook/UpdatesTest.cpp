@@ -61,6 +61,8 @@ protected:
     UpdateSource m_source{
         .build = {.version = "1.2.0", .channel = KestCore::UpdateChannel::stable},
         .openTransport = [] { return Web::openTransport(); }};
+    // The library that encrypts gives back only on the main thread what it began on.
+    const decltype(Web::openTransport()) m_firstTransport = Web::openTransport();
     RunningModel m_running;
     std::unique_ptr<UpdateSettings> m_updates;
 };

@@ -5,6 +5,7 @@
 #include "KestCore/Tools/CalendarSources.h"
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/EngineText.h"
+#include "Velvetnook/Application/EventWatch.h"
 #include "Velvetnook/Application/Formatting.h"
 
 #include <QLocale>
@@ -133,6 +134,13 @@ QString CalendarPageViewModel::footer() const
     return count == 0 ? tr("Your calendar files are only read")
                       : m_formatting.digits(tr("Read only · %n calendar(s)", nullptr, count));
 }
+
+bool CalendarPageViewModel::isInStrip() const
+{
+    return showsEventInStrip(m_model.state().settings);
+}
+
+void CalendarPageViewModel::setInStrip(bool isInStrip) { showEventInStrip(m_model, isInStrip); }
 
 void CalendarPageViewModel::setShown(bool isShown)
 {

@@ -43,7 +43,8 @@ class CalendarPageViewModel : public QObject
     Q_PROPERTY(QString footer READ footer NOTIFY changed)
     // The day that weeks begin with: "" as in the user's country, or "monday" to "sunday".
     Q_PROPERTY(QString weekStart READ weekStart WRITE setWeekStart NOTIFY changed)
-    Q_PROPERTY(QVariantList weekStarts READ weekStarts NOTIFY changed) // {value, label}
+    Q_PROPERTY(bool isInStrip READ isInStrip WRITE setInStrip NOTIFY changed) // the next event
+    Q_PROPERTY(QVariantList weekStarts READ weekStarts NOTIFY changed)        // {value, label}
     Q_PROPERTY(bool isTwelveHours READ isTwelveHours NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel *sources READ sources CONSTANT)
     Q_PROPERTY(int sourceCount READ sourceCount NOTIFY changed)
@@ -70,6 +71,8 @@ public:
     QString footer() const;
     QString weekStart() const;
     void setWeekStart(const QString &day);
+    bool isInStrip() const;
+    void setInStrip(bool isInStrip);
     QVariantList weekStarts() const;
     bool isTwelveHours() const;
     QAbstractItemModel *sources() { return &m_sources; }

@@ -209,6 +209,14 @@ void StripViewModel::emphasise()
     refresh();
 }
 
+void StripViewModel::setNextEvent(std::optional<UpcomingEvent> event)
+{
+    if (event != m_sources.nextEvent) {
+        m_sources.nextEvent = std::move(event);
+        refresh();
+    }
+}
+
 void StripViewModel::setNowPlaying(std::optional<NowPlaying> nowPlaying)
 {
     if (nowPlaying != m_sources.nowPlaying) {

@@ -82,6 +82,8 @@ public:
     void showWaiting(std::optional<WaitingAssistant> waiting);
     // Draws the eye to the pinned phrase.
     Q_INVOKABLE void emphasise();
+    // Nothing: there is none, or not wanted here.
+    void setNextEvent(std::optional<UpcomingEvent> event);
     // Nothing: it is silent, or not wanted here.
     void setNowPlaying(std::optional<NowPlaying> nowPlaying);
     // The window says whether the strip can be seen.

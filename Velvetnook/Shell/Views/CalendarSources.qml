@@ -88,7 +88,7 @@ FocusScope {
 
         y: 38 + field.implicitHeight + 6
         width: parent.width
-        height: start.y - y - 6
+        height: inStrip.y - y - 6
         activeFocusOnTab: true
         clip: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
@@ -141,6 +141,24 @@ FocusScope {
                 text: row.problem
             }
         }
+    }
+    Txt {
+        anchors.left: parent.left
+        anchors.leftMargin: 8
+        anchors.verticalCenter: inStrip.verticalCenter
+        role: "label"
+        color: Theme.color.text2
+        text: qsTr("Show the next event in the strip")
+    }
+    Toggle {
+        id: inStrip
+
+        anchors.right: parent.right
+        anchors.bottom: start.top
+        anchors.bottomMargin: 8
+        name: qsTr("Show the next event in the strip")
+        checked: root.model.isInStrip
+        onToggled: checked => root.model.isInStrip = checked
     }
     Txt {
         anchors.left: parent.left
