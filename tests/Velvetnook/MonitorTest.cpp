@@ -267,6 +267,16 @@ TEST(MonitorService, LeavesPreferencesAsTheyAreThatItCannotRead)
     EXPECT_EQ(app.model().setting("stats.preferences"), R"({"historyEnabled": true})");
 }
 
+TEST(MonitorService, KeepsBothOfTwoChangesThatComeAtOnce)
+{
+    Monitor app;
+    app.view.options()->setAlerts(true);
+    app.view.options()->setRetention(7);
+    app.settle();
+    EXPECT_TRUE(app.view.options()->alerts());
+    EXPECT_EQ(app.view.options()->retention(), 7);
+}
+
 TEST(MonitorChart, AnswersOfAnOlderQuestionArePassedOver)
 {
     Monitor app{{.historyEnabled = true}};
