@@ -333,18 +333,6 @@
         <translation>المساعدون</translation>
     </message>
     <message>
-        <source>%1 is connected.</source>
-        <translation>رُبط %1.</translation>
-    </message>
-    <message>
-        <source>%1 is not connected any more.</source>
-        <translation>لم يعد %1 مربوطًا.</translation>
-    </message>
-    <message>
-        <source>%1 The file as it was: %2</source>
-        <translation>%1 الملف كما كان: %2</translation>
-    </message>
-    <message>
         <source>Reading the logs…</source>
         <translation>تجري قراءة السجلات…</translation>
     </message>
@@ -6963,6 +6951,18 @@
     <message>
         <source>There is nothing to change in %1</source>
         <translation>لا شيء يُغيَّر في %1</translation>
+    </message>
+    <message>
+        <source>%1 is connected.</source>
+        <translation>رُبط %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected any more.</source>
+        <translation>لم يعد %1 مربوطًا.</translation>
+    </message>
+    <message>
+        <source>%1 The file as it first was: %2</source>
+        <translation>%1 الملف كما كان في الأصل: %2</translation>
     </message>
 </context>
 <context>
