@@ -8506,6 +8506,14 @@
         <source>City</source>
         <translation>مدينة</translation>
     </message>
+    <message>
+        <source>Ask MET Norway for the forecast</source>
+        <translation>طلب التوقّعات من MET Norway</translation>
+    </message>
+    <message>
+        <source>While you look, over the network. It is told where, to about a kilometre, and nothing else.</source>
+        <translation>ما دمت تنظر، عبر الشبكة. تُعطى المكان بدقّة كيلومتر تقريبًا ولا شيء غيره.</translation>
+    </message>
 </context>
 <context>
     <name>WeatherTile</name>
