@@ -6651,6 +6651,10 @@
         <source>Undo</source>
         <translation>تراجع</translation>
     </message>
+    <message>
+        <source>Not done: %1</source>
+        <translation>لم يتمّ ذلك: %1</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::FileGlance</name>
