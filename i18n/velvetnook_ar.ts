@@ -1530,10 +1530,6 @@
         <translation>لا يمكن فتح هذا العنصر المحفوظ.</translation>
     </message>
     <message>
-        <source>A copied file has moved or access was revoked. Copy it again from Finder.</source>
-        <translation>نُقل ملف منسوخ أو سُحب إذن الوصول إليه. انسخه مجددًا من مدير الملفات.</translation>
-    </message>
-    <message>
         <source>The clipboard could not be updated. Try copying again.</source>
         <translation>تعذّر تحديث الحافظة. حاول النسخ مجددًا.</translation>
     </message>
@@ -1948,6 +1944,10 @@
     <message>
         <source>%1: growing memory</source>
         <translation>%1: ذاكرة تنمو</translation>
+    </message>
+    <message>
+        <source>A copied file has moved or access was revoked. Copy it again from the file manager.</source>
+        <translation>نُقل ملف منسوخ أو سُحب إذن الوصول إليه. انسخه مجددًا من مدير الملفات.</translation>
     </message>
 </context>
 <context>
