@@ -50,6 +50,23 @@ Result<std::optional<std::string>> ownFile(const fs::path &file)
     return text;
 }
 
+// What lies there already is older than the first of our changes.
+Result<std::optional<fs::path>> keepFirstCopy(const PlannedChange &plan)
+{
+    const fs::path copy{plan.file.string() + ".before-velvetnook"};
+    struct stat about{};
+    if (::lstat(copy.c_str(), &about) == 0) {
+        return copy;
+    }
+    if (!plan.before) {
+        return std::nullopt;
+    }
+    KEST_TRY(auto kept, Base::ReplacingFile::create(copy));
+    KEST_CHECK(kept.write(*plan.before));
+    KEST_CHECK(kept.commit());
+    return copy;
+}
+
 } // namespace
 
 const std::vector<HookTool> &hookTools()
@@ -124,13 +141,7 @@ Result<PlannedChange> planHooks(const HookTool &tool, HookChange change, const f
 
 Result<std::optional<fs::path>> writeHooks(const PlannedChange &plan)
 {
-    std::optional<fs::path> copy;
-    if (plan.before) {
-        copy = fs::path{plan.file.string() + ".before-velvetnook"};
-        KEST_TRY(auto kept, Base::ReplacingFile::create(*copy));
-        KEST_CHECK(kept.write(*plan.before));
-        KEST_CHECK(kept.commit());
-    }
+    KEST_TRY(const auto copy, keepFirstCopy(plan));
     KEST_TRY(auto file, Base::ReplacingFile::create(plan.file));
     KEST_CHECK(file.write(plan.after));
     // The tool itself may have written meanwhile.

@@ -62,8 +62,9 @@ struct PlannedChange {
                                                     const std::filesystem::path &home,
                                                     const std::string &command);
 
-// Writes it, the old file being kept beside it first: its name is returned, unless there was
-// none. Fails with unavailable when the file is not as it was planned with.
+// Writes it. Before its first change the user's file is kept beside it, and that copy is never
+// written again: its name is returned, unless there is none. Fails with unavailable when the
+// file is not as it was planned with.
 [[nodiscard]] Base::Result<std::optional<std::filesystem::path>>
 writeHooks(const PlannedChange &plan);
 

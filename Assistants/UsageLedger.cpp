@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "Assistants/UsageLedger.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <functional>
 #include <set>
@@ -31,6 +29,14 @@ void addTo(std::optional<WindowUse> &window, Base::Instant at, const TokenCounts
         window = WindowUse{.begin = at, .end = at + kWindow};
     }
     addTokens(window->tokens, tokens);
+}
+
+std::uint64_t hashOf(std::string_view tool, std::string_view name)
+{
+    constexpr std::uint64_t kOdd =
+        0x9E37'79B9'7F4A'7C15U; // so that the two cannot change places
+    const std::hash<std::string_view> hash;
+    return hash(tool) * kOdd + hash(name);
 }
 
 // A window that has ended since tells nothing of the one that runs now.
@@ -80,7 +86,7 @@ void UsageLedger::add(std::string_view tool, std::string_view folder, const Logg
                       std::string_view key)
 {
     const std::string_view name = use.id.empty() ? key : std::string_view{use.id};
-    const std::uint64_t hash = std::hash<std::string>{}(fmt::format("{}\n{}", tool, name));
+    const std::uint64_t hash = hashOf(tool, name);
     if (const auto known = m_uses.find(hash); known != m_uses.end()) {
         known->second.tokens = packed(larger(unpacked(known->second), use.tokens));
         return;

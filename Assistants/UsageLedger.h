@@ -57,7 +57,7 @@ class UsageLedger
 public:
     static constexpr std::size_t kMostUses = 1'000'000;
 
-    // `key` names the line, for a use that has no id.
+    // `key` names the line, for a use that has no id; else it is not looked at.
     void add(std::string_view tool, std::string_view folder, const LoggedUse &use,
              std::string_view key);
     void add(std::string_view tool, const Limit &limit);

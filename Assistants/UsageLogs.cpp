@@ -134,8 +134,9 @@ void UsageLogs::takeLine(const fs::path &file, Log &log, const LogFollower::Mark
     }
     log.step = finding->step ? finding->step : log.step;
     if (const auto &use = finding->use; use && use->at >= m_since) {
-        m_ledger.add(log.format->tool, log.memory.folder, *use,
-                     fmt::format("{}:{}", file.native(), line.offset));
+        const std::string place =
+            use->id.empty() ? fmt::format("{}:{}", file.native(), line.offset) : std::string{};
+        m_ledger.add(log.format->tool, log.memory.folder, *use, place);
     }
     for (const Limit &limit : finding->limits) {
         m_ledger.add(log.format->tool, limit);

@@ -35,6 +35,7 @@
 #include "Velvetnook/Shell/Theme.h"
 
 #include <QDBusConnection>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -375,8 +376,35 @@ void Running::openOnboarding()
     m_onboarding->present();
 }
 
+// How text is drawn is told by the environment, which what is started from here must not
+// inherit. It is read with the first text that is measured.
+class TextDrawing
+{
+public:
+    void finish()
+    {
+        m_fonts.join();
+        if (m_isOurs) {
+            (void)QFontMetricsF{QGuiApplication::font()}.height();
+            unsetenv(kVariable);
+        }
+    }
+
+private:
+    static constexpr const char *kVariable = "FREETYPE_PROPERTIES";
+    static bool prepare()
+    {
+        const bool isOurs = !qEnvironmentVariableIsSet(kVariable);
+        prepareText();
+        return isOurs;
+    }
+
+    bool m_isOurs = prepare();
+    std::jthread m_fonts{readFontList};
+};
+
 int run(const Launch &launch, BusActivation &activation, LastWords &lastWords,
-        std::jthread fonts)
+        TextDrawing &text)
 {
     FirstSurface surface;
     const std::filesystem::path file = KestCore::dataDirectory() / KestCore::kDatabaseName;
@@ -385,7 +413,7 @@ int run(const Launch &launch, BusActivation &activation, LastWords &lastWords,
         store->leaveClipboardOnDisk();
     }
     auto first = store ? store->snapshot() : std::unexpected(store.error());
-    fonts.join();
+    text.finish();
     if (!first) {
         return showFailure(first.error(), file, activation);
     }
@@ -420,8 +448,7 @@ int main(int argc, char **argv)
     }
     keepMemorySmall();
     chooseRenderer();
-    prepareText();
-    std::jthread fonts{readFontList};
+    TextDrawing text;
     LastWords lastWords;
     QGuiApplication application{argc, argv};
     if (isOurDisplay) {
@@ -438,5 +465,5 @@ int main(int argc, char **argv)
     if (const auto status = claim(*activation, launch)) {
         return *status;
     }
-    return run(launch, *activation, lastWords, std::move(fonts));
+    return run(launch, *activation, lastWords, text);
 }

@@ -8,7 +8,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cstring>
 #include <fstream>
+#include <string_view>
 
 namespace Bench
 {
@@ -63,15 +65,24 @@ std::size_t writeLogs(const fs::path &home)
     return bytes;
 }
 
-// Every byte once through a buffer of the same size, and nothing else.
-void readOnly(const fs::path &home)
+// Every byte once through a buffer of the same size, and the ends of its lines found.
+std::size_t countLines(const fs::path &home)
 {
     std::vector<char> buffer(std::size_t{256} * 1024);
+    std::size_t lines = 0;
     for (const auto &entry : fs::directory_iterator{home / ".claude/projects/one"}) {
         const Base::FileDescriptor file{::open(entry.path().c_str(), O_RDONLY | O_CLOEXEC)};
-        while (::read(file.get(), buffer.data(), buffer.size()) > 0) {
+        ssize_t got = 0;
+        while ((got = ::read(file.get(), buffer.data(), buffer.size())) > 0) {
+            std::string_view text{buffer.data(), static_cast<std::size_t>(got)};
+            while (const void *const end = ::memchr(text.data(), '\n', text.size())) {
+                ++lines;
+                text.remove_prefix(
+                    static_cast<std::size_t>(static_cast<const char *>(end) - text.data()) + 1);
+            }
         }
     }
+    return lines;
 }
 
 } // namespace
@@ -88,7 +99,11 @@ std::vector<Row> assistantSuite()
             giveUp("the logs of the benchmark cannot be read");
         }
     };
-    const Pair scanned = measureByTurns(3, scan, [&] { readOnly(home); });
+    const Pair scanned = measureByTurns(3, scan, [&] {
+        if (countLines(home) == 0) {
+            giveUp("the logs of the benchmark are empty");
+        }
+    });
     Assistants::UsageLogs logs{home, since};
     logs.refresh();
     std::size_t number = 100'000'000;

@@ -151,8 +151,9 @@ void printChange(const Console &console, const AssistantChangeAnswer &answer)
         console.line("Nothing was written; --yes writes this.");
         return;
     }
-    console.line("Written. " + (answer.copy ? "The file as it was: " + printable(*answer.copy)
-                                            : std::string{"The file is new."}));
+    console.line("Written. " + (answer.copy
+                                    ? "The file as it first was: " + printable(*answer.copy)
+                                    : std::string{"The file is new."}));
 }
 
 Result<void> runChange(const Session &session, const Arguments &args, HookChange change)

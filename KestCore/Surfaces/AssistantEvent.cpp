@@ -27,6 +27,11 @@ bool isAssistantTool(std::string_view name)
 
 std::string assistantName(std::string_view name)
 {
+    // Nearly all are plain words, and the logs have hundreds of thousands of them.
+    const auto isPlain = [](char c) { return c > ' ' && c < '\x7F'; };
+    if (name.size() <= kLongestName && std::ranges::all_of(name, isPlain)) {
+        return std::string{name};
+    }
     // Not all of a megabyte is made printable for the sake of its beginning.
     const std::string clean = Base::printable(name.substr(0, 8 * kLongestName));
     return std::string{

@@ -89,8 +89,6 @@ namespace
     QT_TRANSLATE_NOOP("Engine", "Copied image"),
     QT_TRANSLATE_NOOP("Engine", "This saved image is damaged."),
     QT_TRANSLATE_NOOP("Engine", "This saved entry cannot be opened."),
-    QT_TRANSLATE_NOOP(
-        "Engine", "A copied file has moved or access was revoked. Copy it again from Finder."),
     QT_TRANSLATE_NOOP("Engine", "The clipboard could not be updated. Try copying again."),
     QT_TRANSLATE_NOOP("Engine", "Clipboard image is too large or could not be read."),
     QT_TRANSLATE_NOOP("Engine", "Clipboard image could not be decoded"),
@@ -147,6 +145,9 @@ constexpr Pattern kPatterns[]{
      QT_TRANSLATE_NOOP("Engine", "No browser that may be driven listens on port %1.")},
     {"^The browser on port (.*) does not answer\\.$",
      QT_TRANSLATE_NOOP("Engine", "The browser on port %1 does not answer.")},
+    {"^A copied file has moved or access was revoked\\. Copy it again from Finder\\.$",
+     QT_TRANSLATE_NOOP("Engine", "A copied file has moved or access was revoked. Copy it again "
+                                 "from the file manager.")},
     {"^This address is saved already, as \"(.*)\"$",
      QT_TRANSLATE_NOOP("Engine", "This address is saved already, as “%1”")},
     {"^(.*): it is no calendar\\.$", QT_TRANSLATE_NOOP("Engine", "%1: it is no calendar.")},
@@ -173,6 +174,9 @@ QString engineText(std::string_view text)
         const QRegularExpression written{QString::fromUtf8(pattern.written),
                                          QRegularExpression::DotMatchesEverythingOption};
         const auto match = written.match(own);
+        if (match.lastCapturedIndex() == 0) {
+            return translated(pattern.shown);
+        }
         if (match.lastCapturedIndex() == 1) {
             return translated(pattern.shown).arg(translated(match.captured(1)));
         }

@@ -132,6 +132,10 @@ TEST(HookFile, WritesThroughALinkAndKeepsACopy)
     EXPECT_EQ(Base::readFile(real), plan.after);
     EXPECT_EQ(Base::readFile(copy.value()), "{\"a\":1}");
     EXPECT_FALSE(planHooks(claude(), HookChange::connect, home.path(), "kest")->isNeeded());
+    const auto other =
+        planHooks(claude(), HookChange::connect, home.path(), "/opt/kest").value();
+    EXPECT_EQ(writeHooks(other).value(), copy);
+    EXPECT_EQ(Base::readFile(copy.value()), "{\"a\":1}"); // the file that was the user's alone
 
     const auto back = planHooks(claude(), HookChange::disconnect, home.path(), "kest").value();
     write(real, "{\"b\":2}");

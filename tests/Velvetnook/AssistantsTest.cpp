@@ -235,18 +235,38 @@ TEST_F(HooksTest, WritesOnlyWhatWasShownAndTakesItBackToTheByte)
     EXPECT_EQ(text(kHooks), before);
 
     ASSERT_TRUE(plan(true));
-    QSignalSpy written{m_page.get(), &HookConnections::written};
+    QSignalSpy told{m_page.get(), &HookConnections::told};
     m_page->write();
-    ASSERT_TRUE(written.wait(10'000));
+    ASSERT_TRUE(told.wait(10'000));
     EXPECT_NE(text(kHooks).find("hook claude-code"), std::string::npos);
     EXPECT_EQ(text(std::string{kHooks} + ".before-velvetnook"), before);
     EXPECT_EQ(state(0), "connected");
 
     ASSERT_TRUE(plan(false));
     m_page->write();
-    ASSERT_TRUE(written.wait(10'000));
+    ASSERT_TRUE(told.wait(10'000));
     EXPECT_EQ(text(kHooks), before);
     EXPECT_EQ(state(0), "off");
+}
+
+TEST_F(HooksTest, TellsWhatBecameOfAWritingWhosePageWasLeft)
+{
+    for (const bool isRefused : {false, true}) {
+        SCOPED_TRACE(isRefused);
+        write(kHooks, "{}\n", std::ios::trunc);
+        ASSERT_TRUE(plan(true));
+        if (isRefused) {
+            write(kHooks, "{\"model\": \"m\"}\n", std::ios::trunc);
+        }
+        QSignalSpy told{m_page.get(), &HookConnections::told};
+        m_page->write();
+        m_page->close();
+        ASSERT_TRUE(told.wait(10'000));
+        EXPECT_TRUE(told[0][0].toString().contains(isRefused ? u"It has changed just now"
+                                                             : u"Claude Code is connected."));
+        EXPECT_EQ(m_page->problem(), "");
+        EXPECT_EQ(state(0), isRefused ? "off" : "connected");
+    }
 }
 
 TEST_F(HooksTest, RefusesAFileThatChangedOrCannotBeUnderstood)

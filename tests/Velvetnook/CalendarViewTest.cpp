@@ -215,9 +215,14 @@ TEST_F(CalendarViewTest, TakesOnlyWhatIsACalendar)
     running.settle();
     EXPECT_TRUE(shows({}));
     EXPECT_TRUE(fs::exists(path));
+    const QString refusal = refusalOf("not whole");
+    ASSERT_NE(refusal, "");
+    QSignalSpy added{calendar.get(), &CalendarPageViewModel::added};
     undo();
     running.settle();
     EXPECT_TRUE(shows({"One"}));
+    EXPECT_EQ(added.count(), 0) << "that would clear what is typed";
+    EXPECT_EQ(calendar->refusal(), refusal);
 }
 
 TEST_F(CalendarViewTest, TellsTheStripOfTheNextEventUnlessItIsToldNotTo)

@@ -167,6 +167,25 @@ TEST_F(DockTest, WhatIsRemovedComesBackWhereItWas)
     EXPECT_EQ(stored().workspaces.front().id, "faith");
 }
 
+TEST_F(DockTest, SaysWhatAnotherProgramHasLeftNothingToDoFor)
+{
+    makeDock();
+    const QString prayer = idOf("Prayer");
+    const auto left = titles().size() - 1;
+    // As another program changes the file: the store is there, and nothing is told of it.
+    m_running.model().perform(
+        [id = prayer.toStdString()](KestCore::StateStore &store) -> Base::Result<Committed> {
+            CompanionState companion = store.companion();
+            KEST_CHECK(KestCore::removeDockItem(companion, companion.selectedWorkspaceID, id));
+            KEST_CHECK(store.saveCompanion(std::move(companion)));
+            return Committed{};
+        });
+    EXPECT_TRUE(m_dock->renameItem(prayer, QStringLiteral("Times")));
+    m_running.settle();
+    EXPECT_TRUE(m_dock->message().startsWith(u"Not done: ")) << m_dock->message().toStdString();
+    EXPECT_EQ(titles().size(), left);
+}
+
 TEST_F(DockTest, KeepsAtLeastOneWorkspaceAndRefusesNamesThatAreNone)
 {
     makeDock();

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Base/File.h"
 #include "KestCore/Store/StateStore.h"
 #include "tests/TemporaryFolder.h"
 #include "tests/Velvetnook/XDesktop.h"
@@ -110,7 +111,7 @@ TEST_F(DockWindowTest, HoveringOpensItBesideTheTabAndLeavingClosesIt)
 TEST_F(DockWindowTest, APressStartsAnApplicationAndEscapeGivesTheKeyboardBack)
 {
     prefer([&](KestCore::CompanionState &companion) {
-        addApplication(companion, "/usr/bin/touch " + mark().string());
+        addApplication(companion, "/usr/bin/cp /proc/self/environ " + mark().string());
     });
     const xcb_window_t other = m_desktop.openWindow("writer", {100, 400, 300, 200});
     startWithDock();
@@ -130,6 +131,12 @@ TEST_F(DockWindowTest, APressStartsAnApplicationAndEscapeGivesTheKeyboardBack)
     };
     EXPECT_TRUE(XDesktop::waitFor(startsIt));
     EXPECT_TRUE(XDesktop::waitFor([&] { return isClosed(); }));
+    // What the program has set for itself is not for others.
+    const std::string given = Base::readFile(mark()).value();
+    EXPECT_NE(given.find("DISPLAY="), std::string::npos);
+    for (const char *own : {"QT_QPA_PLATFORM=", "FREETYPE_PROPERTIES="}) {
+        EXPECT_EQ(given.find(own), std::string::npos) << own;
+    }
 }
 
 TEST_F(DockWindowTest, KeysReachTheItemsAndLeaveInSteps)

@@ -268,6 +268,16 @@ TEST(MonitorService, LeavesPreferencesAsTheyAreThatItCannotRead)
     EXPECT_EQ(app.model().setting("stats.preferences"), R"({"historyEnabled": true})");
 }
 
+TEST(MonitorService, KeepsBothOfTwoChangesThatComeAtOnce)
+{
+    Monitor app;
+    app.view.options()->setAlerts(true);
+    app.view.options()->setRetention(7);
+    app.settle();
+    EXPECT_TRUE(app.view.options()->alerts());
+    EXPECT_EQ(app.view.options()->retention(), 7);
+}
+
 TEST(MonitorChart, AnswersOfAnOlderQuestionArePassedOver)
 {
     Monitor app{{.historyEnabled = true}};
@@ -279,6 +289,37 @@ TEST(MonitorChart, AnswersOfAnOlderQuestionArePassedOver)
     app.rest();
     EXPECT_EQ(app.view.chart()->availability(), QStringLiteral("empty"));
     EXPECT_TRUE(app.view.chart()->means().isEmpty());
+}
+
+TEST(MonitorChart, MovesOnWithTheTimeWhileItIsSeen)
+{
+    Monitor app{{.historyEnabled = true}};
+    app.machine.interval = 10;
+    app.machine.cpu = 70;
+    app.begin();
+    app.view.setWatched(true);
+    app.live(70);
+    app.view.chart()->setHours(1);
+    app.view.showChart(QStringLiteral("cpu"));
+    app.rest();
+    app.machine.cpu = 20;
+    const auto begin = [&] { return app.view.chart()->times().value(0); };
+    EXPECT_EQ(begin(), QStringLiteral("12:07"));
+    app.live(200);
+    EXPECT_EQ(begin(), QStringLiteral("12:10"));
+    EXPECT_EQ(app.view.chart()->markPeak(), QStringLiteral("peak 70%"));
+    const auto columns = app.view.chart()->means().size();
+    app.view.chart()->pointAt(1);
+    EXPECT_EQ(app.view.chart()->markPeak(), QStringLiteral("peak 20%"));
+    const QString pointed = app.view.chart()->markTime();
+    app.live(120);
+    EXPECT_GT(app.view.chart()->means().size(), columns);
+    EXPECT_EQ(app.view.chart()->markTime(), pointed);
+    EXPECT_EQ(app.view.chart()->markPeak(), QStringLiteral("peak 20%"));
+
+    app.view.setWatched(false);
+    app.live(180);
+    EXPECT_EQ(begin(), QStringLiteral("12:12"));
 }
 
 std::vector<MonitorRow> rowsOf(const std::string &ids)

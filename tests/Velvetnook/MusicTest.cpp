@@ -8,6 +8,7 @@
 #include "Velvetnook/Platform/Linux/BusPlayers.h"
 
 #include <QSignalSpy>
+#include <QThreadPool>
 
 #include <list>
 
@@ -64,6 +65,10 @@ public:
         return RunningModel::waitUntil(condition);
     }
 
+    std::unique_ptr<BusPlayers> makePlayers()
+    {
+        return std::make_unique<BusPlayers>(m_bus.connect());
+    }
     MusicViewModel &view() { return *m_view; }
     RunningModel &running() { return m_running; }
 
@@ -150,6 +155,25 @@ TEST(MusicView, APlayerThatRefusesOrHangsHoldsNobodyUp)
     EXPECT_TRUE(failures.front().front().toString().contains(u"not today"));
     EXPECT_FALSE(music.view().canSeek());
     EXPECT_FALSE(music.view().hasVolume());
+}
+
+TEST(BusPlayers, EndAtOnceAlsoWhileAPlayerHangs)
+{
+    Music music;
+    music.start("deaf", "deaf");
+    auto players = music.makePlayers();
+    players->begin();
+    for (int time = 0; time < 3; ++time) { // a second each
+        players->perform({.name = "deaf"}, {.kind = MediaPlayers::Action::Kind::playPause});
+    }
+    QSignalSpy failures{players.get(), &Players::failed};
+    ASSERT_TRUE(music.comes([&] { return failures.count() == 1; })); // and two are to come
+    QElapsedTimer timer;
+    timer.start();
+    players.reset();
+    EXPECT_LT(timer.elapsed(), 300);
+    EXPECT_TRUE(QThreadPool::globalInstance()->waitForDone(20'000));
+    music.running().settle(); // what was on its way finds nobody
 }
 
 TEST(MusicView, NobodyIsFollowedWhileTheToolIsOff)

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velvetnook developers
 // SPDX-License-Identifier: MIT
+#include "Velvetnook/Application/EngineText.h"
+
 #include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
@@ -174,6 +176,14 @@ TEST(Texts, AreLookedUpInContextsThatThereAre)
         }
     }
     EXPECT_GT(found, 3);
+}
+
+TEST(Texts, OfTheEngineNameProgramsOfThisDesktop)
+{
+    EXPECT_EQ(Velvetnook::engineText(
+                  "A copied file has moved or access was revoked. Copy it again from Finder."),
+              QStringLiteral("A copied file has moved or access was revoked. Copy it again "
+                             "from the file manager."));
 }
 
 // What the program carries is the compiled form of these files, under the names that the code

@@ -78,7 +78,7 @@ TEST(WeatherView, AsksNobodyBeforeTheUserHasAllowedItOrWhileNobodyLooks)
     EXPECT_EQ(weather.availability(), "permissionDenied");
     EXPECT_EQ(weather.server.requests().size(), 0U);
     weather.view().setShown(false);
-    weather.view().allow();
+    weather.view().setAllowed(true);
     weather.running().settle();
     weather.running().pass(Base::Seconds{7200});
     EXPECT_EQ(weather.server.requests().size(), 0U);
@@ -89,6 +89,28 @@ TEST(WeatherView, AsksNobodyBeforeTheUserHasAllowedItOrWhileNobodyLooks)
     weather.view().setShown(false);
     weather.running().pass(Base::Seconds{3 * 3600});
     EXPECT_EQ(weather.server.requests().size(), 1U);
+}
+
+TEST(WeatherView, ForgetsTheForecastAndAsksNobodyOnceItIsNotAllowedAnyMore)
+{
+    Weather weather;
+    weather.show();
+    ASSERT_TRUE(weather.view().hasForecast());
+    weather.view().setAllowed(false);
+    weather.running().settle();
+    EXPECT_EQ(weather.availability(), "permissionDenied");
+    EXPECT_FALSE(weather.view().hasForecast());
+    EXPECT_FALSE(weather.view().isAllowed());
+    weather.running().pass(Base::Seconds{7200});
+    weather.view().refresh();
+    EXPECT_EQ(weather.server.requests().size(), 1U);
+
+    weather.view().setAllowed(true); // while the view is seen
+    weather.running().settle();
+    weather.running().pass(Base::Seconds{1});
+    weather.answer();
+    EXPECT_EQ(weather.server.requests().size(), 2U);
+    EXPECT_EQ(weather.availability(), "ready");
 }
 
 TEST(WeatherView, GoesOnWithTheHoursOfAForecastWhileItIsSeen)

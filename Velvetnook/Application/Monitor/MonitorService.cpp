@@ -29,6 +29,12 @@ constexpr Base::Seconds kAlertPace{30};
 constexpr Base::Seconds kLongestGap{MonitorCore::kLongestGapSeconds};
 constexpr std::size_t kMostAlerts = 20;
 
+Base::Result<MonitorPreferences> readPreferences(std::string_view text)
+{
+    return text.empty() ? Base::Result<MonitorPreferences>{MonitorPreferences{}}
+                        : Base::json::decode<MonitorPreferences>(Base::json::PaddedText{text});
+}
+
 } // namespace
 
 MonitorService::MonitorService(ApplicationModel &model, QObject *parent)
@@ -160,9 +166,7 @@ void MonitorService::follow()
     const bool isChanged = std::exchange(m_preferencesText, text) != text;
     if (isChanged) {
         m_preferencesProblem.clear();
-        auto read = text.empty() ? Base::Result<MonitorPreferences>{MonitorPreferences{}}
-                                 : Base::json::decode<MonitorPreferences>(
-                                       Base::json::PaddedText{std::string_view{text}});
+        auto read = readPreferences(text);
         if (!read) {
             m_preferencesProblem = engineText(read.error().message);
         }
@@ -175,13 +179,16 @@ void MonitorService::follow()
     }
 }
 
-void MonitorService::changePreferences(const std::function<void(MonitorPreferences &)> &change)
+void MonitorService::changePreferences(std::function<void(MonitorPreferences &)> change)
 {
-    MonitorPreferences wanted = m_preferences;
-    change(wanted);
-    if (const auto text = Base::json::encode(normalised(std::move(wanted)))) {
-        m_model.changeSetting(kPreferencesKey, *text);
-    }
+    m_model.changeState(
+        [change = std::move(change)](KestCore::NativeState &state) -> Base::Result<void> {
+            std::string &stored = state.settings[kPreferencesKey];
+            MonitorPreferences wanted = readPreferences(stored).value_or(MonitorPreferences{});
+            change(wanted);
+            KEST_TRY(stored, Base::json::encode(normalised(std::move(wanted))));
+            return {};
+        });
 }
 
 // One that comes again takes the place of the one before.

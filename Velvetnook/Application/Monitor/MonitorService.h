@@ -49,8 +49,8 @@ public:
     const MonitorCore::MonitorPreferences &preferences() const { return m_preferences; }
     // Why the stored preferences could not be read; they stay until others are chosen.
     const QString &preferencesProblem() const { return m_preferencesProblem; }
-    void
-    changePreferences(const std::function<void(MonitorCore::MonitorPreferences &)> &change);
+    // Changes what is stored by then, on the store's thread.
+    void changePreferences(std::function<void(MonitorCore::MonitorPreferences &)> change);
     bool isRecording() const;
     // Why nothing is recorded although it should be.
     const QString &recordingProblem() const { return m_recordingProblem; }

@@ -75,6 +75,7 @@ AssistantsViewModel::AssistantsViewModel(ApplicationModel &model, const Formatti
         refresh();
         emit waitingChanged();
     });
+    connect(&m_connections, &HookConnections::told, &model, &ApplicationModel::say);
     connect(&m_logs, &LogReader::came, this, &AssistantsViewModel::refresh);
     connect(&formatting, &Formatting::wordsChanged, this, &AssistantsViewModel::refresh);
     connect(&model, &ApplicationModel::choicesChanged, this, [this] {

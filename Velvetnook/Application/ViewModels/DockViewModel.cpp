@@ -313,15 +313,22 @@ bool DockViewModel::change(const Edit &edit)
         say(engineText(done.error().message));
         return false;
     }
-    m_model.changeCompanion(
-        [edit](KestCore::CompanionState &companion) {
-            // What another program has done meanwhile may stand against it: then it is left.
-            (void)edit(companion);
+    // What another program has done meanwhile may stand against it: then nothing is changed,
+    // and what is stored is shown.
+    auto refusal = std::make_shared<Result<void>>();
+    m_model.perform(
+        [edit, refusal](KestCore::StateStore &store) -> Result<Committed> {
+            KestCore::CompanionState companion = store.companion();
+            *refusal = edit(companion);
+            KEST_TRY(KestCore::Snapshot snapshot,
+                     *refusal ? store.saveCompanion(std::move(companion)) : store.snapshot());
+            return committedAll(std::move(snapshot));
         },
-        [self = QPointer{this}](const Result<void> &result) {
+        [self = QPointer{this}, refusal](const Result<void> &stored) {
+            const Result<void> &result = stored ? *refusal : stored;
             if (self != nullptr && !result) {
                 self->follow(); // what was to come does not
-                self->say(engineText(result.error().message));
+                self->say(tr("Not done: %1").arg(engineText(result.error().message)));
             }
         });
     return true;

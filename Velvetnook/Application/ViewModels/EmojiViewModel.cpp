@@ -250,8 +250,11 @@ QString EmojiViewModel::take(const std::string &text)
         QGuiApplication::clipboard()->setText(shown(text));
     }
     const auto records = m_model.recordsOfKind(KestCore::kEmojiKind);
-    if (auto changes = KestCore::usingEmoji(records, text, m_model.now())) {
+    auto changes = KestCore::usingEmoji(records, text, m_model.now());
+    if (changes) {
         m_model.changeRecords(*std::move(changes));
+    } else {
+        m_model.say(engineText(changes.error().message));
     }
     return shown(text);
 }
@@ -308,6 +311,7 @@ void EmojiViewModel::togglePin(int index)
     const auto records = m_model.recordsOfKind(KestCore::kEmojiKind);
     auto changes = KestCore::pinningEmoji(records, cell->text, m_model.now());
     if (!changes) {
+        m_model.say(engineText(changes.error().message));
         return;
     }
     m_model.changeRecords(*std::move(changes),

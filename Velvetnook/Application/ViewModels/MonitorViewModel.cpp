@@ -121,6 +121,7 @@ void MonitorViewModel::take(bool isNew)
         showApps();
         showProcesses();
         showReadings();
+        m_chart.follow();
     }
     emit changed();
 }

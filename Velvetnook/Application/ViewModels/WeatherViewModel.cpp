@@ -170,7 +170,7 @@ void WeatherViewModel::followPlace()
     if (place) {
         m_place.emplace(*std::move(place));
     }
-    if (!isSame) {
+    if (!isSame || !isAllowed()) { // what was asked for while it was allowed goes too
         ++m_generation;
         m_forecast.reset();
         m_failure.reset();
@@ -200,7 +200,14 @@ void WeatherViewModel::look()
     emit changed();
 }
 
-void WeatherViewModel::allow() { m_model.changeSetting(kAllowed, "true"); }
+void WeatherViewModel::setAllowed(bool isAllowed)
+{
+    if (isAllowed) {
+        m_model.changeSetting(kAllowed, "true");
+    } else {
+        m_model.removeSetting(kAllowed);
+    }
+}
 
 void WeatherViewModel::refresh()
 {

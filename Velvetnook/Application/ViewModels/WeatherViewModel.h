@@ -30,6 +30,8 @@ class WeatherViewModel : public QObject
     Q_PROPERTY(Velvetnook::WeatherPlaces *places READ places CONSTANT)
     Q_PROPERTY(bool isShown READ isShown WRITE setShown NOTIFY isShownChanged)
     Q_PROPERTY(bool isOnHome READ isOnHome WRITE setOnHome NOTIFY isShownChanged)
+    // Whether the forecast service may be asked.
+    Q_PROPERTY(bool isAllowed READ isAllowed WRITE setAllowed NOTIFY changed)
     Q_PROPERTY(QString availability READ availability NOTIFY changed)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY changed)
     Q_PROPERTY(bool hasForecast READ hasForecast NOTIFY changed)
@@ -61,6 +63,8 @@ public:
     bool isOnHome() const { return m_isOnHome; }
     void setShown(bool isShown);
     void setOnHome(bool isOnHome);
+    bool isAllowed() const;
+    void setAllowed(bool isAllowed);
     QString availability() const;
     bool isLoading() const { return m_isLoading; }
     bool hasForecast() const { return m_view.has_value(); }
@@ -79,8 +83,6 @@ public:
     QString footer() const;
     QString spoken() const;
 
-    // Lets the forecast service be asked from now on.
-    Q_INVOKABLE void allow();
     Q_INVOKABLE void refresh();
 
 signals:
@@ -92,7 +94,6 @@ private:
     struct Fetched;
 
     bool isWatched() const { return m_isShown || m_isOnHome; }
-    bool isAllowed() const;
     KestCore::Availability condition() const;
     void followPlace();
     void watch();

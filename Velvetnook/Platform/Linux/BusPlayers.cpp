@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Platform/Linux/BusPlayers.h"
 
+#include <QCoreApplication>
 #include <QDBusServiceWatcher>
+#include <QPointer>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <chrono>
@@ -30,7 +33,16 @@ BusPlayers::BusPlayers(QDBusConnection bus, QObject *parent)
     connect(&m_soon, &QTimer::timeout, this, &BusPlayers::read);
 }
 
-BusPlayers::~BusPlayers() = default;
+// The thread may be waiting for a player: another one waits for its end. The application does
+// not go before that.
+BusPlayers::~BusPlayers()
+{
+    m_end.request_stop();
+    if (m_reader) {
+        QThreadPool::globalInstance()->start(
+            [reader = std::shared_ptr{std::move(m_reader)}]() mutable { reader.reset(); });
+    }
+}
 
 void BusPlayers::begin()
 {
@@ -58,22 +70,35 @@ void BusPlayers::readSoon()
 Base::Serial<BusPlayers::Reader> &BusPlayers::reader()
 {
     if (!m_reader) {
-        m_reader = std::make_unique<Base::Serial<Reader>>(Reader{});
+        m_reader = std::make_unique<Base::Serial<Reader>>(Reader{.end = m_end.get_token()});
     }
     return *m_reader;
 }
 
-// The queue of this object dies with it, after its thread has ended.
+// Posted to the application: this may be gone when the thread answers.
 auto BusPlayers::onMainThread()
 {
-    return [this](auto call) {
+    return [owner = QPointer{this}, end = m_end.get_token()](auto call) {
+        if (end.stop_requested()) {
+            return;
+        }
         auto shared = std::make_shared<decltype(call)>(std::move(call));
-        QMetaObject::invokeMethod(this, [shared] { (*shared)(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [owner, shared] {
+                if (owner) {
+                    (*shared)();
+                }
+            },
+            Qt::QueuedConnection);
     };
 }
 
 Base::Result<void> BusPlayers::open(Reader &reader)
 {
+    if (reader.end.stop_requested()) {
+        return std::unexpected(Base::KestError::unavailable("Nobody asks any more"));
+    }
     if (!reader.bus) {
         KEST_TRY(reader.bus, MediaPlayers::open());
     }

@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <utility>
 
 class QDBusServiceWatcher;
@@ -19,8 +20,8 @@ namespace Velvetnook
 {
 
 // The players over MPRIS. Their signals arrive on the main loop; they are asked and driven on a
-// thread of its own, so one that does not answer holds nobody up. The thread comes into being
-// with the first question.
+// thread of its own, so one that does not answer holds nobody up, at the end of this neither.
+// The thread comes into being with the first question.
 class BusPlayers : public Players
 {
     Q_OBJECT
@@ -44,6 +45,7 @@ private slots:
 private:
     using Found = Base::Result<std::vector<MediaPlayers::Player>>;
     struct Reader {
+        std::stop_token end{}; // what is asked for after it is not done any more
         std::unique_ptr<MediaPlayers::PlayerBus> bus{};
     };
 
@@ -63,7 +65,8 @@ private:
     bool m_isPerforming = false;
     bool m_isReading = false;
     bool m_isAskedAgain = false;
-    std::unique_ptr<Base::Serial<Reader>> m_reader; // last, so that it ends first
+    std::stop_source m_end;
+    std::unique_ptr<Base::Serial<Reader>> m_reader;
 };
 
 } // namespace Velvetnook

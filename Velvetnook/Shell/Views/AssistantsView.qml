@@ -51,15 +51,6 @@ FocusScope {
         }
     }
 
-    Connections {
-        target: root.connections
-        function onWritten(title, isConnected, copy) {
-            const what = isConnected ? qsTr("%1 is connected.").arg(title)
-                                     : qsTr("%1 is not connected any more.").arg(title);
-            App.panel.showMessage(copy === "" ? what
-                : qsTr("%1 The file as it was: %2").arg(what).arg(copy));
-        }
-    }
     Loader {
         id: page
 

@@ -5,7 +5,8 @@ import QtQuick
 import Velvetnook.Application
 import Velvetnook.Shell
 
-// Where the weather is wanted: the place of the prayer times, or a city of its own.
+// Where the weather is wanted: the place of the prayer times, or a city of its own; and whether
+// the forecast is asked for at all.
 FocusScope {
     id: root
 
@@ -68,7 +69,23 @@ FocusScope {
         color: Theme.color.text2
         text: root.places.findings
     }
+    SettingsGroup {
+        visible: root.places.found.length === 0 && root.places.findings === ""
+        y: 96
+        width: parent.width
+
+        SettingsRow {
+            title: qsTr("Ask MET Norway for the forecast")
+            note: qsTr("While you look, over the network. It is told where, to about a kilometre, and nothing else.")
+            Toggle {
+                name: qsTr("Ask MET Norway for the forecast")
+                checked: App.weather.isAllowed
+                onToggled: checked => App.weather.isAllowed = checked
+            }
+        }
+    }
     ScrollBody {
+        visible: root.places.found.length > 0
         y: 82
         width: parent.width
         height: parent.height - y

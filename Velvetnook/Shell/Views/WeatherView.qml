@@ -102,7 +102,7 @@ FocusScope {
                 if (isUnset) {
                     root.page = "place";
                 } else if (availability === "permissionDenied") {
-                    root.model.allow();
+                    root.model.isAllowed = true;
                 } else {
                     root.model.refresh();
                 }

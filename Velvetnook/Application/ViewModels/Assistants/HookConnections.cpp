@@ -167,7 +167,7 @@ void HookConnections::look()
 void HookConnections::plan(const QString &tool, bool adds)
 {
     const auto *const found = Assistants::findHookTool(tool.toStdString());
-    if (found == nullptr) {
+    if (found == nullptr || m_isWriting) {
         return;
     }
     cancel();
@@ -203,28 +203,50 @@ void HookConnections::show(Base::Result<Assistants::PlannedChange> plan)
     emit planChanged();
 }
 
+// A file that is being written will be, whoever looks at it: its outcome is always told.
 void HookConnections::write()
 {
-    if (!m_plan || m_isBusy) {
+    if (!m_plan || isBusy()) {
         return;
     }
-    using Written = Base::Result<std::optional<std::filesystem::path>>;
-    inBackground([plan = *m_plan] { return Assistants::writeHooks(plan); },
-                 [this](const Written &copy) {
-                     if (!copy) {
-                         m_problem = engineText(copy.error().message);
-                         m_plan.reset();
-                         m_lines.clear();
-                         emit planChanged();
-                         return;
-                     }
-                     const QString kept =
-                         *copy ? QString::fromStdString((*copy)->filename().string())
-                               : QString{};
-                     emit written(toolTitle(), isConnecting(), kept);
-                     cancel();
-                     look();
-                 });
+    m_isWriting = true;
+    emit changed();
+    const QString done = isConnecting() ? tr("%1 is connected.").arg(toolTitle())
+                                        : tr("%1 is not connected any more.").arg(toolTitle());
+    QThreadPool::globalInstance()->start(
+        [guard = QPointer{this}, plan = *m_plan, generation = m_generation, done] {
+            QMetaObject::invokeMethod(
+                QCoreApplication::instance(),
+                [guard, generation, done, copy = Assistants::writeHooks(plan)] {
+                    if (guard) {
+                        guard->take(copy, guard->m_generation == generation, done);
+                    }
+                },
+                Qt::QueuedConnection);
+        });
+}
+
+void HookConnections::take(const Written &copy, bool isInFront, const QString &done)
+{
+    m_isWriting = false;
+    emit changed();
+    if (!copy && isInFront) {
+        m_problem = engineText(copy.error().message);
+        m_plan.reset();
+        m_lines.clear();
+        emit planChanged();
+        return;
+    }
+    if (!copy) {
+        emit told(engineText(copy.error().message));
+    } else if (*copy) {
+        emit told(tr("%1 The file as it first was: %2")
+                      .arg(done, QString::fromStdString((*copy)->filename().string())));
+    } else {
+        emit told(done);
+    }
+    cancel();
+    look();
 }
 
 void HookConnections::cancel()

@@ -40,7 +40,7 @@ public:
 
     QVariantList tools() const;
     bool isOpen() const { return m_isOpen; }
-    bool isBusy() const { return m_isBusy; }
+    bool isBusy() const { return m_isBusy || m_isWriting; }
     QString tool() const { return m_tool; }
     QString toolTitle() const;
     bool isConnecting() const { return m_change == Assistants::HookChange::connect; }
@@ -58,8 +58,8 @@ public:
 signals:
     void changed();
     void planChanged();
-    // `copy` is the name under which the old file lies beside it; empty where there was none.
-    void written(const QString &title, bool isConnected, const QString &copy);
+    // What became of a writing, also where its page was left meanwhile.
+    void told(const QString &message);
 
 private:
     enum class State : std::uint8_t { connected, partial, off, missing, error };
@@ -68,6 +68,7 @@ private:
         State state{};
         QString note{};
     };
+    using Written = Base::Result<std::optional<std::filesystem::path>>;
     struct Places {
         std::filesystem::path home{};
         std::filesystem::path kest{};
@@ -76,6 +77,7 @@ private:
     static std::vector<Connection> connectionsOf(const Places &places);
     static Connection connectionOf(const Assistants::HookTool &tool, const Places &places);
     void show(Base::Result<Assistants::PlannedChange> plan);
+    void take(const Written &copy, bool isInFront, const QString &done);
     template <class Work, class Take>
     void inBackground(Work work, Take take);
 
@@ -88,6 +90,7 @@ private:
     QString m_problem;
     bool m_isOpen = false;
     bool m_isBusy = false;
+    bool m_isWriting = false;       // which nothing takes back
     std::uint64_t m_generation = 0; // answers to what is not wanted any more are dropped
 };
 

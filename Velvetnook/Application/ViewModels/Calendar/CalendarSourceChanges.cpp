@@ -134,8 +134,12 @@ void CalendarPageViewModel::removeSource(const QString &path)
                 m_model.say(engineText(result.error().message));
                 return;
             }
-            emit told(tr("Taken off the list; the file stays"),
-                      [this, path] { store(path.toStdString()); });
+            // Nothing of the form: something may be typed there.
+            emit told(tr("Taken off the list; the file stays"), [this, path] {
+                m_model.changeState([path = path.toStdString()](KestCore::NativeState &state) {
+                    return KestCore::addCalendarSource(state.settings, path);
+                });
+            });
         });
 }
 

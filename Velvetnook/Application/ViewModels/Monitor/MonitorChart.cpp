@@ -98,6 +98,7 @@ void MonitorChart::open(const QString &metric)
     m_metric = Base::fromText<MetricID>(metric.toStdString()).value_or(MetricID::cpu);
     m_isOpen = true;
     m_columns.clear();
+    m_pointedAt.reset();
     choose(-1);
     read();
 }
@@ -107,6 +108,7 @@ void MonitorChart::setHours(int hours)
     if (m_hours != hours && hours > 0) {
         m_hours = hours;
         m_columns.clear();
+        m_pointedAt.reset();
         choose(-1);
         read();
     }
@@ -127,10 +129,25 @@ void MonitorChart::read()
     if (!m_isOpen) {
         return;
     }
-    m_to = m_model.now();
-    m_from = m_to - Base::Seconds{3600.0 * m_hours};
     m_isLoading = m_service.hasBegun();
     m_problem.clear();
+    ask();
+}
+
+// A step at a time, and never more often than a column has room for.
+void MonitorChart::follow()
+{
+    const Base::Instant now = m_model.now();
+    const bool isMoved = now < m_to || now - m_to >= Base::Seconds{3600.0 * m_hours / kColumns};
+    if (m_isOpen && isMoved) {
+        ask(); // what is shown stays until the answer is there
+    }
+}
+
+void MonitorChart::ask()
+{
+    m_to = m_model.now();
+    m_from = m_to - Base::Seconds{3600.0 * m_hours};
     emit changed();
     m_service.readChart({.app = std::string{MonitorCore::kSystemKey},
                          .metric = m_metric,
@@ -147,12 +164,36 @@ void MonitorChart::read()
 void MonitorChart::take(ChartAnswer answer)
 {
     m_isLoading = false;
+    const ChartColumn *const before = chosen();
+    const auto moment = before ? std::optional{before->highest.date} : std::nullopt;
     m_columns = std::move(answer.columns);
     m_bytes = answer.bytes;
     m_problem = engineText(answer.problem);
-    const auto highest = std::ranges::max_element(m_columns, {}, &ChartColumn::peak);
     emit changed();
-    choose(highest == m_columns.end() ? -1 : static_cast<int>(highest - m_columns.begin()));
+    const int column = columnOfMark();
+    if (column >= 0 && m_columns[static_cast<std::size_t>(column)].highest.date == moment) {
+        m_column = column; // who was highest then is known
+        emit columnChanged();
+    } else {
+        choose(column);
+    }
+}
+
+// That of the moment that the user pointed at, else the highest.
+int MonitorChart::columnOfMark() const
+{
+    if (m_columns.empty()) {
+        return -1;
+    }
+    const auto found =
+        m_pointedAt
+            ? std::ranges::min_element(m_columns, {},
+                                       [this](const ChartColumn &column) {
+                                           const auto from = column.highest.date;
+                                           return std::abs((from - *m_pointedAt).count());
+                                       })
+            : std::ranges::max_element(m_columns, {}, &ChartColumn::peak);
+    return static_cast<int>(found - m_columns.begin());
 }
 
 QString MonitorChart::availability() const
@@ -233,6 +274,8 @@ void MonitorChart::setColumn(int column)
 {
     if (column != m_column) {
         choose(column);
+        const ChartColumn *const pointed = chosen();
+        m_pointedAt = pointed ? std::optional{pointed->highest.date} : std::nullopt;
     }
 }
 

@@ -12,6 +12,8 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include <optional>
+
 namespace Velvetnook
 {
 
@@ -20,7 +22,7 @@ class Formatting;
 class MonitorService;
 
 // What was recorded of one metric, as a chart. The chosen column is the highest until the user
-// points at another, and says who was highest then.
+// points at another, which then stays chosen, and says who was highest then.
 class MonitorChart : public QObject
 {
     Q_OBJECT
@@ -70,11 +72,13 @@ public:
     QString markCauses() const { return m_causes; }
     QString footer() const;
 
-    // What is read is read now, and again when it is asked for.
+    // What is read is read now, and again when it is asked for or followed.
     Q_INVOKABLE void open(const QString &metric);
     Q_INVOKABLE void pointAt(double part); // 0 to 1 of the chart's time
     Q_INVOKABLE void step(int distance);
     Q_INVOKABLE void refresh();
+    // Reads anew once the time has moved on by a column. For who shows the chart.
+    void follow();
     // Lets go of what was read.
     Q_INVOKABLE void leave();
 
@@ -84,7 +88,9 @@ signals:
 
 private:
     void read();
+    void ask();
     void take(ChartAnswer answer);
+    int columnOfMark() const;
     void choose(int column);
     void askCauses();
     const ChartColumn *chosen() const;
@@ -106,6 +112,7 @@ private:
     int m_causesAsked = 0;
     bool m_isLoading = false;
     bool m_isOpen = false;
+    std::optional<Base::Instant> m_pointedAt; // by the user; else the highest is chosen
 };
 
 } // namespace Velvetnook
