@@ -1961,6 +1961,10 @@
         <source>%1: growing memory</source>
         <translation>%1: ذاكرة تنمو</translation>
     </message>
+    <message>
+        <source>The clipboard’s key is being made by %1. Try again.</source>
+        <translation>يُنشئ %1 مفتاح الحافظة الآن. حاول مرة أخرى.</translation>
+    </message>
 </context>
 <context>
     <name>EventGroup</name>

@@ -129,6 +129,8 @@ constexpr Pattern kPatterns[]{
     {"^Unknown time zone \"(.*)\"$", QT_TRANSLATE_NOOP("Engine", "There is no time zone “%1”")},
     {"^(.*) holds at most 1,000,000 bytes$",
      QT_TRANSLATE_NOOP("Engine", "%1 holds at most 1,000,000 bytes")},
+    {"^The clipboard's key is in use by (.*)$",
+     QT_TRANSLATE_NOOP("Engine", "The clipboard’s key is being made by %1. Try again.")},
     {"^(/.*): It is no file of your own$",
      QT_TRANSLATE_NOOP("Engine", "%1: It is no file of your own")},
     {"^(/.*): It is larger than a megabyte$",

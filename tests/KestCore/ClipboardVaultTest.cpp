@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Clipboard/ClipboardVault.h"
 
+#include "Base/FileLock.h"
 #include "KestCore/Clipboard/ClipboardKey.h"
 #include "tests/TemporaryFolder.h"
 
@@ -351,7 +352,11 @@ public:
         if (failure) {
             return std::unexpected(*failure);
         }
-        return account == "clipboard.key" ? kept : std::nullopt;
+        const auto before = account == "clipboard.key" ? kept : std::nullopt;
+        if (madeByAnother) {
+            kept = std::exchange(madeByAnother, std::nullopt);
+        }
+        return before;
     }
     Base::SecretResult<> write(std::string_view, std::span<const std::uint8_t> secret) override
     {
@@ -368,6 +373,7 @@ public:
     }
 
     std::optional<Base::SecretBytes> kept{};
+    std::optional<Base::SecretBytes> madeByAnother{}; // right behind the first look
     std::optional<Base::SecretFailure> failure{};
     bool refusesWrites = false;
 };
@@ -377,7 +383,7 @@ public:
 TEST(ClipboardKey, IsMadeOnceAndOnlyWhereItIsKept)
 {
     const TemporaryFolder folder;
-    const auto store = StateStore::open(folder.database()).value();
+    const auto store = folder.database();
     TestSecrets secrets;
     EXPECT_FALSE(keptClipboardKey(secrets).value());
     EXPECT_FALSE(secrets.kept) << "looking makes no key";
@@ -397,6 +403,33 @@ TEST(ClipboardKey, IsMadeOnceAndOnlyWhereItIsKept)
     secrets.failure->kind = Base::SecretFailure::Kind::noService;
     EXPECT_EQ(availabilityOf(clipboardKey(secrets, store).error().kind),
               Availability::unconfigured);
+}
+
+TEST(ClipboardKey, OfTwoFirstUsesOneMakesIt)
+{
+    const TemporaryFolder folder;
+    TestSecrets secrets;
+    const Base::SecretBytes another(32, 7);
+    secrets.madeByAnother = another;
+    const auto key = clipboardKey(secrets, folder.database());
+    ASSERT_TRUE(key);
+    EXPECT_TRUE(std::ranges::equal(key->bytes(), another));
+    EXPECT_EQ(secrets.kept, another);
+}
+
+TEST(ClipboardKey, IsNotMadeWhileAnotherProgramMakesOne)
+{
+    const TemporaryFolder folder;
+    const auto lock = Base::FileLock::take(folder.path() / "kest.key.lock", "The key",
+                                           std::chrono::milliseconds{0});
+    ASSERT_TRUE(lock);
+    TestSecrets secrets;
+    std::stop_source stop;
+    stop.request_stop(); // who waits for the other one can be told not to
+    const auto key = clipboardKey(secrets, folder.database(), stop.get_token());
+    ASSERT_FALSE(key);
+    EXPECT_THAT(key.error().message, testing::HasSubstr("The clipboard's key is in use by"));
+    EXPECT_FALSE(secrets.kept);
 }
 
 } // namespace KestCoreTests

@@ -90,7 +90,9 @@ protected:
     ClipboardLiveTest()
     {
         desktop.watch = &XClipboardWatch::begin;
-        desktop.openKeyring = [this](bool mayAsk) { return keyring.open(mayAsk); };
+        desktop.openKeyring = [this](bool mayAsk, const std::stop_token &) {
+            return keyring.open(mayAsk);
+        };
         begin();
     }
     void begin()

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <stop_token>
 
 namespace Velvetnook
 {
@@ -39,8 +40,9 @@ struct ClipboardDesktop {
 
     // Both are called on the thread of the watch. Null when it cannot be watched.
     std::function<std::unique_ptr<ClipboardWatch>(Changed, Offer)> watch{};
-    // Called on a thread of its own. It may ask the user to unlock the keyring, or not.
-    std::function<Keyring(bool mayAsk)> openKeyring{};
+    // Called on a thread of its own. It may ask the user to unlock the keyring, or not; what
+    // it gives stops waiting for an answer when `stop` is requested.
+    std::function<Keyring(bool mayAsk, const std::stop_token &stop)> openKeyring{};
     // Presses the keys that paste, once another window has the keyboard again.
     std::function<void()> paste{};
     // The names that the windows of running applications go by.

@@ -31,8 +31,9 @@ QStringList runningNames()
 ClipboardDesktop clipboardServices(QObject *owner)
 {
     ClipboardDesktop desktop;
-    desktop.openKeyring = [](bool mayAsk) {
-        return Keyring::open(mayAsk ? Keyring::Prompts::allowed : Keyring::Prompts::never);
+    desktop.openKeyring = [](bool mayAsk, const std::stop_token &stop) {
+        return Keyring::open(mayAsk ? Keyring::Prompts::allowed : Keyring::Prompts::never,
+                             stop);
     };
     if (Xcb::connection() == nullptr) {
         return desktop; // nobody but the program in front is told of what is copied
