@@ -1962,6 +1962,10 @@
         <translation>%1: ذاكرة تنمو</translation>
     </message>
     <message>
+        <source>The list of recent files cannot be read.</source>
+        <translation>تتعذّر قراءة قائمة الملفات الأخيرة.</translation>
+    </message>
+    <message>
         <source>The clipboard’s key is being made by %1. Try again.</source>
         <translation>يُنشئ %1 مفتاح الحافظة الآن. حاول مرة أخرى.</translation>
     </message>

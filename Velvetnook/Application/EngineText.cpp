@@ -107,6 +107,7 @@ namespace
                       "There is no keyring (Secret Service) here to keep the key in."),
     QT_TRANSLATE_NOOP("Engine",
                       "There is no default keyring to keep the key in. Make one first."),
+    QT_TRANSLATE_NOOP("Engine", "The list of recent files cannot be read."),
     QT_TRANSLATE_NOOP("Engine", "Only http:// and https:// addresses can be saved"),
     QT_TRANSLATE_NOOP("Engine", "An address has no spaces, backslashes or control characters"),
     QT_TRANSLATE_NOOP("Engine", "This address names no website"),
