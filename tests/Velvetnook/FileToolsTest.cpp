@@ -4,6 +4,7 @@
 #include "RunningModel.h"
 #include "Velvetnook/Application/App.h"
 #include "Velvetnook/Application/FileGlance.h"
+#include "Velvetnook/Application/FileWatch.h"
 #include "Velvetnook/Application/RecentFiles.h"
 #include "Velvetnook/Application/ViewModels/FilesViewModel.h"
 #include "Velvetnook/Application/ViewModels/LinksViewModel.h"
@@ -15,6 +16,7 @@
 #include <QFile>
 #include <QImage>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <sys/stat.h>
 
@@ -102,6 +104,37 @@ TEST(RecentFilesTest, TellsOfADamagedList)
     const auto unread = readRecentFiles(QString::fromStdString(folder.path().string()), 10);
     ASSERT_FALSE(unread);
     EXPECT_EQ(unread.error().message, "The list of recent files cannot be read.");
+}
+
+// Also what changes before the watch has begun, as that does not hold up who asks for it; and
+// nothing of a path that is wanted no longer.
+TEST(FileWatchTest, TellsOfWhatIsWantedOnceForAll)
+{
+    const RunningModel running;
+    const TemporaryFolder folder;
+    const auto at = [&](const char *name) {
+        return QString::fromStdString((folder.path() / name).string());
+    };
+    fs::create_directory(folder.path() / "one");
+    fs::create_directory(folder.path() / "other");
+    FileWatch watch;
+    QSignalSpy changed{&watch, &FileWatch::changed};
+    watch.watch({at("one"), at("nowhere")});
+    write(folder.path() / "one" / "a");
+    EXPECT_TRUE(RunningModel::waitUntil([&] { return changed.count() > 0; }));
+    changed.clear();
+    write(folder.path() / "one" / "b");
+    EXPECT_TRUE(RunningModel::waitUntil([&] { return changed.count() > 0; }));
+    watch.watch({at("other")});
+    changed.clear();
+    write(folder.path() / "one" / "c");
+    write(folder.path() / "other" / "d");
+    EXPECT_TRUE(RunningModel::waitUntil([&] { return changed.count() > 0; }));
+    watch.stop();
+    changed.clear();
+    write(folder.path() / "other" / "e");
+    QTest::qWait(500);
+    EXPECT_EQ(changed.count(), 0);
 }
 
 TEST(FileGlanceTest, TellsSizesAsPeopleDo)
