@@ -60,7 +60,7 @@ public:
 ClipboardDesktop quietDesktop(std::optional<Failure> failure = {})
 {
     ClipboardDesktop desktop;
-    desktop.watch = [](const auto &, const auto &) { return std::make_unique<QuietWatch>(); };
+    desktop.watch = [](const auto &) { return std::make_unique<QuietWatch>(); };
     desktop.openKeyring = [failure](bool,
                                     const std::stop_token &) -> ClipboardDesktop::Keyring {
         if (failure) {

@@ -29,7 +29,12 @@ class TestPasteboard : public Pasteboard
 {
 public:
     std::int64_t changeCount() override { return count; }
-    std::vector<std::string> types() override { return markers; }
+    Result<std::vector<std::string>> types() override
+    {
+        ++asked;
+        return asked > silences ? Result<std::vector<std::string>>{markers}
+                                : std::unexpected(KestError::unavailable("silent"));
+    }
     std::optional<std::string> marker(std::string_view) override { return hint; }
     std::optional<std::string> ownerApplication() override { return owner; }
     Result<std::optional<std::vector<ClipboardFileReference>>> readFiles() override
@@ -79,6 +84,8 @@ public:
     Result<std::optional<Bytes>> image{};
     std::optional<std::string> text{"there before"};
     bool isBroken = false;
+    int asked = 0;    // which forms there are
+    int silences = 0; // so often there is no answer
     int reads = 0;
     int copiesWhileRead = 0;
     bool copiesAfterWrite = false;
@@ -163,6 +170,30 @@ TEST_F(ClipboardVaultTest, KeepsWhatIsCopiedOnceAndOnlyWhileItRecords)
                                       "link  https://example.org/a?b ", "text one"));
 }
 
+// A program that is busy for a while has not copied nothing.
+TEST_F(ClipboardVaultTest, AsksAgainWhoDoesNotAnswer)
+{
+    board.silences = ClipboardReader::kMostTries - 1;
+    board.copy("late");
+    for (int tried = 1; tried < ClipboardReader::kMostTries; ++tried) {
+        EXPECT_EQ(poll(), Poll::unchanged);
+    }
+    EXPECT_EQ(poll(), Poll::kept);
+    for (const char *text : {"never", "never either"}) {
+        SCOPED_TRACE(text);
+        board.asked = 0;
+        board.silences = 100;
+        board.copy(text);
+        for (int tried = 1; tried < ClipboardReader::kMostTries; ++tried) {
+            EXPECT_EQ(poll(), Poll::unchanged);
+        }
+        EXPECT_EQ(pollError(), "silent");
+        EXPECT_EQ(poll(), Poll::unchanged);
+        EXPECT_EQ(board.asked, ClipboardReader::kMostTries);
+    }
+    EXPECT_THAT(listed(), ElementsAre("text late"));
+}
+
 TEST_F(ClipboardVaultTest, ReadsNothingOfWhatMustNotBeKept)
 {
     set("clipboard.exclusions", "org.one, org.two ,,org.three");
@@ -245,7 +276,7 @@ TEST_F(ClipboardVaultTest, SaysWhyACopyCannotBeKeptAndWaitsForAnother)
              Case{"Clipboard image is too large or could not be read.",
                   [&] { board.image = Bytes(4'000'001, 1); }},
              Case{"Clipboard image is too large or could not be read.",
-                  [&] { board.image = std::unexpected(KestError::unavailable("gone")); }},
+                  [&] { board.image = std::unexpected(KestError::invalidData("odd")); }},
              Case{"Clipboard image could not be decoded", [&] { board.image = Bytes{0}; }},
              Case{"These clipboard file references could not be saved.",
                   [&] { board.files = {31, ClipboardFileReference{"n", {1}}}; }},

@@ -26,6 +26,18 @@ QStringList runningNames()
     return names;
 }
 
+// The windows of one connection have the first part of their number in common.
+bool isOurs()
+{
+    xcb_connection_t *server = Xcb::connection();
+    const auto owner =
+        Xcb::reply(xcb_get_selection_owner_reply, server,
+                   xcb_get_selection_owner(server, Xcb::atom(server, "CLIPBOARD")));
+    const auto *setup = xcb_get_setup(server);
+    return owner && owner->owner != XCB_WINDOW_NONE &&
+           (owner->owner & ~setup->resource_id_mask) == setup->resource_id_base;
+}
+
 } // namespace
 
 ClipboardDesktop clipboardServices(QObject *owner)
@@ -39,6 +51,7 @@ ClipboardDesktop clipboardServices(QObject *owner)
         return desktop; // nobody but the program in front is told of what is copied
     }
     desktop.watch = &XClipboardWatch::begin;
+    desktop.isOurs = &isOurs;
     desktop.applications = &runningNames;
     if (XPaste::isPossible()) {
         desktop.paste = [paste = new XPaste{owner}] { paste->begin(); };
