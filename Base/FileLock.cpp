@@ -39,7 +39,7 @@ void writeHolder(int descriptor)
 } // namespace
 
 Result<FileLock> FileLock::take(const std::filesystem::path &file, std::string_view what,
-                                std::chrono::milliseconds patience)
+                                std::chrono::milliseconds patience, const std::stop_token &stop)
 {
     FileDescriptor descriptor{::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)};
     if (!descriptor.isOpen()) {
@@ -50,7 +50,7 @@ Result<FileLock> FileLock::take(const std::filesystem::path &file, std::string_v
         if (errno != EWOULDBLOCK && errno != EINTR) {
             return std::unexpected(fileError(file, {errno, std::generic_category()}));
         }
-        if (std::chrono::steady_clock::now() >= giveUpAt) {
+        if (std::chrono::steady_clock::now() >= giveUpAt || stop.stop_requested()) {
             const auto holder = readFile(file).value_or("");
             return std::unexpected(KestError::unavailable(
                 std::string{what} + " is in use by " +

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <stop_token>
 #include <string>
 
 namespace Base
@@ -17,11 +18,12 @@ namespace Base
 class FileLock
 {
 public:
-    // Takes the lock, asking again until `patience` is over. Then fails with unavailable:
-    // "WHAT is in use by NAME (process ID)".
+    // Takes the lock, asking again until `patience` is over or `stop` is requested. Then fails
+    // with unavailable: "WHAT is in use by NAME (process ID)".
     [[nodiscard]] static Result<FileLock> take(const std::filesystem::path &file,
                                                std::string_view what,
-                                               std::chrono::milliseconds patience);
+                                               std::chrono::milliseconds patience,
+                                               const std::stop_token &stop = {});
 
 private:
     explicit FileLock(FileDescriptor descriptor) : m_descriptor(std::move(descriptor)) {}

@@ -49,12 +49,13 @@ struct Unreference {
 template <class T>
 using Owned = std::unique_ptr<T, Unreference>;
 
-// Gives up the calls that are handed `cancellable()` when the time is over.
+// Gives up the calls that are handed `cancellable()` when the time is over, or at once when
+// `stop` is requested.
 class Deadline
 {
 public:
-    explicit Deadline(std::chrono::seconds patience)
-        : m_cancellable(g_cancellable_new()),
+    Deadline(std::chrono::seconds patience, const std::stop_token &given)
+        : m_cancellable(g_cancellable_new()), m_givenUp(given, Cancel{m_cancellable.get()}),
           m_watch([this, patience](const std::stop_token &stop) {
               std::unique_lock lock{m_mutex};
               if (!m_wake.wait_for(lock, stop, patience, [&] { return false; }) &&
@@ -71,7 +72,13 @@ public:
     GCancellable *cancellable() const { return m_cancellable.get(); }
 
 private:
+    struct Cancel {
+        GCancellable *cancellable;
+        void operator()() const { g_cancellable_cancel(cancellable); }
+    };
+
     Owned<GCancellable> m_cancellable;
+    std::stop_callback<Cancel> m_givenUp;
     std::mutex m_mutex;
     std::condition_variable_any m_wake;
     std::jthread m_watch; // last, so that it is joined before what it uses goes
@@ -116,7 +123,10 @@ std::unexpected<SecretFailure> isLocked()
 class LibsecretStore : public Base::SecretStore
 {
 public:
-    explicit LibsecretStore(Prompts prompts) : m_prompts(prompts) {}
+    LibsecretStore(Prompts prompts, std::stop_token stop)
+        : m_prompts(prompts), m_stop(std::move(stop))
+    {
+    }
 
     SecretResult<std::optional<SecretBytes>> read(std::string_view account) override;
     SecretResult<> write(std::string_view account,
@@ -136,6 +146,7 @@ private:
                                                          const Deadline &deadline) const;
 
     Prompts m_prompts;
+    std::stop_token m_stop;
 };
 
 Owned<GHashTable> attributesOf(std::string_view account)
@@ -219,7 +230,7 @@ LibsecretStore::openCollection(SecretService *service, const Deadline &deadline)
 
 SecretResult<std::optional<SecretBytes>> LibsecretStore::read(std::string_view account)
 {
-    const Deadline deadline{patience()};
+    const Deadline deadline{patience(), m_stop};
     KEST_TRY(const auto keeper, service(deadline));
     KEST_TRY(const auto item, find(keeper.get(), account, deadline));
     if (item == nullptr) {
@@ -240,7 +251,7 @@ SecretResult<std::optional<SecretBytes>> LibsecretStore::read(std::string_view a
 SecretResult<> LibsecretStore::write(std::string_view account,
                                      std::span<const std::uint8_t> secret)
 {
-    const Deadline deadline{patience()};
+    const Deadline deadline{patience(), m_stop};
     KEST_TRY(const auto keeper, service(deadline));
     KEST_TRY(const auto collection, openCollection(keeper.get(), deadline));
     const auto attributes = attributesOf(account);
@@ -260,7 +271,7 @@ SecretResult<> LibsecretStore::write(std::string_view account,
 SecretResult<> LibsecretStore::erase(std::string_view account)
 {
     constexpr int kMostCopies = 100; // in other collections; a service may also lie
-    const Deadline deadline{patience()};
+    const Deadline deadline{patience(), m_stop};
     KEST_TRY(const auto keeper, service(deadline));
     for (int copies = 0; copies < kMostCopies; ++copies) {
         KEST_TRY(const auto item, find(keeper.get(), account, deadline));
@@ -283,9 +294,9 @@ SecretResult<> LibsecretStore::erase(std::string_view account)
 } // namespace Keyring
 
 extern "C" [[gnu::visibility("default")]] Base::SecretStore *
-kestMakeSecretStore(Keyring::Prompts prompts);
+kestMakeSecretStore(Keyring::Prompts prompts, const std::stop_token &stop);
 
-Base::SecretStore *kestMakeSecretStore(Keyring::Prompts prompts)
+Base::SecretStore *kestMakeSecretStore(Keyring::Prompts prompts, const std::stop_token &stop)
 {
-    return new Keyring::LibsecretStore{prompts};
+    return new Keyring::LibsecretStore{prompts, stop};
 }

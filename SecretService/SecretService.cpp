@@ -18,14 +18,15 @@ Base::SecretFailure missing(const std::string &reason)
 
 } // namespace
 
-Base::SecretResult<std::unique_ptr<Base::SecretStore>> open(Prompts prompts)
+Base::SecretResult<std::unique_ptr<Base::SecretStore>> open(Prompts prompts,
+                                                            const std::stop_token &stop)
 {
     const auto symbol = Base::loadFromModule("KestSecretService.so", "kestMakeSecretStore");
     if (!symbol) {
         return std::unexpected(missing(symbol.error()));
     }
     const auto make = reinterpret_cast<MakeSecretStore *>(*symbol);
-    return std::unique_ptr<Base::SecretStore>{make(prompts)};
+    return std::unique_ptr<Base::SecretStore>{make(prompts, stop)};
 }
 
 } // namespace Keyring

@@ -56,7 +56,7 @@ std::invoke_result_t<Work, ClipboardHistory &> withHistory(const Session &sessio
     KEST_TRY(auto key, orRefuse(KestCore::keptClipboardKey(*secrets)));
     KEST_TRY(auto store, session.openStore());
     if (!key) {
-        KEST_TRY(key, orRefuse(KestCore::clipboardKey(*secrets, store)));
+        KEST_TRY(key, orRefuse(KestCore::clipboardKey(*secrets, session.databaseFile())));
     }
     ClipboardHistory history{store, *std::move(key)};
     KEST_CHECK(history.applyRetention(Base::wallClock()));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Clipboard/ClipboardKey.h"
 
+#include "Base/FileLock.h"
+
 namespace KestCore
 {
 
@@ -22,9 +24,21 @@ Base::SecretResult<std::optional<Base::AesKey>> keptClipboardKey(Base::SecretSto
 }
 
 Base::SecretResult<Base::AesKey> clipboardKey(Base::SecretStore &secrets,
-                                              const StateStore & /*owned*/)
+                                              const std::filesystem::path &database,
+                                              const std::stop_token &stop)
 {
     KEST_TRY(auto kept, keptClipboardKey(secrets));
+    if (kept) {
+        return *std::move(kept);
+    }
+    const auto lock =
+        Base::FileLock::take(std::filesystem::path{database}.replace_extension("key.lock"),
+                             "The clipboard's key", kClipboardKeyPatience, stop);
+    if (!lock) {
+        return std::unexpected(Base::SecretFailure{.kind = Base::SecretFailure::Kind::failed,
+                                                   .message = lock.error().message});
+    }
+    KEST_TRY(kept, keptClipboardKey(secrets)); // somebody may have made one meanwhile
     if (kept) {
         return *std::move(kept);
     }

@@ -6,6 +6,7 @@
 #include "KestCore/Models/UtilityPayloads.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace KestCore
 {
@@ -58,9 +59,10 @@ ClipboardPayload clipboardTextPayload(std::string text)
 }
 
 ClipboardReader::ClipboardReader(Pasteboard &pasteboard, ImageCodec *codec,
-                                 std::optional<std::int64_t> seenChange)
+                                 std::optional<std::int64_t> seenChange,
+                                 std::shared_ptr<OwnCopy> own)
     : m_pasteboard(pasteboard), m_codec(codec),
-      m_seenChange(seenChange ? *seenChange : pasteboard.changeCount())
+      m_seenChange(seenChange ? *seenChange : pasteboard.changeCount()), m_own(std::move(own))
 {
 }
 
@@ -74,8 +76,25 @@ Result<ClipboardReader::Reading> ClipboardReader::read(const ClipboardSettings &
     if (change == m_seenChange) {
         return Reading{.found = Found::nothingNew};
     }
-    m_seenChange = change;
-    if (isExcluded(settings)) {
+    const std::int64_t before = std::exchange(m_seenChange, change);
+    auto reading = readChange(change, settings);
+    if (reading || reading.error().kind != KestError::Kind::unavailable) {
+        return reading;
+    }
+    m_unanswered = std::exchange(m_triedChange, change) == change ? m_unanswered + 1 : 1;
+    if (m_unanswered < kMostTries) {
+        m_seenChange = before;
+        return Reading{.found = Found::unanswered};
+    }
+    return reading;
+}
+
+Result<ClipboardReader::Reading> ClipboardReader::readChange(std::int64_t change,
+                                                             const ClipboardSettings &settings)
+{
+    const std::string ownBefore = m_own->last();
+    KEST_TRY(const bool isLeftOut, isExcluded(settings));
+    if (isLeftOut) {
         return Reading{.found = Found::excluded};
     }
     std::optional<ClipboardPayload> payload;
@@ -89,10 +108,10 @@ Result<ClipboardReader::Reading> ClipboardReader::read(const ClipboardSettings &
         return Reading{.found = Found::empty};
     }
     // Told by its content: the system may tell of our own copy late, after another one.
-    if (fingerprint(*payload) == m_ownWrite) {
+    if (m_own->fingerprintOf(*payload) == m_own->last()) {
         return Reading{.found = Found::own};
     }
-    m_ownWrite.clear();
+    m_own->forget(ownBefore); // not what was put there meanwhile
     KEST_CHECK(prepareImage(*payload));
     Reading reading{.found = Found::content, .content = std::move(payload)};
     payload.reset();
@@ -100,9 +119,9 @@ Result<ClipboardReader::Reading> ClipboardReader::read(const ClipboardSettings &
 }
 
 // Asks for marks only: of what must not be kept, not a byte is read.
-bool ClipboardReader::isExcluded(const ClipboardSettings &settings)
+Result<bool> ClipboardReader::isExcluded(const ClipboardSettings &settings)
 {
-    const auto types = m_pasteboard.types();
+    KEST_TRY(const auto types, m_pasteboard.types());
     const auto isThere = [&](std::string_view type) {
         return std::ranges::find(types, type) != types.end();
     };
@@ -131,7 +150,8 @@ Result<void> ClipboardReader::take(std::optional<ClipboardPayload> &payload)
     }
     auto image = m_pasteboard.readImage(ClipboardPayload::kLargestImage);
     if (!image) {
-        return refuse(kImageNotTaken);
+        const bool isAnswered = image.error().kind != KestError::Kind::unavailable;
+        return isAnswered ? refuse(kImageNotTaken) : std::unexpected(image.error());
     }
     std::optional<Base::Bytes> &taken = *image;
     if (taken && !taken->empty()) {
@@ -166,17 +186,38 @@ Result<void> ClipboardReader::write(const ClipboardPayload &payload)
     }
     // Set before the write, which may already tell of itself. The change is not taken as seen:
     // by now it may be somebody else's.
-    m_ownWrite = fingerprint(payload);
+    m_own->put(payload);
     if (!m_pasteboard.write(payload)) {
-        m_ownWrite.clear();
+        m_own->forget(m_own->last());
         return refuse(kNotCopiedBack);
     }
     return {};
 }
 
-std::string ClipboardReader::fingerprint(const ClipboardPayload &payload) const
+void OwnCopy::put(const ClipboardPayload &payload)
 {
-    return ClipboardCipher::fingerprint(payload, m_fingerprintKey);
+    std::string fingerprint = fingerprintOf(payload);
+    const std::scoped_lock lock{m_mutex};
+    m_last = std::move(fingerprint);
+}
+
+void OwnCopy::forget(const std::string &fingerprint)
+{
+    const std::scoped_lock lock{m_mutex};
+    if (m_last == fingerprint) {
+        m_last.clear();
+    }
+}
+
+std::string OwnCopy::last() const
+{
+    const std::scoped_lock lock{m_mutex};
+    return m_last;
+}
+
+std::string OwnCopy::fingerprintOf(const ClipboardPayload &payload) const
+{
+    return ClipboardCipher::fingerprint(payload, m_key);
 }
 
 } // namespace KestCore

@@ -24,6 +24,7 @@ ClipboardVault::Poll pollOf(ClipboardReader::Found found)
         return ClipboardVault::Poll::own;
     case content:
         return ClipboardVault::Poll::kept;
+    case unanswered:
     case nothingNew:
         break;
     }

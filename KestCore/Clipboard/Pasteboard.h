@@ -14,8 +14,9 @@ namespace KestCore
 {
 
 // The system's clipboard, as the vault sees it. What is not on offer is nothing; what is on
-// offer but cannot be read is an error. No more than `most` + 1 bytes need be read: enough to
-// see that the content is too large, and a copied film does not fill the memory.
+// offer but cannot be read is an error, and unavailable where its owner does not answer. No
+// more than `most` + 1 bytes need be read: enough to see that the content is too large, and a
+// copied film does not fill the memory.
 class Pasteboard
 {
 public:
@@ -27,7 +28,7 @@ public:
     // Another number whenever something was copied.
     virtual std::int64_t changeCount() = 0;
     // The names of the forms on offer, markers among them.
-    virtual std::vector<std::string> types() = 0;
+    [[nodiscard]] virtual Result<std::vector<std::string>> types() = 0;
     // What a marker says; nothing when that cannot be read.
     virtual std::optional<std::string> marker(std::string_view type) = 0;
     // The application that copied, where the system tells.

@@ -20,6 +20,12 @@ namespace
 
 constexpr qint64 kLargestList = 16'000'000; // bytes
 
+std::unexpected<Base::KestError> unreadable()
+{
+    return std::unexpected(
+        Base::KestError::unavailable("The list of recent files cannot be read."));
+}
+
 std::optional<RecentFile> bookmarkFrom(QXmlStreamReader &reader)
 {
     const QXmlStreamAttributes marks = reader.attributes();
@@ -41,9 +47,7 @@ std::optional<RecentFile> bookmarkFrom(QXmlStreamReader &reader)
             --depth;
         }
     }
-    // One that breaks off may have been marked behind the break.
-    const bool isWhole = depth == 0;
-    return isWhole && !isPrivate && !file.path.isEmpty() ? std::optional{file} : std::nullopt;
+    return !isPrivate && !file.path.isEmpty() ? std::optional{file} : std::nullopt;
 }
 
 } // namespace
@@ -54,9 +58,12 @@ QString recentFileList()
            QStringLiteral("/recently-used.xbel");
 }
 
-std::vector<RecentFile> recentFilesIn(const QByteArray &list, std::size_t most)
+Base::Result<std::vector<RecentFile>> recentFilesIn(const QByteArray &list, std::size_t most)
 {
     std::vector<RecentFile> files;
+    if (list.isEmpty()) {
+        return files;
+    }
     QXmlStreamReader reader{list};
     while (!reader.atEnd()) {
         reader.readNext();
@@ -65,6 +72,9 @@ std::vector<RecentFile> recentFilesIn(const QByteArray &list, std::size_t most)
                 files.push_back(*std::move(file));
             }
         }
+    }
+    if (reader.hasError()) {
+        return unreadable();
     }
     std::ranges::stable_sort(files, std::greater{}, &RecentFile::usedMs);
     std::set<QString> seen;
@@ -80,15 +90,11 @@ Base::Result<std::vector<RecentFile>> readRecentFiles(const QString &list, std::
     if (!file.exists()) {
         return std::vector<RecentFile>{};
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        return std::unexpected(Base::KestError::unavailable(
-            (list + QStringLiteral(": ") + file.errorString()).toStdString()));
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestList) {
+        return unreadable();
     }
-    if (file.size() > kLargestList) {
-        return std::unexpected(Base::KestError::unavailable(
-            (list + QStringLiteral(": it is too large to be read.")).toStdString()));
-    }
-    return recentFilesIn(file.readAll(), most);
+    const QByteArray bytes = file.readAll();
+    return file.error() == QFileDevice::NoError ? recentFilesIn(bytes, most) : unreadable();
 }
 
 } // namespace Velvetnook

@@ -25,11 +25,13 @@ struct RecentFile {
 QString recentFileList();
 
 // The latest of the files in such a list, each once, the last used first. What a program has
-// marked as its own alone, and what lies on other machines, is left out. A list that breaks off
-// gives what stands before.
-std::vector<RecentFile> recentFilesIn(const QByteArray &list, std::size_t most);
+// marked as its own alone, and what lies on other machines, is left out. Fails for a list that
+// is damaged: what stands before the damage would look like all there is.
+[[nodiscard]] Base::Result<std::vector<RecentFile>> recentFilesIn(const QByteArray &list,
+                                                                  std::size_t most);
 
-// Reads it; one that is not there is empty. Fails with unavailable, and for a list too large.
+// Reads it; one that is not there, or in which nothing stands yet, is empty. Fails in one way,
+// also where it may not be read or is too large.
 [[nodiscard]] Base::Result<std::vector<RecentFile>> readRecentFiles(const QString &list,
                                                                     std::size_t most);
 

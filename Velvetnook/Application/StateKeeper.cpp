@@ -17,7 +17,8 @@ Committed committedAll(KestCore::Snapshot snapshot)
 
 StateKeeper::StateKeeper(std::filesystem::path file, KestCore::StateStore store,
                          QObject *parent)
-    : QObject{parent}, m_slot{Slot{.file = std::move(file), .store = std::move(store)}}
+    : QObject{parent}, m_file{file},
+      m_slot{Slot{.file = std::move(file), .store = std::move(store)}}
 {
 }
 

@@ -44,6 +44,7 @@ public:
     StateKeeper(const StateKeeper &) = delete;
     StateKeeper &operator=(const StateKeeper &) = delete;
 
+    const std::filesystem::path &file() const { return m_file; }
     void perform(Operation operation, Answer answer);
 
     // Gives the store up for another program and calls `lent` once its lock is free.
@@ -73,6 +74,7 @@ private:
     void sendWaiting();
     auto onMainThread();
 
+    std::filesystem::path m_file;
     Base::Serial<Slot> m_slot;
     std::deque<Waiting> m_waiting;
     bool m_isLent = false;

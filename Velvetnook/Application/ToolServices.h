@@ -25,8 +25,10 @@ class SoundMixer;
 struct ToolServices {
     // These are called on a worker thread, and may block there.
     std::function<Base::Result<std::unique_ptr<Base::HttpTransport>>()> openTransport{};
-    // Asks the user for a password only where that is allowed.
-    std::function<Base::SecretResult<std::unique_ptr<Base::SecretStore>>(Keyring::Prompts)>
+    // Asks the user for a password only where that is allowed, and stops waiting for an answer
+    // when asked to.
+    std::function<Base::SecretResult<std::unique_ptr<Base::SecretStore>>(
+        Keyring::Prompts, const std::stop_token &)>
         openSecrets{};
     std::function<Base::Result<std::vector<BrowserBridge::BrowserTab>>(std::uint16_t port)>
         browserTabs{};

@@ -60,8 +60,9 @@ public:
 ClipboardDesktop quietDesktop(std::optional<Failure> failure = {})
 {
     ClipboardDesktop desktop;
-    desktop.watch = [](const auto &, const auto &) { return std::make_unique<QuietWatch>(); };
-    desktop.openKeyring = [failure](bool) -> ClipboardDesktop::Keyring {
+    desktop.watch = [](const auto &) { return std::make_unique<QuietWatch>(); };
+    desktop.openKeyring = [failure](bool,
+                                    const std::stop_token &) -> ClipboardDesktop::Keyring {
         if (failure) {
             return std::unexpected(*failure);
         }
@@ -218,7 +219,7 @@ std::function<void(App &)> soon(Act act)
 void wait(App &app)
 {
     ClipboardDesktop desktop = quietDesktop();
-    desktop.openKeyring = [](bool) -> ClipboardDesktop::Keyring {
+    desktop.openKeyring = [](bool, const std::stop_token &) -> ClipboardDesktop::Keyring {
         std::this_thread::sleep_for(std::chrono::seconds{2});
         return std::make_unique<ShotKeyring>();
     };

@@ -268,7 +268,7 @@ std::function<void(App &)> withAccount(std::string key, CannedTransport::Answer 
                                      std::make_unique<CannedTransport>(answer)};
                              },
                          .openSecrets =
-                             [key](Keyring::Prompts) {
+                             [key](Keyring::Prompts, const std::stop_token &) {
                                  return std::unique_ptr<Base::SecretStore>{
                                      std::make_unique<CannedSecrets>(key)};
                              }});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KestCore/Clipboard/ClipboardVault.h"
 
+#include "Base/FileLock.h"
 #include "KestCore/Clipboard/ClipboardKey.h"
 #include "tests/TemporaryFolder.h"
 
@@ -28,7 +29,12 @@ class TestPasteboard : public Pasteboard
 {
 public:
     std::int64_t changeCount() override { return count; }
-    std::vector<std::string> types() override { return markers; }
+    Result<std::vector<std::string>> types() override
+    {
+        ++asked;
+        return asked > silences ? Result<std::vector<std::string>>{markers}
+                                : std::unexpected(KestError::unavailable("silent"));
+    }
     std::optional<std::string> marker(std::string_view) override { return hint; }
     std::optional<std::string> ownerApplication() override { return owner; }
     Result<std::optional<std::vector<ClipboardFileReference>>> readFiles() override
@@ -78,6 +84,8 @@ public:
     Result<std::optional<Bytes>> image{};
     std::optional<std::string> text{"there before"};
     bool isBroken = false;
+    int asked = 0;    // which forms there are
+    int silences = 0; // so often there is no answer
     int reads = 0;
     int copiesWhileRead = 0;
     bool copiesAfterWrite = false;
@@ -162,6 +170,30 @@ TEST_F(ClipboardVaultTest, KeepsWhatIsCopiedOnceAndOnlyWhileItRecords)
                                       "link  https://example.org/a?b ", "text one"));
 }
 
+// A program that is busy for a while has not copied nothing.
+TEST_F(ClipboardVaultTest, AsksAgainWhoDoesNotAnswer)
+{
+    board.silences = ClipboardReader::kMostTries - 1;
+    board.copy("late");
+    for (int tried = 1; tried < ClipboardReader::kMostTries; ++tried) {
+        EXPECT_EQ(poll(), Poll::unchanged);
+    }
+    EXPECT_EQ(poll(), Poll::kept);
+    for (const char *text : {"never", "never either"}) {
+        SCOPED_TRACE(text);
+        board.asked = 0;
+        board.silences = 100;
+        board.copy(text);
+        for (int tried = 1; tried < ClipboardReader::kMostTries; ++tried) {
+            EXPECT_EQ(poll(), Poll::unchanged);
+        }
+        EXPECT_EQ(pollError(), "silent");
+        EXPECT_EQ(poll(), Poll::unchanged);
+        EXPECT_EQ(board.asked, ClipboardReader::kMostTries);
+    }
+    EXPECT_THAT(listed(), ElementsAre("text late"));
+}
+
 TEST_F(ClipboardVaultTest, ReadsNothingOfWhatMustNotBeKept)
 {
     set("clipboard.exclusions", "org.one, org.two ,,org.three");
@@ -244,7 +276,7 @@ TEST_F(ClipboardVaultTest, SaysWhyACopyCannotBeKeptAndWaitsForAnother)
              Case{"Clipboard image is too large or could not be read.",
                   [&] { board.image = Bytes(4'000'001, 1); }},
              Case{"Clipboard image is too large or could not be read.",
-                  [&] { board.image = std::unexpected(KestError::unavailable("gone")); }},
+                  [&] { board.image = std::unexpected(KestError::invalidData("odd")); }},
              Case{"Clipboard image could not be decoded", [&] { board.image = Bytes{0}; }},
              Case{"These clipboard file references could not be saved.",
                   [&] { board.files = {31, ClipboardFileReference{"n", {1}}}; }},
@@ -351,7 +383,11 @@ public:
         if (failure) {
             return std::unexpected(*failure);
         }
-        return account == "clipboard.key" ? kept : std::nullopt;
+        const auto before = account == "clipboard.key" ? kept : std::nullopt;
+        if (madeByAnother) {
+            kept = std::exchange(madeByAnother, std::nullopt);
+        }
+        return before;
     }
     Base::SecretResult<> write(std::string_view, std::span<const std::uint8_t> secret) override
     {
@@ -368,6 +404,7 @@ public:
     }
 
     std::optional<Base::SecretBytes> kept{};
+    std::optional<Base::SecretBytes> madeByAnother{}; // right behind the first look
     std::optional<Base::SecretFailure> failure{};
     bool refusesWrites = false;
 };
@@ -377,7 +414,7 @@ public:
 TEST(ClipboardKey, IsMadeOnceAndOnlyWhereItIsKept)
 {
     const TemporaryFolder folder;
-    const auto store = StateStore::open(folder.database()).value();
+    const auto store = folder.database();
     TestSecrets secrets;
     EXPECT_FALSE(keptClipboardKey(secrets).value());
     EXPECT_FALSE(secrets.kept) << "looking makes no key";
@@ -397,6 +434,33 @@ TEST(ClipboardKey, IsMadeOnceAndOnlyWhereItIsKept)
     secrets.failure->kind = Base::SecretFailure::Kind::noService;
     EXPECT_EQ(availabilityOf(clipboardKey(secrets, store).error().kind),
               Availability::unconfigured);
+}
+
+TEST(ClipboardKey, OfTwoFirstUsesOneMakesIt)
+{
+    const TemporaryFolder folder;
+    TestSecrets secrets;
+    const Base::SecretBytes another(32, 7);
+    secrets.madeByAnother = another;
+    const auto key = clipboardKey(secrets, folder.database());
+    ASSERT_TRUE(key);
+    EXPECT_TRUE(std::ranges::equal(key->bytes(), another));
+    EXPECT_EQ(secrets.kept, another);
+}
+
+TEST(ClipboardKey, IsNotMadeWhileAnotherProgramMakesOne)
+{
+    const TemporaryFolder folder;
+    const auto lock = Base::FileLock::take(folder.path() / "kest.key.lock", "The key",
+                                           std::chrono::milliseconds{0});
+    ASSERT_TRUE(lock);
+    TestSecrets secrets;
+    std::stop_source stop;
+    stop.request_stop(); // who waits for the other one can be told not to
+    const auto key = clipboardKey(secrets, folder.database(), stop.get_token());
+    ASSERT_FALSE(key);
+    EXPECT_THAT(key.error().message, testing::HasSubstr("The clipboard's key is in use by"));
+    EXPECT_FALSE(secrets.kept);
 }
 
 } // namespace KestCoreTests

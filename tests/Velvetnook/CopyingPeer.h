@@ -21,6 +21,7 @@ public:
     struct Offer {
         std::map<std::string, std::string> forms{};
         bool isSilent = false;     // never answers
+        int unanswered = 0;        // or not so many of the first questions
         bool isInPieces = false;   // sends 60,000 bytes at a time
         bool isEndless = false;    // and never comes to an end
         bool stopsHalfway = false; // or sends one piece and no more
@@ -62,6 +63,12 @@ public:
         const std::scoped_lock lock{m_mutex};
         return m_requests;
     }
+    // Bytes of what is sent in pieces.
+    std::size_t given() const
+    {
+        const std::scoped_lock lock{m_mutex};
+        return m_given;
+    }
     // Of content, not of what there is and how it is marked.
     std::vector<std::string> asked() const
     {
@@ -75,6 +82,7 @@ private:
         xcb_atom_t property{};
         xcb_atom_t form{};
         std::string rest{};
+        std::size_t at{};
         bool isEndless{};
         bool isStopping{};
         bool isOver{};
@@ -108,7 +116,7 @@ private:
     void answer(const xcb_selection_request_event_t &request)
     {
         ++m_requests;
-        if (m_offer.isSilent) {
+        if (m_offer.isSilent || m_offer.unanswered-- > 0) {
             return;
         }
         const auto name = Velvetnook::Xcb::reply(xcb_get_atom_name_reply, server(),
@@ -171,10 +179,11 @@ private:
         if (change.state != XCB_PROPERTY_DELETE || found == m_sendings.end() || found->isOver) {
             return;
         }
-        const std::string piece = found->rest.substr(0, kPiece);
+        const std::string piece = found->rest.substr(found->at, kPiece);
         if (!found->isEndless) {
-            found->rest.erase(0, piece.size());
+            found->at += piece.size();
         }
+        m_given += piece.size();
         found->isOver = piece.empty() || found->isStopping;
         xcb_change_property(server(), XCB_PROP_MODE_REPLACE, found->requestor, found->property,
                             found->form, 8, static_cast<std::uint32_t>(piece.size()),
@@ -189,6 +198,7 @@ private:
     Offer m_offer;
     std::vector<Sending> m_sendings;
     int m_requests = 0;
+    std::size_t m_given = 0;
     std::vector<std::string> m_asked;
     std::jthread m_worker; // last, so that it is joined first
 };

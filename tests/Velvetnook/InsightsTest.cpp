@@ -85,13 +85,13 @@ public:
         setenv("KEST_STRIPE_URL", server.url().c_str(), 1);
         server.on(kBalance, balance());
         m_view.emplace(running.model(), running.formatting(),
-                       std::make_shared<const ToolServices>(
-                           ToolServices{.openTransport = [] { return Web::openTransport(); },
-                                        .openSecrets =
-                                            [this](Keyring::Prompts prompts) {
-                                                return std::unique_ptr<Base::SecretStore>{
-                                                    std::make_unique<RingStore>(ring, prompts)};
-                                            }}));
+                       std::make_shared<const ToolServices>(ToolServices{
+                           .openTransport = [] { return Web::openTransport(); },
+                           .openSecrets =
+                               [this](Keyring::Prompts prompts, const std::stop_token &) {
+                                   return std::unique_ptr<Base::SecretStore>{
+                                       std::make_unique<RingStore>(ring, prompts)};
+                               }}));
     }
 
     InsightsViewModel &view() { return *m_view; }

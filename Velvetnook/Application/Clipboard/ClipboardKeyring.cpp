@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <filesystem>
+
 namespace Velvetnook
 {
 
@@ -22,6 +24,15 @@ Base::AesKey copyOf(const Base::AesKey &key)
 {
     auto copy = Base::AesKey::fromBytes(key.bytes());
     return copy ? *std::move(copy) : Base::AesKey::random(); // 32 bytes are always a key
+}
+
+using Got = Base::SecretResult<Base::AesKey>;
+
+Got ask(const decltype(ClipboardDesktop::openKeyring) &open, bool mayAsk,
+        const std::filesystem::path &database, const std::stop_token &stop)
+{
+    KEST_TRY(const auto secrets, open(mayAsk, stop));
+    return KestCore::clipboardKey(*secrets, database, stop);
 }
 
 } // namespace
@@ -63,59 +74,18 @@ void ClipboardKeyring::want(bool mayAsk)
     m_isOpening = true;
     m_failure.reset();
     emit changed();
-    m_asking = std::jthread{[open = m_open, mayAsk, self = QPointer{this}] {
-        Answer answer{.secrets = nullptr, .kept = std::nullopt};
-        if (auto opened = open(mayAsk)) {
-            answer.kept = KestCore::keptClipboardKey(**opened);
-            answer.secrets = *std::move(opened);
-        } else {
-            answer.kept = std::unexpected(std::move(opened).error());
-        }
-        auto shared = std::make_shared<Answer>(std::move(answer));
+    m_asking = std::jthread{[open = m_open, mayAsk, database = m_model.keeper().file(),
+                             self = QPointer{this}](const std::stop_token &stop) {
+        auto got = std::make_shared<Got>(ask(open, mayAsk, database, stop));
         QMetaObject::invokeMethod(
             qApp,
-            [self, shared] {
+            [self, got] {
                 if (self) {
-                    self->take(std::move(*shared));
+                    self->finish(std::move(*got));
                 }
             },
             Qt::QueuedConnection);
     }};
-}
-
-void ClipboardKeyring::take(Answer answer)
-{
-    if (!answer.kept) {
-        finish(std::unexpected(std::move(answer.kept).error()));
-        return;
-    }
-    std::optional<Base::AesKey> &kept = *answer.kept;
-    if (kept) {
-        finish(*std::move(kept));
-    } else {
-        makeKey(std::move(answer.secrets));
-    }
-}
-
-void ClipboardKeyring::makeKey(std::unique_ptr<Base::SecretStore> secrets)
-{
-    using Made = Base::SecretResult<Base::AesKey>;
-    const auto made = std::make_shared<std::optional<Made>>();
-    m_model.perform(
-        [secrets = std::shared_ptr<Base::SecretStore>{std::move(secrets)},
-         made](KestCore::StateStore &store) -> Base::Result<Committed> {
-            *made = KestCore::clipboardKey(*secrets, store);
-            return Committed{};
-        },
-        [self = QPointer{this}, made](const Base::Result<void> &result) {
-            if (self && *made) {
-                self->finish(std::move(**made));
-            } else if (self) {
-                self->finish(std::unexpected(
-                    Base::SecretFailure{.kind = Base::SecretFailure::Kind::failed,
-                                        .message = result ? "" : result.error().message}));
-            }
-        });
 }
 
 void ClipboardKeyring::finish(Base::SecretResult<Base::AesKey> outcome)

@@ -17,8 +17,9 @@ namespace Velvetnook
 
 class ApplicationModel;
 
-// Has the clipboard's key, once somebody has wanted it and the keyring has given it. Where the
-// keyring keeps none yet, one is made on the store's thread: only its owner may.
+// Has the clipboard's key, once somebody has wanted it and the keyring has given it. The
+// keyring is asked, and given a key where it keeps none yet, on a thread of its own: it may ask
+// the user and take minutes. The end of this stops that wait.
 class ClipboardKeyring : public QObject
 {
     Q_OBJECT
@@ -47,18 +48,10 @@ signals:
     void changed();
 
 private:
-    using Kept = Base::SecretResult<std::optional<Base::AesKey>>;
-    struct Answer {
-        std::unique_ptr<Base::SecretStore> secrets;
-        Kept kept{};
-    };
-
-    void take(Answer answer);
-    void makeKey(std::unique_ptr<Base::SecretStore> secrets);
     void finish(Base::SecretResult<Base::AesKey> outcome);
 
     ApplicationModel &m_model;
-    std::function<ClipboardDesktop::Keyring(bool)> m_open;
+    decltype(ClipboardDesktop::openKeyring) m_open;
     std::unique_ptr<Base::AesKey> m_key;
     bool m_isOpening = false;
     std::optional<Base::SecretFailure::Kind> m_failure{};

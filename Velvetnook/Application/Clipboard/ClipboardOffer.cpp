@@ -50,15 +50,10 @@ bool putOnClipboard(const KestCore::ClipboardPayload &payload)
     return clipboard->ownsClipboard();
 }
 
-bool OfferingPasteboard::reaches(const KestCore::ClipboardFileReference &file)
-{
-    return isReached(file);
-}
-
 Base::Result<void> OfferingPasteboard::write(const KestCore::ClipboardPayload &payload)
 {
-    return putOnClipboard(payload) ? Base::Result<void>{}
-                                   : std::unexpected(Base::KestError::unavailable(""));
+    const bool isTaken = putOnClipboard(payload) && (!m_isOurs || m_isOurs());
+    return isTaken ? Base::Result<void>{} : std::unexpected(Base::KestError::unavailable(""));
 }
 
 } // namespace Velvetnook

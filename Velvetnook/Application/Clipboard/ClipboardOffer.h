@@ -11,12 +11,20 @@ namespace Velvetnook
 // Puts it on the clipboard of the desktop. On the main thread; false when that fails.
 bool putOnClipboard(const KestCore::ClipboardPayload &payload);
 
-// A clipboard that is only written to: for copying something back while nothing is watched.
+// The clipboard as it is written to, on the main thread. Whether files are where they were is
+// known beforehand, as a look at them may take its time.
 class OfferingPasteboard : public KestCore::Pasteboard
 {
 public:
+    OfferingPasteboard(bool areFilesThere, const std::function<bool()> &isOurs)
+        : m_areFilesThere{areFilesThere}, m_isOurs{isOurs}
+    {
+    }
     std::int64_t changeCount() override { return 0; }
-    std::vector<std::string> types() override { return {}; }
+    Base::Result<std::vector<std::string>> types() override
+    {
+        return std::vector<std::string>{};
+    }
     std::optional<std::string> marker(std::string_view) override { return std::nullopt; }
     std::optional<std::string> ownerApplication() override { return std::nullopt; }
     Base::Result<std::optional<std::vector<KestCore::ClipboardFileReference>>>
@@ -32,8 +40,12 @@ public:
     {
         return std::nullopt;
     }
-    bool reaches(const KestCore::ClipboardFileReference &file) override;
+    bool reaches(const KestCore::ClipboardFileReference &) override { return m_areFilesThere; }
     Base::Result<void> write(const KestCore::ClipboardPayload &payload) override;
+
+private:
+    bool m_areFilesThere;
+    const std::function<bool()> &m_isOurs;
 };
 
 } // namespace Velvetnook

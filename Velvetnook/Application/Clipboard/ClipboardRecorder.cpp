@@ -7,12 +7,14 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/Clipboard/ClipboardKeyring.h"
 #include "Velvetnook/Application/Clipboard/ClipboardOffer.h"
+#include "Velvetnook/Application/Clipboard/CopiedFiles.h"
 #include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/ToolChoice.h"
 
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace Velvetnook
@@ -28,6 +30,8 @@ namespace
 
 // A person does not copy more often than this.
 constexpr auto kShortestPause = 150ms;
+// For a program that did not answer: it may be busy.
+constexpr auto kAskAgainAfter = 1'000ms;
 
 // On the main thread, unless what asked for it is gone by then.
 template <class Owner, class Call>
@@ -81,21 +85,16 @@ void ClipboardRecorder::begin()
 {
     const QPointer self{this};
     m_isTold->store(false);
-    m_watch = m_desktop.watch(
-        [self, isTold = m_isTold] {
-            if (!isTold->exchange(true)) {
-                onMainThread(self, [](ClipboardRecorder &recorder) { recorder.hear(); });
-            }
-        },
-        [self](const ClipboardPayload &payload) {
-            onMainThread(self, [content = std::make_shared<Content>(payload)](
-                                   ClipboardRecorder &) { putOnClipboard(content->payload); });
-        });
+    m_watch = m_desktop.watch([self, isTold = m_isTold] {
+        if (!isTold->exchange(true)) {
+            onMainThread(self, [](ClipboardRecorder &recorder) { recorder.hear(); });
+        }
+    });
     m_isDeaf = m_watch == nullptr;
     if (m_watch != nullptr) {
         m_side = std::make_shared<Side>();
-        m_watch->ask([side = m_side](KestCore::Pasteboard &pasteboard) {
-            side->reader.emplace(pasteboard, &side->previews, 0);
+        m_watch->ask([side = m_side, own = m_own](KestCore::Pasteboard &pasteboard) {
+            side->reader.emplace(pasteboard, &side->previews, 0, own);
         });
     }
     emit changed();
@@ -153,6 +152,11 @@ void ClipboardRecorder::take(Reading reading)
 {
     if (!reading) {
         finish(std::unexpected(reading.error()));
+        return;
+    }
+    if (reading->found == ClipboardReader::Found::unanswered) {
+        m_isBusy = false;
+        m_pause.start(m_isNew ? kShortestPause : kAskAgainAfter);
         return;
     }
     std::optional<ClipboardPayload> &content = reading->content;
@@ -240,17 +244,16 @@ void ClipboardRecorder::copy(ClipboardPayload payload,
                              std::function<void(Base::Result<void>)> done)
 {
     const auto content = std::make_shared<Content>(std::move(payload));
-    if (m_watch == nullptr) {
-        OfferingPasteboard pasteboard;
-        ClipboardReader reader{pasteboard};
-        done(reader.write(content->payload));
-        return;
-    }
-    m_watch->ask([self = QPointer{this}, side = m_side, content, done](KestCore::Pasteboard &) {
-        // Behind the offer, which goes the same way.
-        onMainThread(self, [done, result = side->reader->write(content->payload)](
-                               ClipboardRecorder &) { done(result); });
-    });
+    m_writing.ask(
+        this,
+        [content](std::monostate &) {
+            return std::ranges::all_of(content->payload.files, &isReached);
+        },
+        [this, content, done = std::move(done)](bool areFilesThere) {
+            OfferingPasteboard pasteboard{areFilesThere, m_desktop.isOurs};
+            ClipboardReader writer{pasteboard, nullptr, 0, m_own};
+            done(writer.write(content->payload));
+        });
 }
 
 } // namespace Velvetnook

@@ -5,6 +5,7 @@
 #include "KestCore/Clipboard/ClipboardReader.h"
 #include "Velvetnook/Application/Clipboard/ClipboardDesktop.h"
 #include "Velvetnook/Application/Clipboard/ImagePreview.h"
+#include "Velvetnook/Application/SideThread.h"
 
 #include <QObject>
 #include <QTimer>
@@ -13,6 +14,7 @@
 #include <chrono>
 #include <memory>
 #include <optional>
+#include <variant>
 
 namespace Velvetnook
 {
@@ -42,7 +44,8 @@ public:
     // Why the last copy could not be kept; empty after the next that was.
     QString problem() const { return m_problem; }
 
-    // Puts it on the clipboard. `done` hears on the main thread whether that went well.
+    // Puts it on the clipboard, behind no reading. `done` hears on the main thread whether the
+    // clipboard has it now.
     void copy(KestCore::ClipboardPayload payload, std::function<void(Base::Result<void>)> done);
 
 signals:
@@ -83,12 +86,14 @@ private:
     bool m_isDeaf = false; // asked, the server said that it can't be watched
     std::shared_ptr<std::atomic<bool>> m_isTold = std::make_shared<std::atomic<bool>>(false);
     std::shared_ptr<Side> m_side;
+    std::shared_ptr<KestCore::OwnCopy> m_own = std::make_shared<KestCore::OwnCopy>();
     std::shared_ptr<Content> m_content;
     bool m_isBusy = false;
     bool m_isNew = false; // something was copied meanwhile
     std::chrono::steady_clock::time_point m_lastRead{};
     QTimer m_pause;
     QString m_problem;
+    SideThread<std::monostate> m_writing;    // looks at files before they are offered
     std::unique_ptr<ClipboardWatch> m_watch; // last: its thread uses what stands above
 };
 

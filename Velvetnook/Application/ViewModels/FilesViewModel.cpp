@@ -6,6 +6,7 @@
 #include "KestCore/SearchForm.h"
 #include "KestCore/Tools/RecordList.h"
 #include "Velvetnook/Application/ApplicationModel.h"
+#include "Velvetnook/Application/EngineText.h"
 #include "Velvetnook/Application/Formatting.h"
 #include "Velvetnook/Application/ListChange.h"
 #include "Velvetnook/Application/LocalDay.h"
@@ -176,7 +177,7 @@ FilesViewModel::Sight FilesViewModel::see(const QStringList &pinned)
     Sight sight;
     const auto recent = readRecentFiles(recentFileList(), kMostRecent);
     if (!recent) {
-        sight.failure = QString::fromStdString(recent.error().message);
+        sight.failure = engineText(recent.error().message);
     } else {
         for (const RecentFile &file : *recent) {
             FileGlance glance = glanceAt(file.path);

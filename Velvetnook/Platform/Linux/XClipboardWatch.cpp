@@ -24,15 +24,14 @@ void XClipboardWatch::Signal::lower() const
     eventfd_read(m_file, &count);
 }
 
-std::unique_ptr<ClipboardWatch> XClipboardWatch::begin(ClipboardDesktop::Changed changed,
-                                                       ClipboardDesktop::Offer offer)
+std::unique_ptr<ClipboardWatch> XClipboardWatch::begin(ClipboardDesktop::Changed changed)
 {
     std::unique_ptr<XClipboardWatch> watch{new XClipboardWatch{std::move(changed)}};
     auto selection = XSelection::open(watch->m_end.file());
     if (!selection) {
         return nullptr;
     }
-    watch->m_pasteboard = std::make_unique<XPasteboard>(std::move(selection), std::move(offer));
+    watch->m_pasteboard = std::make_unique<XPasteboard>(std::move(selection));
     watch->m_worker = std::jthread{[watch = watch.get()] { watch->run(); }};
     return watch;
 }

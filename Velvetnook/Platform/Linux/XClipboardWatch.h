@@ -18,8 +18,7 @@ class XClipboardWatch : public ClipboardWatch
 {
 public:
     // Null where there is no X server that tells.
-    static std::unique_ptr<ClipboardWatch> begin(ClipboardDesktop::Changed changed,
-                                                 ClipboardDesktop::Offer offer);
+    static std::unique_ptr<ClipboardWatch> begin(ClipboardDesktop::Changed changed);
     ~XClipboardWatch() override;
 
     void ask(Task task) override;

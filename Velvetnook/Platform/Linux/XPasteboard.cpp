@@ -37,25 +37,25 @@ std::string asText(const Base::Bytes &bytes)
 
 } // namespace
 
-// Asked once for each change: the answers go together.
-std::vector<std::string> XPasteboard::types()
+// Asked once for each change that is answered: the answers go together.
+Result<std::vector<std::string>> XPasteboard::types()
 {
     if (const std::int64_t change = changeCount(); change != m_askedChange) {
-        m_types = m_selection->forms();
+        KEST_TRY(m_types, m_selection->forms());
         m_askedChange = change;
     }
     return m_types;
 }
 
-std::string XPasteboard::firstOf(std::span<const char *const> forms)
+Result<std::string> XPasteboard::firstOf(std::span<const char *const> forms)
 {
-    const auto offered = types();
+    KEST_TRY(const auto offered, types());
     for (const char *form : forms) {
         if (std::ranges::find(offered, form) != offered.end()) {
             return form;
         }
     }
-    return {};
+    return std::string{};
 }
 
 std::optional<std::string> XPasteboard::marker(std::string_view type)
@@ -72,7 +72,8 @@ std::optional<std::string> XPasteboard::ownerApplication()
 Result<std::optional<std::vector<KestCore::ClipboardFileReference>>> XPasteboard::readFiles()
 {
     const char *const forms[]{kFileList};
-    if (firstOf(forms).empty()) {
+    KEST_TRY(const std::string form, firstOf(forms));
+    if (form.empty()) {
         return std::nullopt;
     }
     KEST_TRY(const auto list, m_selection->read(kFileList, kLongestFileList));
@@ -82,8 +83,9 @@ Result<std::optional<std::vector<KestCore::ClipboardFileReference>>> XPasteboard
 // Who offers a text besides, as the cells of a table do, means the text.
 Result<std::optional<Base::Bytes>> XPasteboard::readImage(std::size_t most)
 {
-    const std::string form = firstOf(kImageForms);
-    if (form.empty() || !firstOf(kTextForms).empty()) {
+    KEST_TRY(const std::string form, firstOf(kImageForms));
+    KEST_TRY(const std::string text, firstOf(kTextForms));
+    if (form.empty() || !text.empty()) {
         return std::nullopt;
     }
     return m_selection->read(form, most);
@@ -91,7 +93,7 @@ Result<std::optional<Base::Bytes>> XPasteboard::readImage(std::size_t most)
 
 Result<std::optional<std::string>> XPasteboard::readText(std::size_t most)
 {
-    const std::string form = firstOf(kTextForms);
+    KEST_TRY(const std::string form, firstOf(kTextForms));
     if (form.empty()) {
         return std::nullopt;
     }
@@ -113,10 +115,9 @@ bool XPasteboard::reaches(const KestCore::ClipboardFileReference &file)
     return isReached(file);
 }
 
-Result<void> XPasteboard::write(const KestCore::ClipboardPayload &payload)
+Result<void> XPasteboard::write(const KestCore::ClipboardPayload &)
 {
-    m_offer(payload);
-    return {};
+    return std::unexpected(Base::KestError::unavailable("It is only read here"));
 }
 
 } // namespace Velvetnook

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Velvetnook/Application/Clipboard/ClipboardDesktop.h"
+#include "KestCore/Clipboard/Pasteboard.h"
 #include "Velvetnook/Platform/Linux/XSelection.h"
 
 #include <span>
@@ -11,19 +11,20 @@ namespace Velvetnook
 {
 
 // The clipboard of the X server, in the forms in which programs here offer what was copied. A
-// program that is slow or silent offers nothing.
+// program that does not answer in time is told as such. It is only read here: what is put there
+// is put by the toolkit.
 class XPasteboard : public KestCore::Pasteboard
 {
 public:
-    XPasteboard(std::unique_ptr<XSelection> selection, ClipboardDesktop::Offer offer)
-        : m_selection{std::move(selection)}, m_offer{std::move(offer)}
+    explicit XPasteboard(std::unique_ptr<XSelection> selection)
+        : m_selection{std::move(selection)}
     {
     }
 
     XSelection &selection() { return *m_selection; }
 
     std::int64_t changeCount() override { return m_selection->changeCount(); }
-    std::vector<std::string> types() override;
+    Result<std::vector<std::string>> types() override;
     std::optional<std::string> marker(std::string_view type) override;
     std::optional<std::string> ownerApplication() override;
     Result<std::optional<std::vector<KestCore::ClipboardFileReference>>> readFiles() override;
@@ -33,10 +34,9 @@ public:
     Result<void> write(const KestCore::ClipboardPayload &payload) override;
 
 private:
-    std::string firstOf(std::span<const char *const> forms);
+    [[nodiscard]] Result<std::string> firstOf(std::span<const char *const> forms);
 
     std::unique_ptr<XSelection> m_selection;
-    ClipboardDesktop::Offer m_offer;
     std::int64_t m_askedChange = -1;
     std::vector<std::string> m_types; // of that change
 };

@@ -20,9 +20,14 @@ constexpr std::size_t kMostNames = 2'000; // that are remembered
 constexpr const char *kNoAnswer = "The application that copied does not answer.";
 constexpr const char *kTooLarge = "What was copied is too large to keep.";
 
-std::unexpected<Base::KestError> failure(const char *message)
+std::unexpected<Base::KestError> noAnswer()
 {
-    return std::unexpected(Base::KestError::unavailable(message));
+    return std::unexpected(Base::KestError::unavailable(kNoAnswer));
+}
+
+std::unexpected<Base::KestError> tooLarge()
+{
+    return std::unexpected(Base::KestError::invalidData(kTooLarge));
 }
 
 std::span<const std::uint8_t> bytesOf(const xcb_get_property_reply_t &property)
@@ -143,11 +148,11 @@ Result<Base::Bytes> XSelection::receivePieces(const Transfer &transfer)
         });
         const auto piece = told ? takeProperty(transfer) : nullptr;
         if (!piece) {
-            return failure(kNoAnswer);
+            return noAnswer();
         }
         const auto bytes = bytesOf(*piece);
         if (piece->bytes_after > 0 || whole.size() + bytes.size() > transfer.most) {
-            return failure(kTooLarge);
+            return tooLarge();
         }
         if (bytes.empty()) {
             return whole;
@@ -166,7 +171,7 @@ Result<std::optional<Base::Bytes>> XSelection::receive(const Transfer &transfer,
                    transfer.window;
     });
     if (!told) {
-        return failure(kNoAnswer);
+        return noAnswer();
     }
     const auto &answer = reinterpret_cast<const xcb_selection_notify_event_t &>(*told);
     if (answer.property == XCB_ATOM_NONE) {
@@ -181,12 +186,12 @@ Result<std::optional<Base::Bytes>> XSelection::receive(const Transfer &transfer,
         std::uint32_t least = 0; // what it says of the size
         std::memcpy(&least, bytes.data(), std::min(bytes.size(), sizeof least));
         if (least > transfer.most) {
-            return failure(kTooLarge);
+            return tooLarge();
         }
         return receivePieces(transfer);
     }
     if (property->bytes_after > 0 || bytes.size() > transfer.most) {
-        return failure(kTooLarge);
+        return tooLarge();
     }
     return Base::Bytes{bytes.begin(), bytes.end()};
 }
@@ -225,12 +230,12 @@ std::string XSelection::nameOf(xcb_atom_t atom)
     return name;
 }
 
-std::vector<std::string> XSelection::forms()
+Result<std::vector<std::string>> XSelection::forms()
 {
-    const auto answer = read("TARGETS", kMostForms * sizeof(xcb_atom_t));
+    KEST_TRY(const auto answer, read("TARGETS", kMostForms * sizeof(xcb_atom_t)));
     std::vector<std::string> names;
-    if (answer && answer->has_value()) {
-        const Base::Bytes &list = **answer;
+    if (answer) {
+        const Base::Bytes &list = *answer;
         for (std::size_t at = 0; at + sizeof(xcb_atom_t) <= list.size();
              at += sizeof(xcb_atom_t)) {
             xcb_atom_t atom = 0;

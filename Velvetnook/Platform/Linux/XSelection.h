@@ -38,11 +38,11 @@ public:
     xcb_window_t owner() const { return m_owner; }
 
     // What the selection is in this form; nothing where its owner does not give it. Fails when
-    // the owner does not answer, or gives more than `most` bytes.
+    // the owner does not answer (unavailable), or gives more than `most` bytes.
     [[nodiscard]] Result<std::optional<Base::Bytes>> read(const std::string &form,
                                                           std::size_t most);
-    // The names of the forms that its owner gives; empty when it does not say.
-    std::vector<std::string> forms();
+    // The names of the forms that its owner gives; empty when it does not say. Fails as `read`.
+    [[nodiscard]] Result<std::vector<std::string>> forms();
 
 private:
     using Clock = std::chrono::steady_clock;

@@ -55,7 +55,8 @@ InsightDesk::InsightDesk(std::shared_ptr<const ToolServices> services, QObject *
 {
 }
 
-InsightDesk::~InsightDesk() = default;
+// First nobody waits for the keyring any more, as the refresher waits for who does.
+InsightDesk::~InsightDesk() { m_end.request_stop(); }
 
 InsightDesk::Service &InsightDesk::service()
 {
@@ -72,7 +73,7 @@ InsightDesk::Answer InsightDesk::ask(Owned &owned, const Question &question,
     if (!owned.services->openSecrets || !owned.services->openTransport) {
         return refused(Availability::error, "There is no way to the providers here.");
     }
-    const auto secrets = owned.services->openSecrets(question.prompts);
+    const auto secrets = owned.services->openSecrets(question.prompts, stop);
     if (!secrets) {
         return refused(secrets.error());
     }
@@ -149,12 +150,12 @@ void InsightDesk::load(const Question &question, std::function<void(Answer)> don
 }
 
 std::string InsightDesk::put(Owned &owned, KestCore::InsightProvider provider,
-                             const std::optional<std::string> &key)
+                             const std::optional<std::string> &key, const std::stop_token &stop)
 {
     if (!owned.services->openSecrets) {
         return "There is no keyring (Secret Service) here to keep the key in.";
     }
-    const auto secrets = owned.services->openSecrets(Keyring::Prompts::allowed);
+    const auto secrets = owned.services->openSecrets(Keyring::Prompts::allowed, stop);
     if (!secrets) {
         return secrets.error().message;
     }
@@ -171,9 +172,9 @@ void InsightDesk::keep(KestCore::InsightProvider provider, std::optional<std::st
 {
     ++m_keys;
     service().owned.ask(
-        [provider, key = std::move(key)](Owned &owned) mutable {
+        [provider, key = std::move(key), stop = m_end.get_token()](Owned &owned) mutable {
             const Base::WipeAtEnd wiping{key};
-            return put(owned, provider, key);
+            return put(owned, provider, key, stop);
         },
         // The queue of this object dies with it, after its thread has ended.
         [this](auto call) {

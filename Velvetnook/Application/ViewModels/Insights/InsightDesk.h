@@ -58,10 +58,11 @@ private:
 
     static Answer ask(Owned &owned, const Question &question, const std::stop_token &stop);
     static std::string put(Owned &owned, KestCore::InsightProvider provider,
-                           const std::optional<std::string> &key);
+                           const std::optional<std::string> &key, const std::stop_token &stop);
     Service &service();
 
     std::shared_ptr<const ToolServices> m_services;
+    std::stop_source m_end;
     int m_keys = 0; // that were kept or forgotten: a report is that of its key
     std::shared_ptr<Service> m_service;
     std::unique_ptr<Refresher> m_refresher; // last: it uses the service
