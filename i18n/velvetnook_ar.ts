@@ -333,18 +333,6 @@
         <translation>المساعدون</translation>
     </message>
     <message>
-        <source>%1 is connected.</source>
-        <translation>رُبط %1.</translation>
-    </message>
-    <message>
-        <source>%1 is not connected any more.</source>
-        <translation>لم يعد %1 مربوطًا.</translation>
-    </message>
-    <message>
-        <source>%1 The file as it was: %2</source>
-        <translation>%1 الملف كما كان: %2</translation>
-    </message>
-    <message>
         <source>Reading the logs…</source>
         <translation>تجري قراءة السجلات…</translation>
     </message>
@@ -1546,10 +1534,6 @@
         <translation>لا يمكن فتح هذا العنصر المحفوظ.</translation>
     </message>
     <message>
-        <source>A copied file has moved or access was revoked. Copy it again from Finder.</source>
-        <translation>نُقل ملف منسوخ أو سُحب إذن الوصول إليه. انسخه مجددًا من مدير الملفات.</translation>
-    </message>
-    <message>
         <source>The clipboard could not be updated. Try copying again.</source>
         <translation>تعذّر تحديث الحافظة. حاول النسخ مجددًا.</translation>
     </message>
@@ -1964,6 +1948,18 @@
     <message>
         <source>%1: growing memory</source>
         <translation>%1: ذاكرة تنمو</translation>
+    </message>
+    <message>
+        <source>The list of recent files cannot be read.</source>
+        <translation>تتعذّر قراءة قائمة الملفات الأخيرة.</translation>
+    </message>
+    <message>
+        <source>The clipboard’s key is being made by %1. Try again.</source>
+        <translation>يُنشئ %1 مفتاح الحافظة الآن. حاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>A copied file has moved or access was revoked. Copy it again from the file manager.</source>
+        <translation>نُقل ملف منسوخ أو سُحب إذن الوصول إليه. انسخه مجددًا من مدير الملفات.</translation>
     </message>
 </context>
 <context>
@@ -6676,6 +6672,10 @@
         <source>Undo</source>
         <translation>تراجع</translation>
     </message>
+    <message>
+        <source>Not done: %1</source>
+        <translation>لم يتمّ ذلك: %1</translation>
+    </message>
 </context>
 <context>
     <name>Velvetnook::FileGlance</name>
@@ -6989,6 +6989,18 @@
     <message>
         <source>There is nothing to change in %1</source>
         <translation>لا شيء يُغيَّر في %1</translation>
+    </message>
+    <message>
+        <source>%1 is connected.</source>
+        <translation>رُبط %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not connected any more.</source>
+        <translation>لم يعد %1 مربوطًا.</translation>
+    </message>
+    <message>
+        <source>%1 The file as it first was: %2</source>
+        <translation>%1 الملف كما كان في الأصل: %2</translation>
     </message>
 </context>
 <context>
@@ -8535,6 +8547,14 @@
     <message>
         <source>City</source>
         <translation>مدينة</translation>
+    </message>
+    <message>
+        <source>Ask MET Norway for the forecast</source>
+        <translation>طلب التوقّعات من MET Norway</translation>
+    </message>
+    <message>
+        <source>While you look, over the network. It is told where, to about a kilometre, and nothing else.</source>
+        <translation>ما دمت تنظر، عبر الشبكة. تُعطى المكان بدقّة كيلومتر تقريبًا ولا شيء غيره.</translation>
     </message>
 </context>
 <context>
