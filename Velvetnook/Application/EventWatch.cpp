@@ -6,6 +6,8 @@
 #include "Velvetnook/Application/ApplicationModel.h"
 #include "Velvetnook/Application/ToolChoice.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 #include <utility>
 
@@ -60,22 +62,37 @@ void EventWatch::read()
     if (m_paths.empty()) {
         m_watch.stop();
         m_readAt.reset();
+        m_isAskedAgain = false;
         return take({});
     }
+    m_isAskedAgain = m_isReading;
+    if (std::exchange(m_isReading, true)) {
+        return;
+    }
     m_readAt = m_model.now();
+    // One that has just begun is still told of.
+    const CalendarQuestion question{.sources = m_paths,
+                                    .calendar = m_model.calendar(),
+                                    .now = m_model.now() - kEventNowTime};
     m_side.ask(
-        this,
-        [question = CalendarQuestion{.sources = m_paths,
-                                     .calendar = m_model.calendar(),
-                                     .now = m_model.now()}](CalendarReader &reader) {
-            CalendarReading reading = reader.read(question);
-            reader.forget(); // it is hours until the next time
-            return reading;
-        },
-        [this, asked = m_paths](const CalendarReading &reading) {
+        this, [question](CalendarReader &reader) { return reader.read(question); },
+        [this, asked = m_paths,
+         since = QDateTime::currentDateTime()](const CalendarReading &reading) {
+            m_isReading = false;
             if (asked == m_paths) {
-                m_watch.watch(reading.places);
+                m_watch.watch(reading.places, since);
                 take(reading);
+            }
+            if (std::exchange(m_isAskedAgain, false)) {
+                read();
+            } else { // it is hours until the next time
+                m_side.ask(
+                    this,
+                    [](CalendarReader &reader) {
+                        reader.forget();
+                        return true;
+                    },
+                    [](bool) {});
             }
         });
 }

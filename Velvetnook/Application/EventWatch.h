@@ -57,6 +57,8 @@ private:
     std::vector<std::string> m_paths; // empty: there is nothing to look for
     std::optional<UpcomingEvent> m_next;
     std::optional<Base::Instant> m_readAt;
+    bool m_isReading = false;
+    bool m_isAskedAgain = false; // while it was reading
     FileWatch m_watch;
     SideThread<CalendarReader> m_side; // last: it is waited for before what it tells goes
 };

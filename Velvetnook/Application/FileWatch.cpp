@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "Velvetnook/Application/FileWatch.h"
 
-#include <QDateTime>
 #include <QFileInfo>
 
 #include <chrono>
@@ -75,7 +74,7 @@ void FileWatch::hear(const QString &path)
     }
 }
 
-void FileWatch::watch(const QStringList &paths)
+void FileWatch::watch(const QStringList &paths, const QDateTime &since)
 {
     QStringList wanted = paths.mid(0, kMost);
     wanted.removeAll(QString{});
@@ -90,9 +89,9 @@ void FileWatch::watch(const QStringList &paths)
     if (m_watcher == nullptr) {
         start();
     }
-    const QDateTime since = QDateTime::currentDateTime().addMSecs(-kClockStepMs);
-    QMetaObject::invokeMethod(m_watcher, [this, watcher = m_watcher, wanted, since] {
-        for (const QString &path : follow(*watcher, wanted, since)) {
+    const QDateTime from = since.addMSecs(-kClockStepMs);
+    QMetaObject::invokeMethod(m_watcher, [this, watcher = m_watcher, wanted, from] {
+        for (const QString &path : follow(*watcher, wanted, from)) {
             QMetaObject::invokeMethod(this, [this, path] { hear(path); }, Qt::QueuedConnection);
         }
     });

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QStringList>
@@ -26,9 +27,9 @@ public:
     FileWatch(const FileWatch &) = delete;
     FileWatch &operator=(const FileWatch &) = delete;
 
-    // These and no others, from now on: what changes before the thread has come to them is
-    // told.
-    void watch(const QStringList &paths);
+    // These and no others, from now on, or from when they were read: what has changed before
+    // the thread comes to them is told.
+    void watch(const QStringList &paths, const QDateTime &since = QDateTime::currentDateTime());
     void stop() { watch({}); }
 
 signals:

@@ -225,17 +225,19 @@ void CalendarPageViewModel::read()
                                      .now = m_model.now()}](CalendarReader &reader) {
             return reader.read(question);
         },
-        [this](CalendarReading reading) { takeReading(std::move(reading)); });
+        [this, since = QDateTime::currentDateTime()](CalendarReading reading) {
+            takeReading(std::move(reading), since);
+        });
 }
 
 // What has been asked for another month meanwhile is still on its way.
-void CalendarPageViewModel::takeReading(CalendarReading reading)
+void CalendarPageViewModel::takeReading(CalendarReading reading, const QDateTime &since)
 {
     if (!m_isShown || m_paths.empty() ||
         reading.firstDay != dayNumberOf(m_month.days.front().date)) {
         return;
     }
-    m_watch.watch(reading.places);
+    m_watch.watch(reading.places, since);
     m_reading = std::move(reading);
     m_isRead = true;
     show();

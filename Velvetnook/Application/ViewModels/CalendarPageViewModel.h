@@ -108,7 +108,7 @@ private:
     void arrange();
     void show();
     void read();
-    void takeReading(CalendarReading reading);
+    void takeReading(CalendarReading reading, const QDateTime &since);
     std::optional<Base::Instant> nextChange(Base::Instant now) const;
     void store(const std::string &path);
     void refuse(const QString &reason);
