@@ -5781,14 +5781,6 @@
         <translation>لم يُجرَّب هنا: لا يطلبه إلا التطبيق وهو يعمل.</translation>
     </message>
     <message>
-        <source>On Wayland only X11 windows pass the key on.</source>
-        <translation>في Wayland لا تمرّر المفتاح إلا نوافذ X11.</translation>
-    </message>
-    <message>
-        <source>This session lets no program listen for a key.</source>
-        <translation>لا تتيح هذه الجلسة لبرنامج أن يصغي إلى مفتاح.</translation>
-    </message>
-    <message>
         <source>In the desktop&apos;s keyboard settings, bind a key to: kest palette toggle</source>
         <translation>في إعدادات لوحة المفاتيح اربط مفتاحًا بالأمر: kest palette toggle</translation>
     </message>

@@ -94,21 +94,20 @@ Level levelOf(HotkeyState::Level level)
 
 Capability hotkey(const SessionFacts &facts)
 {
-    Capability found{.id = QStringLiteral("hotkey"), .name = tr("Key for the palette")};
-    if (facts.hasXServer && !isWayland(facts)) {
-        found.level = levelOf(facts.hotkey.level);
-        found.reason = facts.hotkey.reason;
-        if (found.level == Level::full) {
-            found.reason = tr("Works in every window.");
-        } else if (found.level == Level::unknown) {
-            found.reason = tr("Not tried here: only the running application asks for it.");
-        }
-        return found;
+    Capability found{.id = QStringLiteral("hotkey"),
+                     .name = tr("Key for the palette"),
+                     .level = levelOf(facts.hotkey.level),
+                     .reason = facts.hotkey.reason};
+    if (found.level == Level::unknown) {
+        found.reason = tr("Not tried here: only the running application asks for it.");
+    } else if (found.level == Level::full && found.reason.isEmpty()) {
+        found.reason = tr("Works in every window.");
     }
-    found.level = facts.hasXServer ? Level::degraded : Level::off;
-    found.reason = facts.hasXServer ? tr("On Wayland only X11 windows pass the key on.")
-                                    : tr("This session lets no program listen for a key.");
-    found.wayOut = tr("In the desktop's keyboard settings, bind a key to: kest palette toggle");
+    const bool isTheDesktops = !facts.hasXServer || isWayland(facts);
+    if (isTheDesktops && found.level != Level::full) {
+        found.wayOut =
+            tr("In the desktop's keyboard settings, bind a key to: kest palette toggle");
+    }
     return found;
 }
 

@@ -8,6 +8,7 @@
 #include "Velvetnook/Application/ViewModels/PaletteViewModel.h"
 #include "Velvetnook/Application/ViewModels/Settings/ShortcutSettings.h"
 #include "Velvetnook/Platform/Linux/PortalKeys.h"
+#include "Velvetnook/Platform/Linux/SessionProbe.h"
 #include "Velvetnook/Platform/XKeyboard.h"
 #include "Velvetnook/Platform/Xcb.h"
 
@@ -73,8 +74,7 @@ GlobalKeys::GlobalKeys(ApplicationModel &model, PaletteViewModel &palette,
             extension && extension->present != 0 ? extension->first_event : std::uint8_t{0};
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
-    const bool isWayland = qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String{"wayland"};
-    if (m_server == nullptr || isWayland) {
+    if (m_server == nullptr || sessionType() == QLatin1String{"wayland"}) {
         m_portal = new PortalKeys{session, this};
         connect(m_portal, &PortalKeys::stateChanged, this, &GlobalKeys::followSoon);
         connect(m_portal, &PortalKeys::activated, this, [this](const QString &target) {
@@ -228,10 +228,13 @@ void GlobalKeys::tellPalette()
 {
     const auto found = std::ranges::find(m_bindings, "command", &ShortcutBinding::target);
     const bool isSet = found != m_bindings.end();
-    const QString text = isSet ? shortcutText(*found) : QString{};
     const HotkeyState state =
         isSet ? stateOf("command")
               : HotkeyState{.level = Level::off, .reason = tr("No key is set.")};
+    // A desktop may have given another than was wished for.
+    const bool isAsWished =
+        m_portal == nullptr || (state.level == Level::full && state.reason.isEmpty());
+    const QString text = isSet && isAsWished ? shortcutText(*found) : QString{};
     if (m_palette.hotkeyText() != text || m_palette.hotkey() != state) {
         m_palette.setHotkey(text, state);
     }

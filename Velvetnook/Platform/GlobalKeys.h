@@ -48,7 +48,8 @@ public:
 
     // Nothing until the server was asked for it.
     HotkeyState stateOf(const std::string &target) const;
-    // Lets go of all of them, so that one can be typed into the settings.
+    // Lets go of all of them, so that one can be typed into the settings. Those that a desktop
+    // has given stay the desktop's, and do nothing meanwhile.
     void setPaused(bool isPaused);
 
 signals:

@@ -14,6 +14,7 @@
 #include "bench/XKeys.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
 #include <QElapsedTimer>
 #include <QQmlEngine>
 #include <QTemporaryDir>
@@ -216,7 +217,7 @@ std::vector<Bench::Row> paletteSuite()
     if (!window.prepare()) {
         Bench::giveUp("the palette cannot be made");
     }
-    const GlobalKeys hotkey{model, *app.palette()};
+    const GlobalKeys hotkey{model, *app.palette(), QDBusConnection::sessionBus()};
     settle(500);
     const auto more = measureShowing(keys, app, window);
     rows.insert(rows.end(), more.begin(), more.end());

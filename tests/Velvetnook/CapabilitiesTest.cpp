@@ -89,19 +89,24 @@ TEST(Capabilities, TheKindOfSessionDecidesAboutTheStripAndTheKey)
         const char *type;
         bool hasXServer;
         Level edge;
+        HotkeyState::Level told; // by who has asked for the key
         Level hotkey;
     };
-    for (const auto &[name, type, hasXServer, edge, hotkey] : {
-             Case{"X11", "x11", true, Level::full, Level::full},
-             Case{"startx", "tty", true, Level::full, Level::full},
-             Case{"XWayland", "wayland", true, Level::degraded, Level::degraded},
-             Case{"Wayland alone", "wayland", false, Level::off, Level::off},
-             Case{"a terminal", "tty", false, Level::off, Level::off},
+    using Told = HotkeyState::Level;
+    for (const auto &[name, type, hasXServer, edge, told, hotkey] : {
+             Case{"X11", "x11", true, Level::full, Told::full, Level::full},
+             Case{"startx", "tty", true, Level::full, Told::full, Level::full},
+             Case{"XWayland, and the desktop gave it", "wayland", true, Level::degraded,
+                  Told::full, Level::full},
+             Case{"Wayland, and it did not", "wayland", false, Level::off, Told::degraded,
+                  Level::degraded},
+             Case{"a terminal", "tty", false, Level::off, Told::untried, Level::unknown},
          }) {
         SCOPED_TRACE(name);
         SessionFacts facts = wholeDesktop();
         facts.sessionType = QString::fromLatin1(type);
         facts.hasXServer = hasXServer;
+        facts.hotkey = {.level = told, .reason = {}};
         const auto all = capabilitiesOf(facts);
         EXPECT_EQ(find(all, "edge").level, edge);
         EXPECT_EQ(find(all, "hotkey").level, hotkey);

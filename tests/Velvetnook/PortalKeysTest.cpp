@@ -58,11 +58,12 @@ public:
         m_bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
     }
 
-    uint failure = 0;     // of the question to the user; 1: they said no
-    QStringList withheld; // the targets that get no key
-    QStringList asked;    // "target trigger", of the last question
-    QStringList closed;   // sessions
-    QString session;      // the newest
+    uint failure = 0;      // of the question to the user; 1: they said no
+    bool isAsking = false; // the user, who does not answer
+    QStringList withheld;  // the targets that get no key
+    QStringList asked;     // "target trigger", of the last question
+    QStringList closed;    // sessions and requests
+    QString session;       // the newest
 
     void press(const QString &inSession, const QString &target)
     {
@@ -76,6 +77,12 @@ public:
         }
         send(QStringLiteral("ShortcutsChanged"),
              {QVariant::fromValue(QDBusObjectPath{session}), QVariant::fromValue(m_given)});
+    }
+    void takeBack()
+    {
+        m_bus.send(QDBusMessage::createSignal(session,
+                                              QStringLiteral("org.freedesktop.portal.Session"),
+                                              QStringLiteral("Closed")));
     }
     void vanish() { m_bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop")); }
     void comeBack() { m_bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop")); }
@@ -107,7 +114,9 @@ public:
         } else {
             answer << failure << bind(arguments.at(1).value<QDBusArgument>());
         }
-        m_bus.send(answer);
+        if (isSession || !isAsking) {
+            m_bus.send(answer);
+        }
         m_bus.send(message.createReply(QVariant::fromValue(QDBusObjectPath{request})));
         return true;
     }
@@ -206,6 +215,23 @@ TEST_F(PortalKeysTest, TakesTheKeysThatTheDesktopGives)
     EXPECT_TRUE(RunningModel::waitUntil([&] { return !m_summoned.isEmpty(); }));
     EXPECT_EQ(m_summoned, QStringList{"dock"});
     EXPECT_EQ(palette.count(), 1);
+
+    desktop.takeBack();
+    EXPECT_TRUE(becomes("dock", Level::degraded));
+}
+
+TEST_F(PortalKeysTest, LeavesNoQuestionOpenWhenItAsksAnother)
+{
+    FakeDesktop desktop{m_bus.connect()};
+    desktop.isAsking = true; // the user has not answered yet
+    listen();
+    ASSERT_TRUE(RunningModel::waitUntil([&] { return !desktop.asked.isEmpty(); }));
+    const QString first = desktop.session;
+    bindDock(36);
+    ASSERT_TRUE(RunningModel::waitUntil([&] { return desktop.asked.size() == 2; }));
+    ASSERT_EQ(desktop.closed.size(), 2);
+    EXPECT_TRUE(desktop.closed.first().contains(QLatin1String{"/request/"}));
+    EXPECT_EQ(desktop.closed.last(), first);
 }
 
 TEST_F(PortalKeysTest, SaysWhatIsInTheWayAndNamesTheWayRound)

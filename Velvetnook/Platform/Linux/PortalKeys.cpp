@@ -42,6 +42,8 @@ const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
+const QString kSession = QStringLiteral("org.freedesktop.portal.Session");
+const QString kClosed = QStringLiteral("Closed");
 const QString kResponse = QStringLiteral("Response");
 constexpr uint kCancelled = 1; // by the user; every other failure is the portal's
 
@@ -74,8 +76,11 @@ PortalKeys::PortalKeys(const QDBusConnection &bus, QObject *parent)
     m_bus.connect(kService, kPath, kInterface, QStringLiteral("ShortcutsChanged"), this,
                   SLOT(hearChange(QDBusObjectPath, QDBusMessage)));
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString &, const QString &, const QString &owner) {
-                m_session.clear(); // it went with who had it
+            [this](const QString &, const QString &before, const QString &owner) {
+                if (before.isEmpty() && m_state == State::asking) {
+                    return; // it was started by our own question
+                }
+                leaveSession();
                 stopHearing();
                 if (owner.isEmpty()) {
                     setState(State::absent);
@@ -107,24 +112,57 @@ std::optional<QString> PortalKeys::givenTo(const QString &target) const
     return found == m_given.end() ? std::nullopt : std::optional{*found};
 }
 
+// The portal names what comes into being after who asked and the token that was handed over.
+QString PortalKeys::placeOf(const char *what, const QString &token) const
+{
+    const QString sender =
+        m_bus.baseService().mid(1).replace(QLatin1Char{'.'}, QLatin1Char{'_'});
+    return kPath + QStringLiteral("/%1/%2/%3").arg(QLatin1String{what}, sender, token);
+}
+
 void PortalKeys::begin()
 {
     m_given.clear();
     setState(State::asking);
-    request(
-        callOf(QStringLiteral("CreateSession")),
-        {{QStringLiteral("session_handle_token"), QStringLiteral("velvetnook%1").arg(m_count)}},
-        SLOT(hearSession(uint, QVariantMap)));
+    const QString token = QStringLiteral("velvetnook%1").arg(m_count);
+    m_session = placeOf("session", token);
+    m_bus.connect(kService, m_session, kSession, kClosed, this, SLOT(hearClosed()));
+    request(callOf(QStringLiteral("CreateSession")),
+            {{QStringLiteral("session_handle_token"), token}},
+            SLOT(hearSession(uint, QVariantMap)));
 }
 
+// A question that is still open on the screen goes as well.
 void PortalKeys::end()
 {
-    stopHearing();
-    if (!m_session.isEmpty()) {
-        m_bus.send(QDBusMessage::createMethodCall(
-            kService, std::exchange(m_session, {}),
-            QStringLiteral("org.freedesktop.portal.Session"), QStringLiteral("Close")));
+    const auto close = [this](const QString &path, const QString &interface) {
+        m_bus.send(
+            QDBusMessage::createMethodCall(kService, path, interface, QStringLiteral("Close")));
+    };
+    if (!m_request.isEmpty()) {
+        close(m_request, kRequest);
+        stopHearing();
     }
+    if (!m_session.isEmpty()) {
+        close(m_session, kSession);
+        leaveSession();
+    }
+}
+
+void PortalKeys::leaveSession()
+{
+    if (!m_session.isEmpty()) {
+        m_bus.disconnect(kService, m_session, kSession, kClosed, this, SLOT(hearClosed()));
+        m_session.clear();
+    }
+}
+
+void PortalKeys::hearClosed()
+{
+    leaveSession();
+    stopHearing();
+    m_given.clear();
+    setState(State::refused);
 }
 
 // The answer may be there before the call returns, so it is listened for first, at the place
@@ -132,9 +170,7 @@ void PortalKeys::end()
 void PortalKeys::request(QDBusMessage call, QVariantMap options, const char *answer)
 {
     const QString token = QStringLiteral("velvetnook%1").arg(m_count++);
-    const QString sender =
-        m_bus.baseService().mid(1).replace(QLatin1Char{'.'}, QLatin1Char{'_'});
-    m_request = kPath + QStringLiteral("/request/%1/%2").arg(sender, token);
+    m_request = placeOf("request", token);
     m_answer = answer;
     m_bus.connect(kService, m_request, kRequest, kResponse, this, answer);
     options.insert(QStringLiteral("handle_token"), token);
@@ -144,6 +180,7 @@ void PortalKeys::request(QDBusMessage call, QVariantMap options, const char *ans
         [this, asked = m_request](const QDBusPendingReply<QDBusObjectPath> &reply) {
             if (reply.isError() && asked == m_request) {
                 stopHearing();
+                leaveSession();
                 setState(State::absent);
             }
         });
@@ -157,11 +194,11 @@ void PortalKeys::stopHearing()
     }
 }
 
-void PortalKeys::hearSession(uint failure, const QVariantMap &results)
+void PortalKeys::hearSession(uint failure, const QVariantMap &)
 {
     stopHearing();
-    m_session = results.value(QStringLiteral("session_handle")).toString();
-    if (failure != 0 || m_session.isEmpty()) {
+    if (failure != 0) {
+        leaveSession();
         setState(failure == kCancelled ? State::refused : State::absent);
         return;
     }

@@ -62,6 +62,7 @@ private slots:
     // Each is the desktop's answer to one request, which comes as a signal.
     void hearSession(uint failure, const QVariantMap &results);
     void hearKeys(uint failure, const QVariantMap &results);
+    void hearClosed(); // the session, by the desktop
     void hearChange(const QDBusObjectPath &session, const QDBusMessage &message);
     void hearKey(const QDBusObjectPath &session, const QString &target, qulonglong time,
                  const QVariantMap &options);
@@ -69,7 +70,9 @@ private slots:
 private:
     void begin();
     void end();
+    void leaveSession();
     void bind();
+    QString placeOf(const char *what, const QString &token) const;
     void request(QDBusMessage call, QVariantMap options, const char *answer);
     void stopHearing();
     void setState(State state);

@@ -21,6 +21,14 @@ const QString kLogin = QStringLiteral("org.freedesktop.login1");
 
 } // namespace
 
+QString sessionType()
+{
+    const QString said = qEnvironmentVariable("XDG_SESSION_TYPE");
+    return said.isEmpty() && qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+               ? QStringLiteral("wayland")
+               : said;
+}
+
 SessionProbe::SessionProbe(QDBusConnection session, QDBusConnection system, QObject *parent)
     : QObject{parent}, m_session{std::move(session)}, m_system{std::move(system)}
 {
@@ -32,10 +40,7 @@ void SessionProbe::begin()
         return;
     }
     m_next = {};
-    m_next.sessionType = qEnvironmentVariable("XDG_SESSION_TYPE");
-    if (m_next.sessionType.isEmpty() && qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
-        m_next.sessionType = QStringLiteral("wayland");
-    }
+    m_next.sessionType = sessionType();
     m_next.desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
     m_next.soundServer = PulseSounds::server();
     m_next.hasSessionBus = m_session.isConnected();

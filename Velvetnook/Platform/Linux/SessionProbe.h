@@ -11,6 +11,9 @@ namespace Velvetnook
 {
 
 // Finds out what the session gives. Starts nothing that does not run yet.
+// "x11", "wayland" or what else the session says of itself; may be empty.
+QString sessionType();
+
 class SessionProbe : public QObject
 {
     Q_OBJECT
