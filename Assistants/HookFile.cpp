@@ -141,14 +141,15 @@ Result<PlannedChange> planHooks(const HookTool &tool, HookChange change, const f
 
 Result<std::optional<fs::path>> writeHooks(const PlannedChange &plan)
 {
-    KEST_TRY(const auto copy, keepFirstCopy(plan));
     KEST_TRY(auto file, Base::ReplacingFile::create(plan.file));
     KEST_CHECK(file.write(plan.after));
-    // The tool itself may have written meanwhile.
+    // The tool itself may have written since the change was planned; then nothing is kept
+    // either, as the copy would not be the file as it was.
     KEST_TRY(const auto now, ownFile(plan.file));
     if (now != plan.before) {
         return refuse(plan.file, "It has changed just now; try again");
     }
+    KEST_TRY(const auto copy, keepFirstCopy(plan));
     KEST_CHECK(file.commit());
     return copy;
 }

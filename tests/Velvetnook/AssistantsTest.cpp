@@ -278,6 +278,7 @@ TEST_F(HooksTest, RefusesAFileThatChangedOrCannotBeUnderstood)
     ASSERT_TRUE(RunningModel::waitUntil([&] { return !m_page->problem().isEmpty(); }));
     EXPECT_TRUE(m_page->problem().contains(u"It has changed just now"));
     EXPECT_EQ(text(kHooks), "{\"model\": \"m\"}\n");
+    EXPECT_EQ(text(std::string{kHooks} + ".before-velvetnook"), ""); // it would be outdated
 
     write(kHooks, "{ \"hooks\": [ }", std::ios::trunc);
     EXPECT_EQ(state(0), "error");
