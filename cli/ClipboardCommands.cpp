@@ -54,10 +54,11 @@ std::invoke_result_t<Work, ClipboardHistory &> withHistory(const Session &sessio
              orRefuse(Keyring::open(Console::isInteractive() ? Keyring::Prompts::allowed
                                                              : Keyring::Prompts::never)));
     KEST_TRY(auto key, orRefuse(KestCore::keptClipboardKey(*secrets)));
-    KEST_TRY(auto store, session.openStore());
     if (!key) {
+        KEST_CHECK(session.openStore()); // makes the folder, in which the key's lock lies
         KEST_TRY(key, orRefuse(KestCore::clipboardKey(*secrets, session.databaseFile())));
     }
+    KEST_TRY(auto store, session.openStore());
     ClipboardHistory history{store, *std::move(key)};
     KEST_CHECK(history.applyRetention(Base::wallClock()));
     return work(history);
