@@ -386,7 +386,7 @@ public:
         m_fonts.join();
         if (m_isOurs) {
             (void)QFontMetricsF{QGuiApplication::font()}.height();
-            unsetenv(kVariable);
+            qunsetenv(kVariable);
         }
     }
 
@@ -452,7 +452,7 @@ int main(int argc, char **argv)
     LastWords lastWords;
     QGuiApplication application{argc, argv};
     if (isOurDisplay) {
-        unsetenv("QT_QPA_PLATFORM"); // what is started from here chooses for itself
+        qunsetenv("QT_QPA_PLATFORM"); // what is started from here chooses for itself
     }
     lastWords.displayIsOpen();
     QGuiApplication::setApplicationName(QStringLiteral("velvetnook"));

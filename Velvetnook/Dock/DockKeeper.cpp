@@ -22,7 +22,9 @@ DockKeeper::DockKeeper(QQmlEngine &engine, ApplicationModel &model, App &app,
     : QObject{parent}, m_engine{engine}, m_model{model}, m_app{app}, m_steady{std::move(steady)}
 {
     connect(&model, &ApplicationModel::companionChanged, this, &DockKeeper::follow);
-    follow();
+    if (model.companion().dock.enabled) {
+        make(); // at once: who has asked for it may open it next
+    }
 }
 
 DockKeeper::~DockKeeper() { drop(); }
