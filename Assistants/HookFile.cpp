@@ -53,7 +53,7 @@ Result<std::optional<std::string>> ownFile(const fs::path &file)
 // What lies there already is older than the first of our changes.
 Result<std::optional<fs::path>> keepFirstCopy(const PlannedChange &plan)
 {
-    const fs::path copy{plan.file.string() + ".before-velvetnook"};
+    fs::path copy{plan.file.string() + ".before-velvetnook"};
     struct stat about{};
     if (::lstat(copy.c_str(), &about) == 0) {
         return copy;
@@ -149,7 +149,7 @@ Result<std::optional<fs::path>> writeHooks(const PlannedChange &plan)
     if (now != plan.before) {
         return refuse(plan.file, "It has changed just now; try again");
     }
-    KEST_TRY(const auto copy, keepFirstCopy(plan));
+    KEST_TRY(auto copy, keepFirstCopy(plan));
     KEST_CHECK(file.commit());
     return copy;
 }

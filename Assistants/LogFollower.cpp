@@ -49,6 +49,16 @@ std::string_view lastLineOf(std::string_view lines)
     return lines.substr(beginOfLastLine(lines));
 }
 
+// As pread does, but goes on where a signal came between.
+ssize_t readAt(int descriptor, std::span<char> into, std::uint64_t offset)
+{
+    ssize_t got = -1;
+    do {
+        got = ::pread(descriptor, into.data(), into.size(), static_cast<off_t>(offset));
+    } while (got < 0 && errno == EINTR);
+    return got;
+}
+
 } // namespace
 
 std::optional<LogStatus> logStatus(const std::filesystem::path &file)
@@ -85,11 +95,7 @@ LogFollower::follow(const std::filesystem::path &file, LogPlace &place,
             place.offset += std::exchange(held, 0);
         }
         const ssize_t got =
-            ::pread(descriptor.get(), m_buffer.data() + held, m_buffer.size() - held,
-                    static_cast<off_t>(place.offset + held));
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
+            readAt(descriptor.get(), std::span{m_buffer}.subspan(held), place.offset + held);
         if (got < 0) {
             return refused(file);
         }

@@ -35,7 +35,6 @@
 #include "Velvetnook/Shell/Theme.h"
 
 #include <QDBusConnection>
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -274,6 +273,7 @@ void Running::needTheRest()
     if (std::exchange(m_hasRest, true)) {
         return;
     }
+    endTextPreparation();
     followWishes();
     m_desktop.begin();
     m_app.monitor()->begin(monitorOfHost(m_file.parent_path()));
@@ -376,35 +376,8 @@ void Running::openOnboarding()
     m_onboarding->present();
 }
 
-// How text is drawn is told by the environment, which what is started from here must not
-// inherit. It is read with the first text that is measured.
-class TextDrawing
-{
-public:
-    void finish()
-    {
-        m_fonts.join();
-        if (m_isOurs) {
-            (void)QFontMetricsF{QGuiApplication::font()}.height();
-            qunsetenv(kVariable);
-        }
-    }
-
-private:
-    static constexpr const char *kVariable = "FREETYPE_PROPERTIES";
-    static bool prepare()
-    {
-        const bool isOurs = !qEnvironmentVariableIsSet(kVariable);
-        prepareText();
-        return isOurs;
-    }
-
-    bool m_isOurs = prepare();
-    std::jthread m_fonts{readFontList};
-};
-
 int run(const Launch &launch, BusActivation &activation, LastWords &lastWords,
-        TextDrawing &text)
+        std::jthread fonts)
 {
     FirstSurface surface;
     const std::filesystem::path file = KestCore::dataDirectory() / KestCore::kDatabaseName;
@@ -413,7 +386,7 @@ int run(const Launch &launch, BusActivation &activation, LastWords &lastWords,
         store->leaveClipboardOnDisk();
     }
     auto first = store ? store->snapshot() : std::unexpected(store.error());
-    text.finish();
+    fonts.join();
     if (!first) {
         return showFailure(first.error(), file, activation);
     }
@@ -448,7 +421,8 @@ int main(int argc, char **argv)
     }
     keepMemorySmall();
     chooseRenderer();
-    TextDrawing text;
+    prepareText();
+    std::jthread fonts{readFontList};
     LastWords lastWords;
     QGuiApplication application{argc, argv};
     if (isOurDisplay) {
@@ -465,5 +439,5 @@ int main(int argc, char **argv)
     if (const auto status = claim(*activation, launch)) {
         return *status;
     }
-    return run(launch, *activation, lastWords, text);
+    return run(launch, *activation, lastWords, std::move(fonts));
 }

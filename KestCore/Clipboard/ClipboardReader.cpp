@@ -113,9 +113,7 @@ Result<ClipboardReader::Reading> ClipboardReader::readChange(std::int64_t change
     }
     m_own->forget(ownBefore); // not what was put there meanwhile
     KEST_CHECK(prepareImage(*payload));
-    Reading reading{.found = Found::content, .content = std::move(payload)};
-    payload.reset();
-    return reading;
+    return Reading{.found = Found::content, .content = std::exchange(payload, std::nullopt)};
 }
 
 // Asks for marks only: of what must not be kept, not a byte is read.

@@ -17,6 +17,7 @@ namespace
 [[maybe_unused]] constexpr const char *kTexts[]{
     QT_TRANSLATE_NOOP("Engine", "Sustained disk activity exceeded your threshold."),
     QT_TRANSLATE_NOOP("Engine", "Sustained network activity exceeded your threshold."),
+    // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): one text in two lines
     QT_TRANSLATE_NOOP("Engine", "Its process footprint grew over the last hour. Review the app "
                                 "to see why."),
     QT_TRANSLATE_NOOP("Engine", "This process has ended already."),
@@ -136,7 +137,7 @@ constexpr Pattern kPatterns[]{
      QT_TRANSLATE_NOOP("Engine", "%1: It is larger than a megabyte")},
     {"^(/.*): It has changed just now; try again$",
      QT_TRANSLATE_NOOP("Engine", "%1: It has changed just now; try again")},
-    {"^(/.*): It is not written as strict JSON\\. Nothing was changed$",
+    {R"(^(/.*): It is not written as strict JSON\. Nothing was changed$)",
      QT_TRANSLATE_NOOP("Engine", "%1: It is not written as strict JSON. Nothing was changed")},
     {"^Check the (.*) key and website selection \\(HTTP (.*)\\)\\.$",
      QT_TRANSLATE_NOOP("Engine", "Check the %1 key and website selection (HTTP %2).")},

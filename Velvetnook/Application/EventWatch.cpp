@@ -86,13 +86,7 @@ void EventWatch::read()
             if (std::exchange(m_isAskedAgain, false)) {
                 read();
             } else { // it is hours until the next time
-                m_side.ask(
-                    this,
-                    [](CalendarReader &reader) {
-                        reader.forget();
-                        return true;
-                    },
-                    [](bool) {});
+                m_side.tell(this, [](CalendarReader &reader) { reader.forget(); });
             }
         });
 }

@@ -38,6 +38,19 @@ public:
             std::move(done));
     }
 
+    // The same without a result.
+    template <class Op>
+    void tell(QObject *context, Op op)
+    {
+        ask(
+            context,
+            [op = std::move(op)](T &held) mutable {
+                op(held);
+                return true;
+            },
+            [](bool) {});
+    }
+
 private:
     std::optional<Base::Serial<T>> m_serial;
 };

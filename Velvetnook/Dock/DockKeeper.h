@@ -28,6 +28,8 @@ public:
     DockKeeper(QQmlEngine &engine, ApplicationModel &model, App &app,
                std::function<double()> steady, QObject *parent = nullptr);
     ~DockKeeper() override;
+    DockKeeper(const DockKeeper &) = delete;
+    DockKeeper &operator=(const DockKeeper &) = delete;
 
 private:
     void follow();

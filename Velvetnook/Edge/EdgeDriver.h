@@ -67,10 +67,12 @@ protected:
     void followDialogs();
     void settle();
 
+    // NOLINTBEGIN(misc-non-private-member-variables-in-classes): the two edges steer with them
     ApplicationModel &m_model;
     KestCore::NotchInteraction m_notch;
     bool m_isInside = false;
     bool m_isPressed = false;
+    // NOLINTEND(misc-non-private-member-variables-in-classes)
 
 private:
     void setTimer();

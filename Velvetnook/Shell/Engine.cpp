@@ -17,6 +17,8 @@
 #include "Velvetnook/Shell/Theme.h"
 #include "Velvetnook/Shell/WeatherChart.h"
 
+#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QQuickWindow>
 
 #include <fontconfig/fontconfig.h>
@@ -39,17 +41,28 @@ void registerSingleton(const char *name, const std::shared_ptr<const Singletons>
         });
 }
 
+constexpr const char *kTextVariable = "FREETYPE_PROPERTIES";
+constexpr const char *kTextChoice = "cff:darkening-parameters=500,90,1000,70,1667,70,2333,0";
+
 } // namespace
 
 void prepareText()
 {
     // Qt has FreeType thicken the stems of such fonts as Inter by more than the eye wants, and
-    // light text on dark then looks a weight bolder than it is.
-    if (!qEnvironmentVariableIsSet("FREETYPE_PROPERTIES")) {
-        qputenv("FREETYPE_PROPERTIES",
-                "cff:darkening-parameters=500,90,1000,70,1667,70,2333,0");
+    // light text on dark then looks a weight bolder than it is. The user's own choice stays.
+    if (!qEnvironmentVariableIsSet(kTextVariable)) {
+        qputenv(kTextVariable, kTextChoice);
     }
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+}
+
+void endTextPreparation()
+{
+    if (qgetenv(kTextVariable) == kTextChoice) {
+        // It is read with the first text that is measured, and there may have been none yet.
+        (void)QFontMetricsF{QGuiApplication::font()}.height();
+        qunsetenv(kTextVariable);
+    }
 }
 
 // Qt finds it read. It takes as long as connecting to the display does.

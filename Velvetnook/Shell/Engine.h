@@ -20,6 +20,8 @@ struct Singletons {
 
 // Sets how text is drawn; before the QGuiApplication is made.
 void prepareText();
+// Takes back what was put into the environment for it, before another program is started.
+void endTextPreparation();
 
 // Has the list of the installed fonts read, which can be done while the QGuiApplication is
 // made, and on another thread; it must be there before the first font is asked for.

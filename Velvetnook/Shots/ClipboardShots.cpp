@@ -57,7 +57,7 @@ public:
     void ask(Task) override {}
 };
 
-ClipboardDesktop quietDesktop(std::optional<Failure> failure = {})
+ClipboardDesktop quietDesktop(const std::optional<Failure> &failure = {})
 {
     ClipboardDesktop desktop;
     desktop.watch = [](const auto &) { return std::make_unique<QuietWatch>(); };
@@ -162,7 +162,8 @@ void fillMuch(ShotData &data)
 }
 
 Shot clipboard(const char *name, std::function<void(ShotData &)> prepare,
-               std::function<void(App &)> arrange = {}, std::optional<Failure> failure = {})
+               std::function<void(App &)> arrange = {},
+               const std::optional<Failure> &failure = {})
 {
     return {.name = QLatin1String{name},
             .surface = QStringLiteral("Panel"),
@@ -228,6 +229,7 @@ void wait(App &app)
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-function-size): one row a picture
 std::vector<Shot> clipboardShots()
 {
     const Failure locked{.kind = Failure::Kind::locked, .message = "The keyring is locked"};

@@ -288,7 +288,7 @@ std::string balance()
             fmt::format(R"({}{{"id":"txn_{}","amount":{},"fee":{},"currency":"{}","type":"{}",)"
                         R"("reporting_category":"{}","created":{},"description":"Order {}"}})",
                         number == 0 ? "" : ",", number, amount, fee, currency, category,
-                        category, now - daysAgo * 86'400, 1000 + number);
+                        category, now - std::int64_t{86'400} * daysAgo, 1000 + number);
         ++number;
     };
     constexpr std::array kDays{30, 42, 36, 50, 46, 62, 55, 70, 52, 66, 74, 61, 78, 86};

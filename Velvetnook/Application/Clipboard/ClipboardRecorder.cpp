@@ -159,13 +159,12 @@ void ClipboardRecorder::take(Reading reading)
         m_pause.start(m_isNew ? kShortestPause : kAskAgainAfter);
         return;
     }
-    std::optional<ClipboardPayload> &content = reading->content;
+    auto content = std::exchange(reading->content, std::nullopt);
     if (!content) {
         finish({});
         return;
     }
     m_content = std::make_shared<Content>(*std::move(content));
-    content.reset();
     keep();
 }
 

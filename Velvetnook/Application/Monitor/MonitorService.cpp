@@ -208,20 +208,15 @@ void MonitorService::dismiss(const std::string &alertId)
     }
 }
 
-MonitorService::Worker &MonitorService::worker()
-{
-    if (!m_worker) {
-        m_worker = std::make_unique<Worker>(MonitorWorker{*m_tools});
-    }
-    return *m_worker;
-}
-
 // Posted to the application: this may be on its way out when the worker answers.
 template <class Operation, class Answer>
 void MonitorService::ask(Operation operation, Answer answer)
 {
     if (!m_tools) {
         return;
+    }
+    if (!m_worker) {
+        m_worker = std::make_unique<Worker>(MonitorWorker{*m_tools});
     }
     const auto onMainThread = [owner = QPointer{this}](auto call) {
         auto shared = std::make_shared<decltype(call)>(std::move(call));
@@ -234,7 +229,7 @@ void MonitorService::ask(Operation operation, Answer answer)
             },
             Qt::QueuedConnection);
     };
-    worker().ask(std::move(operation), onMainThread, std::move(answer));
+    m_worker->ask(std::move(operation), onMainThread, std::move(answer));
 }
 
 void MonitorService::readChart(ChartQuestion question, std::function<void(ChartAnswer)> answer)

@@ -89,7 +89,6 @@ private:
     void sample(Base::Instant now);
     void take(MonitorReport report);
     void rest();
-    Worker &worker();
     template <class Operation, class Answer>
     void ask(Operation operation, Answer answer);
 

@@ -153,13 +153,7 @@ void CalendarPageViewModel::setShown(bool isShown)
         read();
     } else {
         m_watch.stop();
-        m_side.ask(
-            this,
-            [](CalendarReader &reader) {
-                reader.forget();
-                return true;
-            },
-            [](bool) {});
+        m_side.tell(this, [](CalendarReader &reader) { reader.forget(); });
     }
     m_model.clock().reschedule();
 }

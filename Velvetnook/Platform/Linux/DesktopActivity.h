@@ -24,7 +24,7 @@ public:
     QString problem() const override;
     std::optional<KestCore::FocusedApplication> application() const override;
     std::optional<Base::Seconds> idle() const override;
-    bool isLocked() const override { return m_power && m_power->isLocked(); }
+    bool isLocked() const override { return m_power != nullptr && m_power->isLocked(); }
 
 private:
     ForegroundWatch m_front;

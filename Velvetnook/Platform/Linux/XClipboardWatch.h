@@ -20,6 +20,8 @@ public:
     // Null where there is no X server that tells.
     static std::unique_ptr<ClipboardWatch> begin(ClipboardDesktop::Changed changed);
     ~XClipboardWatch() override;
+    XClipboardWatch(const XClipboardWatch &) = delete;
+    XClipboardWatch &operator=(const XClipboardWatch &) = delete;
 
     void ask(Task task) override;
 

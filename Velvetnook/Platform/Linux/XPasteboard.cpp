@@ -61,7 +61,11 @@ Result<std::string> XPasteboard::firstOf(std::span<const char *const> forms)
 std::optional<std::string> XPasteboard::marker(std::string_view type)
 {
     const auto read = m_selection->read(std::string{type}, kLongestMarker);
-    return read && read->has_value() ? std::optional{asText(**read)} : std::nullopt;
+    if (!read) {
+        return std::nullopt;
+    }
+    const auto &bytes = *read;
+    return bytes ? std::optional{asText(*bytes)} : std::nullopt;
 }
 
 std::optional<std::string> XPasteboard::ownerApplication()
@@ -101,11 +105,11 @@ Result<std::optional<std::string>> XPasteboard::readText(std::size_t most)
     if (!read) {
         return std::unexpected(read.error());
     }
-    const std::optional<Base::Bytes> &bytes = *read;
+    std::optional<Base::Bytes> &bytes = *read;
     std::optional<std::string> text;
     if (bytes) {
         text = asText(*bytes);
-        std::ranges::fill(**read, 0);
+        std::ranges::fill(*bytes, 0);
     }
     return text;
 }

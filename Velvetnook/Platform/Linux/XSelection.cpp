@@ -129,7 +129,7 @@ XSelection::waitFor(const Transfer &transfer,
 }
 
 // Told so, its owner goes on with the next piece.
-Xcb::Owned<xcb_get_property_reply_t> XSelection::takeProperty(const Transfer &transfer)
+Xcb::Owned<xcb_get_property_reply_t> XSelection::takeProperty(const Transfer &transfer) const
 {
     const auto words = static_cast<std::uint32_t>(transfer.most / 4 + 2);
     return Xcb::reply(xcb_get_property_reply, server(),

@@ -67,7 +67,7 @@ private:
     [[nodiscard]] Result<std::optional<Base::Bytes>> receive(const Transfer &transfer,
                                                              xcb_atom_t form);
     [[nodiscard]] Result<Base::Bytes> receivePieces(const Transfer &transfer);
-    Xcb::Owned<xcb_get_property_reply_t> takeProperty(const Transfer &transfer);
+    Xcb::Owned<xcb_get_property_reply_t> takeProperty(const Transfer &transfer) const;
     std::string nameOf(xcb_atom_t atom);
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_server;

@@ -239,9 +239,9 @@ void HookConnections::take(const Written &copy, bool isInFront, const QString &d
     }
     if (!copy) {
         emit told(engineText(copy.error().message));
-    } else if (*copy) {
+    } else if (const auto &kept = *copy) {
         emit told(tr("%1 The file as it first was: %2")
-                      .arg(done, QString::fromStdString((*copy)->filename().string())));
+                      .arg(done, QString::fromStdString(kept->filename().string())));
     } else {
         emit told(done);
     }

@@ -61,10 +61,21 @@ InsightDesk::~InsightDesk() { m_end.request_stop(); }
 InsightDesk::Service &InsightDesk::service()
 {
     if (!m_service) {
+        // NOLINTNEXTLINE(modernize-make-shared): what is on its thread cannot be moved
         m_service.reset(new Service{Base::Serial<Owned>{Owned{.services = m_services}}});
         m_refresher = std::make_unique<Refresher>();
     }
     return *m_service;
+}
+
+Base::Result<void> InsightDesk::makeClient(Owned &owned)
+{
+    if (!owned.client) {
+        KEST_TRY(owned.transport, owned.services->openTransport());
+        owned.client = std::make_unique<KestCore::DirectInsightsClient>(
+            *owned.transport, KestCore::insightHosts());
+    }
+    return {};
 }
 
 InsightDesk::Answer InsightDesk::ask(Owned &owned, const Question &question,
@@ -85,14 +96,8 @@ InsightDesk::Answer InsightDesk::ask(Owned &owned, const Question &question,
     if (!kept) {
         return refused(Availability::unconfigured, {});
     }
-    if (!owned.client) {
-        auto transport = owned.services->openTransport();
-        if (!transport) {
-            return refused(Availability::error, transport.error().message);
-        }
-        owned.transport = *std::move(transport);
-        owned.client = std::make_unique<KestCore::DirectInsightsClient>(
-            *owned.transport, KestCore::insightHosts());
+    if (const auto made = makeClient(owned); !made) {
+        return refused(Availability::error, made.error().message);
     }
     KestCore::DirectInsightsClient &client = *owned.client;
     if (question.waitsUntil && !client.waitsUntil(question.provider)) {

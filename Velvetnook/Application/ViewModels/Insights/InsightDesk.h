@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Result.h"
 #include "KestCore/Clients/InsightPeriod.h"
 #include "KestCore/Clients/InsightReport.h"
 #include "SecretService/SecretService.h"
@@ -56,6 +57,7 @@ private:
     struct Owned;
     struct Service;
 
+    static Base::Result<void> makeClient(Owned &owned);
     static Answer ask(Owned &owned, const Question &question, const std::stop_token &stop);
     static std::string put(Owned &owned, KestCore::InsightProvider provider,
                            const std::optional<std::string> &key, const std::stop_token &stop);

@@ -155,21 +155,17 @@ void ShelfViewModel::sweep()
             named.push_back(QString::fromStdString(record.body));
         }
     }
-    m_side.ask(
-        this,
-        [named](std::monostate &) {
-            QDir folder{pictureFolder()};
-            for (const QString &file :
-                 folder.entryList({QStringLiteral("picture-*.png")}, QDir::Files)) {
-                const bool isNamed = std::ranges::any_of(
-                    named, [&file](const QString &body) { return body.contains(file); });
-                if (!isNamed) {
-                    folder.remove(file);
-                }
+    m_side.tell(this, [named](std::monostate &) {
+        QDir folder{pictureFolder()};
+        for (const QString &file :
+             folder.entryList({QStringLiteral("picture-*.png")}, QDir::Files)) {
+            const bool isNamed = std::ranges::any_of(
+                named, [&file](const QString &body) { return body.contains(file); });
+            if (!isNamed) {
+                folder.remove(file);
             }
-            return true;
-        },
-        [](bool) {});
+        }
+    });
 }
 
 void ShelfViewModel::open(const QString &id)
