@@ -139,7 +139,7 @@ constexpr Pattern kPatterns[]{
      QT_TRANSLATE_NOOP("Engine", "%1: It has changed just now; try again")},
     {R"(^(/.*): It is not written as strict JSON\. Nothing was changed$)",
      QT_TRANSLATE_NOOP("Engine", "%1: It is not written as strict JSON. Nothing was changed")},
-    {"^Check the (.*) key and website selection \\(HTTP (.*)\\)\\.$",
+    {R"(^Check the (.*) key and website selection \(HTTP (.*)\)\.$)",
      QT_TRANSLATE_NOOP("Engine", "Check the %1 key and website selection (HTTP %2).")},
     {"^The player \"(.*)\" cannot do this: (.*)$",
      QT_TRANSLATE_NOOP("Engine", "The player “%1” cannot do this: %2")},

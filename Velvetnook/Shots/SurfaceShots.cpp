@@ -96,6 +96,12 @@ std::vector<Shot> stripShots()
         strip("mini", pinned("dhikr", "subhanallah", "arabic", "mini")),
         strip("long-arabic", pinned("dhikr", "subhanallahil-azim", "arabic", "compact")),
         strip("too-long", pinned("dhikr", "sayyid-al-istighfar", "arabic", "compact")),
+        strip("event", {},
+              [](App &app) {
+                  app.strip()->setNextEvent(
+                      UpcomingEvent{.title = QStringLiteral("Call with Amina"),
+                                    .start = kShotTime + 8 * kMinute});
+              }),
         strip("name", pinned("names", "as-salam", "arabic", "comfortable")),
         strip("name-compact", pinned("names", "as-salam", "arabic", "compact")),
         strip("counting", counted(21, false)),
